@@ -1,0 +1,67 @@
+// Colour books: named colours in readable files, found by book and colour name.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quor::cm {
+
+struct BookColor {
+    std::wstring name;
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+};
+
+struct ColorBook {
+    std::wstring name;
+    std::vector<BookColor> colors; // in the order of the file
+
+    // Without regard to case; null when the book has no such colour.
+    [[nodiscard]] const BookColor* find(std::wstring_view colorName) const;
+};
+
+struct ColorBookError {
+    std::filesystem::path file; // or the folder, when that could not be listed
+    std::size_t line = 0;       // from 1; 0 when the whole file is meant
+    std::wstring reason;
+
+    // "file, line n: reason".
+    [[nodiscard]] std::wstring message() const;
+};
+
+// One book from the text of a file: a line `book = "Name"` first, then lines `colour name = r,g,b`; blank lines and
+// lines that begin with # are skipped. Empty and `error` (line and reason) for a text that breaks a rule.
+[[nodiscard]] std::optional<ColorBook> parseColorBook(std::string_view utf8, ColorBookError& error);
+
+// All books of one folder (files *.book), sorted by name. A book that is broken, or has the name of another, is
+// reported and left out; a folder that does not exist holds no books.
+class ColorBooks {
+public:
+    [[nodiscard]] static ColorBooks load(const std::filesystem::path& folder);
+
+    [[nodiscard]] const std::vector<ColorBook>& books() const { return books_; }
+    [[nodiscard]] const std::vector<ColorBookError>& errors() const { return errors_; }
+    // Without regard to case; null when there is no such book.
+    [[nodiscard]] const ColorBook* find(std::wstring_view bookName) const;
+
+private:
+    void add(const std::filesystem::path& file);
+
+    std::vector<ColorBook> books_;
+    std::vector<ColorBookError> errors_;
+};
+
+// $QUOR_RESOURCES/colorbooks when that variable is set, else ../share/quor/colorbooks from the program's folder.
+[[nodiscard]] std::filesystem::path defaultColorBookFolder();
+
+// The books of the host, loaded at the first use from the folder set before, else from the default one.
+[[nodiscard]] const ColorBooks& colorBooks();
+// Takes another folder from now on.
+void setColorBookFolder(const std::filesystem::path& folder);
+
+} // namespace quor::cm

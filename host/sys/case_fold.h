@@ -1,0 +1,34 @@
+// Names and keywords without regard to case, the same in every locale: one character folds to one character.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace quor {
+
+// Simple case folding of Latin, Greek, Cyrillic, Armenian and full-width letters; every other character is itself.
+// A capital letter is a character that folds to another one.
+[[nodiscard]] wchar_t foldChar(wchar_t c);
+[[nodiscard]] std::wstring foldCase(std::wstring_view text);
+[[nodiscard]] bool equalFolded(std::wstring_view a, std::wstring_view b);
+[[nodiscard]] bool startsWithFolded(std::wstring_view text, std::wstring_view beginning);
+// Below, at or above zero as a stands before, with or after b in folded code point order.
+[[nodiscard]] int compareFolded(std::wstring_view a, std::wstring_view b);
+[[nodiscard]] std::size_t hashFolded(std::wstring_view text);
+
+// For containers that are searched without regard to case.
+struct FoldedHash {
+    using is_transparent = void;
+    std::size_t operator()(std::wstring_view text) const { return hashFolded(text); }
+};
+struct FoldedEqual {
+    using is_transparent = void;
+    bool operator()(std::wstring_view a, std::wstring_view b) const { return equalFolded(a, b); }
+};
+struct FoldedLess {
+    using is_transparent = void;
+    bool operator()(std::wstring_view a, std::wstring_view b) const { return compareFolded(a, b) < 0; }
+};
+
+} // namespace quor
