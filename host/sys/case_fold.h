@@ -7,8 +7,8 @@
 
 namespace quor {
 
-// Simple case folding of Latin, Greek, Cyrillic, Armenian and full-width letters; every other character is itself.
-// A capital letter is a character that folds to another one.
+// Simple case folding of Latin, Greek, Cyrillic, Armenian, circled and full-width letters and Roman numerals; every
+// other character is itself. Nothing outside ASCII folds into ASCII, so no look-alike passes for a keyword.
 [[nodiscard]] wchar_t foldChar(wchar_t c);
 [[nodiscard]] std::wstring foldCase(std::wstring_view text);
 [[nodiscard]] bool equalFolded(std::wstring_view a, std::wstring_view b);

@@ -68,9 +68,10 @@ public:
     }
     // The angle from this direction to v, 0 <= angle < 2 pi, counterclockwise as seen from the tip of `reference`.
     [[nodiscard]] double angleTo(const ZrGeVector3d& v, const ZrGeVector3d& reference) const {
+        constexpr double turn = 2 * std::numbers::pi;
         const double angle = angleTo(v);
         const bool clockwise = crossProduct(v).dotProduct(reference) < 0;
-        return clockwise ? 2 * std::numbers::pi - angle : angle;
+        return clockwise && turn - angle < turn ? turn - angle : angle;
     }
 
     // Turns by `angle` radians about `axis` through the origin, counterclockwise as seen from the axis' tip.

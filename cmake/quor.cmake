@@ -1,0 +1,24 @@
+# What every target of the project shares: warnings, sanitizers, the include root, and how sources are found.
+# Sources are globbed, so that a new file needs no second edit.
+
+add_library(quor_options INTERFACE)
+target_include_directories(quor_options INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(quor_options INTERFACE -Wall -Wextra -Wpedantic -Werror)
+if(QUOR_SANITIZE)
+  target_compile_options(quor_options INTERFACE -fsanitize=${QUOR_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(quor_options INTERFACE -fsanitize=${QUOR_SANITIZE})
+endif()
+
+# quor_sources(OUT [FOLDER…]): every .cpp below the folders (default: the current one).
+function(quor_sources out)
+  set(folders ${ARGN})
+  if(NOT folders)
+    set(folders .)
+  endif()
+  set(found "")
+  foreach(folder IN LISTS folders)
+    file(GLOB_RECURSE here CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
+    list(APPEND found ${here})
+  endforeach()
+  set(${out} ${found} PARENT_SCOPE)
+endfunction()

@@ -1,0 +1,32 @@
+#include "host/cm/rgb_text.h"
+
+namespace quor::cm {
+
+std::optional<int> parseWhole(std::wstring_view text, int largest) {
+    if (text.empty())
+        return std::nullopt;
+    std::int64_t value = 0;
+    for (const wchar_t c : text) {
+        if (c < L'0' || c > L'9')
+            return std::nullopt;
+        value = value * 10 + (c - L'0');
+        if (value > largest)
+            return std::nullopt;
+    }
+    return static_cast<int>(value);
+}
+
+std::optional<std::uint32_t> parseRgb(std::wstring_view text) {
+    const std::size_t first = text.find(L',');
+    const std::size_t second = first == std::wstring_view::npos ? first : text.find(L',', first + 1);
+    if (second == std::wstring_view::npos)
+        return std::nullopt;
+    const auto red = parseWhole(text.substr(0, first), 255);
+    const auto green = parseWhole(text.substr(first + 1, second - first - 1), 255);
+    const auto blue = parseWhole(text.substr(second + 1), 255);
+    if (!red || !green || !blue)
+        return std::nullopt;
+    return static_cast<std::uint32_t>(*red << 16 | *green << 8 | *blue);
+}
+
+} // namespace quor::cm

@@ -1,0 +1,16 @@
+// Whole numbers and "r,g,b" as people and colour books write them.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace quor::cm {
+
+// Decimal digits only, and at most `largest`.
+[[nodiscard]] std::optional<int> parseWhole(std::wstring_view text, int largest);
+
+// Three whole numbers 0 to 255 with commas between and nothing else, as 0xRRGGBB.
+[[nodiscard]] std::optional<std::uint32_t> parseRgb(std::wstring_view text);
+
+} // namespace quor::cm

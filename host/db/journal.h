@@ -1,0 +1,98 @@
+// The one place that records changes of a drawing for undo, and announces them. Undo and redo go the same way, so that
+// listeners are told of them as of the changes themselves.
+#pragma once
+
+#include "host/db/object_entry.h"
+#include "sdk/sys/string.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <utility>
+#include <variant>
+#include <vector>
+
+class ZrDbDatabaseReactor;
+
+namespace quor::db {
+
+class Database;
+
+class Journal {
+public:
+    explicit Journal(Database& database) : database_(database) {}
+    ~Journal();
+
+    // A group is what one command did; groups nest, only the outermost counts. One that changed nothing leaves no trace.
+    void begin(const ZrString& name);
+    void end();
+    // Takes back what the open group did so far and forgets it.
+    void rollback();
+    [[nodiscard]] bool isOpen() const { return depth_ > 0; }
+
+    // Takes back (restores) the last group; the name of its command, or nothing when there was none.
+    std::optional<ZrString> undo();
+    std::optional<ZrString> redo();
+    [[nodiscard]] std::size_t undoDepth() const { return undo_.size(); }
+    [[nodiscard]] std::size_t redoDepth() const { return redo_.size(); }
+
+    // Whether the drawing differs from when markSaved() was last called.
+    [[nodiscard]] bool isModified() const;
+    void markSaved();
+
+    void addReactor(ZrDbDatabaseReactor* reactor);
+    void removeReactor(ZrDbDatabaseReactor* reactor);
+    [[nodiscard]] const std::vector<ZrDbDatabaseReactor*>& reactors() const { return reactors_; }
+
+    // For host/db: what happened.
+    void appended(ObjectEntry& entry);
+    void aboutToModify(ObjectEntry& entry);
+    void modified(ObjectEntry& entry);
+    void erased(ObjectEntry& entry, bool erasing);
+    // `exchange` swaps the current value of a setting with the kept one; called by undo and redo alike.
+    void settingChanged(const ZrString& name, std::function<void()> exchange);
+
+private:
+    struct Append {
+        ObjectEntry* entry;
+    };
+    struct Modify {
+        ObjectEntry* entry;
+        std::unique_ptr<ZrDbObjectData> other;
+        bool otherChanged;
+    };
+    struct Erase {
+        ObjectEntry* entry;
+        bool erasing;
+    };
+    struct Setting {
+        ZrString name;
+        std::function<void()> exchange;
+    };
+    using Change = std::variant<Append, Modify, Erase, Setting>;
+    struct Group {
+        ZrString name;
+        std::vector<Change> changes;
+        std::size_t number = 0; // counts groups over the life of the drawing
+    };
+
+    void record(Change change);
+    void apply(Group& group, bool undoing);
+    void apply(Append& change, bool undoing);
+    void apply(Modify& change, bool undoing);
+    void apply(Erase& change, bool undoing);
+    void apply(Setting& change, bool undoing);
+    template <class Tell>
+    void tell(Tell&& tell);
+
+    Database& database_;
+    std::vector<Group> undo_;
+    std::vector<Group> redo_;
+    Group open_;
+    int depth_ = 0;
+    std::size_t nextNumber_ = 1;
+    std::size_t savedNumber_ = 0; // number of the group on top when the drawing was saved
+    std::vector<ZrDbDatabaseReactor*> reactors_;
+};
+
+} // namespace quor::db

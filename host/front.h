@@ -1,0 +1,74 @@
+// The port through which a program shows and asks things. It is all that the host knows of the program that runs it;
+// parsing, checking and asking again are the host's (host/ed).
+#pragma once
+
+#include "sdk/ge/point3d.h"
+#include "sdk/sys/string.h"
+
+#include <functional>
+#include <optional>
+#include <span>
+#include <vector>
+
+class CZrUiTaskDialog;
+
+namespace quor {
+
+// One question on the command line.
+struct Question {
+    enum class Kind { Command, Text, Keyword, Number, Point, Angle, Distance, Selection };
+    Kind kind = Kind::Text;
+    std::wstring_view prompt;
+    // The words that may be answered, as a person would type them, for completion and clickable keywords.
+    std::span<const ZrString> keywords;
+    // Where a rubber band starts, in world coordinates.
+    std::optional<ZrGePoint3d> base;
+    // Blanks belong to the answer.
+    bool acceptsBlanks = false;
+};
+
+// What came back: typed text, a picked point (world coordinates), Enter alone, Esc, or the end of all input.
+struct Answer {
+    enum class Kind { Text, Point, Enter, Cancel, End };
+    Kind kind = Kind::End;
+    ZrString text;
+    ZrGePoint3d point;
+};
+
+// The answer to a task dialog: the id of the command, or nothing when it was cancelled.
+struct TaskDialogAnswer {
+    std::optional<int> command;
+    bool checked = false;
+};
+
+// A file that is to be chosen.
+struct FileQuestion {
+    ZrString caption;
+    ZrString filterName;    // "IES"
+    ZrString filterPattern; // "*.ies"
+    bool forSaving = false;
+};
+
+// Protocol of a question: print() its prompt is the front end's business inside ask(); the host prints everything else.
+class FrontEnd {
+public:
+    virtual ~FrontEnd() = default;
+
+    // Prints a text as it stands. A text that begins with a line break starts on a fresh line.
+    virtual void print(std::wstring_view text) = 0;
+    // Shows the prompt and waits for an answer.
+    virtual Answer ask(const Question& question) = 0;
+    // Shows a prompt with its answer that came from a script, a macro or a program, as if it had been typed.
+    virtual void echo(const Question& question, std::wstring_view answer) = 0;
+    // As ask(), with each point that passes under the cursor (world coordinates) told on the way.
+    virtual Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) = 0;
+    virtual TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) = 0;
+    // Empty when cancelled.
+    virtual std::optional<ZrString> chooseFile(const FileQuestion& question) = 0;
+    // Something that is shown has changed.
+    virtual void redraw() {}
+    // How far something long has come, 0 to 1; 1 takes the display away.
+    virtual void progress(std::wstring_view /*what*/, double /*fraction*/) {}
+};
+
+} // namespace quor

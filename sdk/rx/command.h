@@ -1,0 +1,26 @@
+// Commands as objects: made by a factory, executed once, deleted.
+#pragma once
+
+#include "sdk/db/object_id.h"
+#include "sdk/ed/input_point_monitor.h"
+#include "sdk/rx/error_status.h"
+
+class ZrDbDatabase;
+class ZrDbEntity;
+
+class RxCommand : public ZrEdInputPointMonitor {
+public:
+    // A fixed word for the kind of command, e.g. "POINTLIGHTCMD".
+    [[nodiscard]] virtual const wchar_t* typeName() const = 0;
+    // Runs the command; the answer is a result code.
+    virtual int execute() = 0;
+
+    // Appends an entity to a space of `database` and answers its id, null when it could not be appended.
+    // `spaceName` null: the current space; `database` null: the working database. On success the entity belongs to the
+    // database and, if `close`, is closed; on failure it stays the caller's.
+    static ZrDbObjectId postToDb(ZrDbEntity& entity, const wchar_t* spaceName, ZrDbDatabase* database, bool close);
+    // Reads a whole-number system variable; false when there is none of that name.
+    static bool getVar(const wchar_t* name, short& value);
+    // Whether the running command was started by a script, a macro or another command.
+    [[nodiscard]] static bool isCalledByCommand();
+};

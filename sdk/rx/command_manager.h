@@ -1,0 +1,26 @@
+// The host's 3D command library: modules register their commands with it.
+#pragma once
+
+class RxCommand;
+
+using RxCommandFactory = RxCommand* (*)();
+using RxCommandEntry = void (*)();
+
+class RxCmdManager {
+public:
+    // The one instance lives between initInstance() and releaseInstance(); instancePtr() is null outside.
+    static RxCmdManager* initInstance();
+    static RxCmdManager* instancePtr();
+    // Removes every command that was registered through the instance, then the instance.
+    static void releaseInstance();
+
+    // Registers a command: global and local name in a group; `entry` is called when the user runs it.
+    // False when the group has a command of that global name already.
+    bool registerCmd2(RxCommandFactory factory, RxCommandEntry entry, const wchar_t* group, const wchar_t* globalName,
+                      const wchar_t* localName, int flags);
+    // Makes the command object, runs it once and deletes it; the command processor receives its result code.
+    static void cmdEntryPoint(RxCommandFactory factory);
+
+private:
+    RxCmdManager() = default;
+};

@@ -1,0 +1,31 @@
+// Formatting of wide texts with %-placeholders, type-safe: a placeholder takes the argument that stands at its place,
+// whatever its C type would have been, so that a text from a language pack cannot read beyond the arguments.
+#pragma once
+
+#include "sdk/sys/string.h"
+
+#include <initializer_list>
+#include <type_traits>
+#include <variant>
+
+// One argument of a formatted text: a whole number, a real number or a text (not owned).
+class ZrFormatArg {
+public:
+    template <class T>
+        requires std::is_integral_v<T> || std::is_enum_v<T>
+    ZrFormatArg(T value) : value_(static_cast<long long>(value)) {}
+    ZrFormatArg(double value) : value_(value) {}
+    ZrFormatArg(const wchar_t* text) : value_(std::wstring_view(text ? text : L"")) {}
+    ZrFormatArg(std::wstring_view text) : value_(text) {}
+    ZrFormatArg(const ZrString& text) : value_(std::wstring_view(text)) {}
+
+    using Value = std::variant<long long, double, std::wstring_view>;
+    [[nodiscard]] const Value& value() const { return value_; }
+
+private:
+    Value value_;
+};
+
+// Replaces each %d, %i, %u, %x, %s, %f, %g (with flags, width and precision; "l" and "ll" are skipped) by its argument;
+// "%%" is a percent sign. A placeholder without an argument stays as it is; superfluous arguments are ignored.
+[[nodiscard]] ZrString zrFormat(std::wstring_view format, std::initializer_list<ZrFormatArg> arguments);
