@@ -84,7 +84,7 @@ Image Image::fromBytes(std::string_view bytes) {
 Result<Image, Error> Image::read(const std::filesystem::path& path) {
     // Without O_NONBLOCK a named pipe would wait for somebody to write into it.
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    struct stat status{};
+    struct stat status {};
     if (file.get() < 0 || ::fstat(file.get(), &status) != 0) {
         return failure(Error::Kind::CannotOpen, errno);
     }

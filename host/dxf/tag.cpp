@@ -19,17 +19,17 @@ struct Range {
 
 // Later lines win over earlier ones.
 constexpr Range kRanges[] = {
-    {0, 9, ValueKind::Text},        {5, 5, ValueKind::Handle},        {10, 59, ValueKind::Double},
-    {60, 79, ValueKind::Int16},     {90, 99, ValueKind::Int32},       {100, 102, ValueKind::Text},
-    {105, 105, ValueKind::Handle},  {110, 149, ValueKind::Double},    {160, 169, ValueKind::Int64},
-    {170, 179, ValueKind::Int16},   {210, 239, ValueKind::Double},    {270, 289, ValueKind::Int16},
-    {290, 299, ValueKind::Bool},    {300, 309, ValueKind::Text},      {310, 319, ValueKind::Bytes},
-    {320, 369, ValueKind::Handle},  {370, 389, ValueKind::Int16},     {390, 399, ValueKind::Handle},
-    {400, 409, ValueKind::Int16},   {410, 419, ValueKind::Text},      {420, 429, ValueKind::Int32},
-    {430, 439, ValueKind::Text},    {440, 459, ValueKind::Int32},     {460, 469, ValueKind::Double},
-    {470, 479, ValueKind::Text},    {480, 481, ValueKind::Handle},    {999, 999, ValueKind::Comment},
-    {1000, 1009, ValueKind::Text},  {1004, 1004, ValueKind::Bytes},   {1005, 1005, ValueKind::Handle},
-    {1010, 1059, ValueKind::Double}, {1060, 1070, ValueKind::Int16},  {1071, 1071, ValueKind::Int32},
+    {0, 9, ValueKind::Text},         {5, 5, ValueKind::Handle},      {10, 59, ValueKind::Double},
+    {60, 79, ValueKind::Int16},      {90, 99, ValueKind::Int32},     {100, 102, ValueKind::Text},
+    {105, 105, ValueKind::Handle},   {110, 149, ValueKind::Double},  {160, 169, ValueKind::Int64},
+    {170, 179, ValueKind::Int16},    {210, 239, ValueKind::Double},  {270, 289, ValueKind::Int16},
+    {290, 299, ValueKind::Bool},     {300, 309, ValueKind::Text},    {310, 319, ValueKind::Bytes},
+    {320, 369, ValueKind::Handle},   {370, 389, ValueKind::Int16},   {390, 399, ValueKind::Handle},
+    {400, 409, ValueKind::Int16},    {410, 419, ValueKind::Text},    {420, 429, ValueKind::Int32},
+    {430, 439, ValueKind::Text},     {440, 459, ValueKind::Int32},   {460, 469, ValueKind::Double},
+    {470, 479, ValueKind::Text},     {480, 481, ValueKind::Handle},  {999, 999, ValueKind::Comment},
+    {1000, 1009, ValueKind::Text},   {1004, 1004, ValueKind::Bytes}, {1005, 1005, ValueKind::Handle},
+    {1010, 1059, ValueKind::Double}, {1060, 1070, ValueKind::Int16}, {1071, 1071, ValueKind::Int32},
 };
 
 constexpr auto kKinds = [] {
