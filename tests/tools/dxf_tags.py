@@ -62,7 +62,7 @@ class Record:
     def handle(self):
         wanted = 105 if self.type == "DIMSTYLE" and self.section == "TABLES" else 5
         inside = False
-        for tag in self.tags:
+        for tag in self.tags if self.section != "HEADER" else []:
             if tag.code == 100 or tag.code >= 1000:
                 break
             if tag.code == 102:
