@@ -1,31 +1,16 @@
 #include "host/dxf/image.h"
 
+#include "host/dxf/descriptor.h"
+
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <new>
 #include <sys/mman.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace quor::dxf {
 namespace {
-
-class Descriptor {
-public:
-    explicit Descriptor(int fd) : fd_(fd) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (fd_ >= 0) {
-            ::close(fd_);
-        }
-    }
-    [[nodiscard]] int get() const { return fd_; }
-
-private:
-    int fd_;
-};
 
 Failure<Error> failure(Error::Kind kind, int systemError) {
     Error error;
@@ -85,7 +70,7 @@ Result<Image, Error> Image::read(const std::filesystem::path& path) {
     // Without O_NONBLOCK a named pipe would wait for somebody to write into it.
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status {};
-    if (file.get() < 0 || ::fstat(file.get(), &status) != 0) {
+    if (!file.isOpen() || ::fstat(file.get(), &status) != 0) {
         return failure(Error::Kind::CannotOpen, errno);
     }
     if (!S_ISREG(status.st_mode)) {
