@@ -8,6 +8,7 @@ codes given with --expect-changed is allowed too.
 """
 import argparse
 import difflib
+import signal
 import sys
 from collections import Counter
 
@@ -140,4 +141,5 @@ def main():
 
 
 if __name__ == "__main__":
+    signal.signal(signal.SIGPIPE, signal.SIG_DFL)
     sys.exit(main())

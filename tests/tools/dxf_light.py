@@ -5,6 +5,7 @@ Exit status 0 where every light has a whole chain (light, extension dictionary, 
 1 where one has not (the reason is printed with "!"), 2 where the drawing cannot be read.
 """
 import argparse
+import signal
 import sys
 
 import dxf_tags
@@ -110,4 +111,5 @@ def main():
 
 
 if __name__ == "__main__":
+    signal.signal(signal.SIGPIPE, signal.SIG_DFL)
     sys.exit(main())

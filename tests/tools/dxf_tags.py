@@ -5,6 +5,7 @@ As a program it lists them: every tag with its place (line, or byte in a binary 
 with their records, a line each. As a module it gives `read(path)`, a Drawing.
 """
 import argparse
+import signal
 import struct
 import sys
 from dataclasses import dataclass, field
@@ -227,4 +228,5 @@ def main():
 
 
 if __name__ == "__main__":
+    signal.signal(signal.SIGPIPE, signal.SIG_DFL)
     main()
