@@ -58,7 +58,7 @@ Feet splitFeet(double magnitude) {
 std::string joinFeet(double feet, const std::string& inches, const LengthStyle& style) {
     if (feet == 0 && style.leavesOut(kZeroFeet))
         return inches + '"';
-    const std::string feetText = fmt::format("{:.0f}'", feet);
+    std::string feetText = fmt::format("{:.0f}'", feet);
     if (showsZero(inches) && style.leavesOut(kZeroInches))
         return feetText;
     return feetText + (style.typed ? "" : "-") + inches + '"';
@@ -98,7 +98,7 @@ Fraction toFraction(double magnitude, int precision) {
 std::string fractionText(const Fraction& value, bool zeroWhole, const LengthStyle& style) {
     if (value.numerator == 0)
         return fmt::format("{:.0f}", value.whole);
-    const std::string part = fmt::format("{}/{}", value.numerator, value.denominator);
+    std::string part = fmt::format("{}/{}", value.numerator, value.denominator);
     if (value.whole == 0 && !zeroWhole)
         return part;
     return fmt::format("{:.0f}{}{}", value.whole, style.typed ? '-' : ' ', part);
