@@ -8,6 +8,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <span>
 #include <variant>
 #include <vector>
 
@@ -31,18 +32,31 @@ enum class VariableHome {
 
 using VariableValue = std::variant<short, double, ZrString, ZrGePoint3d>;
 
+enum class SetResult { Ok, Unknown, ReadOnly, WrongType, OutOfRange, NoDrawing, NoSuchLayer, NotInList, NotSaved };
+
 struct VariableRow {
-    const wchar_t* name;
+    const wchar_t* name; // in capitals
     VariableType type;
     VariableHome home;
     int headerCode = 0; // group code of a header variable
-    double low = 0;     // bounds of numbers, both included
+    double low = 0;     // bounds of numbers, both included; equal bounds: none
     double high = 0;
     bool readOnly = false;
-    VariableValue initial = short{0};
+    VariableValue initial = short{0}; // where the home has no value
+    bool angle = false;               // kept in radians, typed and shown in the drawing's angular units
+    const wchar_t* choices = nullptr; // the texts it takes, between "/"
+    // How to reach a value that no home keeps under the variable's name; called with a drawing open where the home is one.
+    VariableValue (*read)(Session&) = nullptr;
+    SetResult (*write)(Session&, const VariableValue&) = nullptr;
+
+    [[nodiscard]] bool hasBounds() const { return low != high; }
 };
 
-enum class SetResult { Ok, Unknown, ReadOnly, WrongType, OutOfRange, NoDrawing };
+// The built-in variables, sorted by name.
+[[nodiscard]] std::span<const VariableRow> variableRows();
+
+// The section of the user's settings that holds the variables of home User, each under its name.
+inline constexpr const wchar_t* kUserVariables = L"Variables";
 
 class SystemVariables final : public ZwSystemVariableService {
 public:
@@ -51,12 +65,17 @@ public:
     // Names are matched without regard to case. Nothing when there is none of that name, or no drawing is open for one that
     // lives in a drawing.
     [[nodiscard]] std::optional<VariableValue> get(std::wstring_view name) const;
-    // Undoable when it lives in a drawing.
+    // Undoable when it lives in a drawing. A whole number is taken for a real one. Refused values change nothing.
     SetResult set(std::wstring_view name, const VariableValue& value);
     // Converts typed text to the type of the variable, then sets it.
     SetResult setFromText(std::wstring_view name, std::wstring_view text);
+    // Why a value was not taken, as one line for people; names the range of a number. Empty for Ok.
+    [[nodiscard]] ZrString refusal(std::wstring_view name, SetResult result) const;
     // As a person reads it.
     [[nodiscard]] ZrString toText(const VariableValue& value) const;
+    // The variable's value as a person reads it and could type it, angles in the drawing's units; nothing where get() gives
+    // nothing.
+    [[nodiscard]] std::optional<ZrString> text(std::wstring_view name) const;
 
     [[nodiscard]] bool has(std::wstring_view name) const;
     // The row of a built-in variable, or null (unknown, or registered by a module).
@@ -71,6 +90,9 @@ public:
     [[nodiscard]] short number(std::wstring_view name, short fallback = 0) const;
 
 private:
+    [[nodiscard]] VariableValue fromUser(const VariableRow& row) const;
+    SetResult toUser(const VariableRow& row, const VariableValue& value);
+
     Session& session_;
     std::map<ZrString, std::function<short()>> registered_; // upper case
     std::map<ZrString, VariableValue> process_;
