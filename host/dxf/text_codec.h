@@ -1,6 +1,7 @@
 // Text values of a drawing file between their bytes and wide strings: code page or UTF-8, escapes, control characters.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -32,8 +33,19 @@ public:
     [[nodiscard]] bool isKnown() const;
 
 private:
-    class Page;
-    std::unique_ptr<Page> page_; // none for UTF-8
+    class Pages;
+    struct Piece {
+        wchar_t character;
+        std::size_t length;
+    };
+
+    [[nodiscard]] std::wstring resolveEscapes(std::wstring text) const;
+    [[nodiscard]] Piece pieceAt(std::wstring_view text) const;
+    void appendEncoded(std::string& out, std::wstring_view rest) const;
+    static void appendControl(std::string& out, wchar_t c);
+    void appendHigh(std::string& out, wchar_t c) const;
+
+    std::unique_ptr<Pages> pages_;
     bool known_ = true;
 };
 

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "host/sys/settings_text.h"
+
 namespace quor {
 
 struct SettingsError {
@@ -52,12 +54,13 @@ private:
     };
 
     void readOnce();
-    [[nodiscard]] std::optional<SettingsError> read(std::vector<std::wstring>& lines) const;
-    [[nodiscard]] std::optional<SettingsError> write(const std::vector<std::wstring>& lines) const;
+    void keep(std::wstring_view section, std::wstring_view key, std::wstring_view value);
+    [[nodiscard]] std::optional<SettingsError> read(SettingsLines& lines) const;
+    [[nodiscard]] std::optional<SettingsError> write(const SettingsLines& lines) const;
 
     std::filesystem::path path_;
-    std::vector<std::wstring> lines_; // the file as read, without the line ends' "\n"
-    std::vector<Value> own_;          // what this process set and could not write
+    SettingsLines lines_;    // the file as read or written last
+    std::vector<Value> own_; // what this process set and could not write
     std::optional<SettingsError> readError_;
     bool wasRead_ = false;
 };

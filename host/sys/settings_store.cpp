@@ -1,0 +1,234 @@
+#include "host/sys/settings_store.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <charconv>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "host/sys/case_fold.h"
+#include "host/sys/utf8.h"
+
+namespace quor {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string reasonOf(int number) { return std::generic_category().message(number); }
+
+// An open file descriptor, closed with its owner.
+class Descriptor {
+public:
+    explicit Descriptor(int number) : number_(number) {}
+    ~Descriptor() {
+        if (number_ >= 0)
+            ::close(number_);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    [[nodiscard]] bool isOpen() const { return number_ >= 0; }
+    [[nodiscard]] int number() const { return number_; }
+
+    // All bytes and down to the disk; false, with errno, when that failed.
+    [[nodiscard]] bool writeAll(std::string_view bytes) const {
+        while (!bytes.empty()) {
+            const ssize_t count = ::write(number_, bytes.data(), bytes.size());
+            if (count < 0 && errno == EINTR)
+                continue;
+            if (count < 0)
+                return false;
+            bytes.remove_prefix(static_cast<std::size_t>(count));
+        }
+        return ::fsync(number_) == 0;
+    }
+
+private:
+    int number_;
+};
+
+// Makes a folder and what is missing above it, for the user alone. The first that fails is the error.
+std::optional<SettingsError> makeFolders(const fs::path& folder) {
+    std::error_code ignored;
+    if (folder.empty() || fs::is_directory(folder, ignored))
+        return std::nullopt;
+    if (folder.has_parent_path() && folder.parent_path() != folder)
+        if (auto error = makeFolders(folder.parent_path()))
+            return error;
+    if (::mkdir(folder.c_str(), 0700) == 0 || (errno == EEXIST && fs::is_directory(folder, ignored)))
+        return std::nullopt;
+    return SettingsError{SettingsError::kNoFolder, folder, reasonOf(errno)};
+}
+
+// The file itself where the path is a link, so that the link stays.
+fs::path followLinks(const fs::path& path) {
+    std::error_code failure;
+    const fs::path target = fs::canonical(path, failure);
+    return failure ? path : target;
+}
+
+std::wstring_view describe(SettingsError::Kind kind) {
+    switch (kind) {
+    case SettingsError::kBadName:
+        return L"设置的节名或键名无效 (a section or key name is not valid)";
+    case SettingsError::kNoFolder:
+        return L"无法创建设置文件夹，该值仅在本次运行中有效 (the settings folder cannot be made; the value holds until "
+               L"the "
+               L"program ends)";
+    case SettingsError::kCannotRead:
+        return L"无法读取设置文件，请检查其权限 (the settings file cannot be read; check its permissions)";
+    case SettingsError::kCannotWrite:
+        break;
+    }
+    return L"无法写入设置文件，该值仅在本次运行中有效 (the settings file cannot be written; the value holds until the "
+           L"program "
+           L"ends)";
+}
+
+fs::path absoluteFolder(const char* variable) {
+    const char* value = std::getenv(variable);
+    const fs::path folder = value != nullptr ? value : "";
+    return folder.is_absolute() ? folder : fs::path();
+}
+
+} // namespace
+
+std::wstring SettingsError::message() const {
+    std::wstring text = fromUtf8(path.native()) + L": " + std::wstring(describe(kind));
+    return reason.empty() ? text : text + L": " + fromUtf8(reason);
+}
+
+SettingsStore::SettingsStore() : SettingsStore(defaultPath()) {}
+
+SettingsStore::SettingsStore(fs::path file) : path_(std::move(file)) {}
+
+fs::path SettingsStore::defaultPath() {
+    fs::path folder = absoluteFolder("XDG_CONFIG_HOME");
+    if (folder.empty()) {
+        const fs::path home = absoluteFolder("HOME");
+        if (home.empty())
+            return {};
+        folder = home / ".config";
+    }
+    return folder / "quor" / "settings.ini";
+}
+
+void SettingsStore::readOnce() {
+    if (!wasRead_) {
+        wasRead_ = true;
+        readError_ = read(lines_);
+    }
+}
+
+std::optional<SettingsError> SettingsStore::readError() {
+    readOnce();
+    return readError_;
+}
+
+std::optional<std::wstring> SettingsStore::get(std::wstring_view section, std::wstring_view key) {
+    readOnce();
+    for (const Value& own : own_)
+        if (equalFolded(own.section, section) && equalFolded(own.key, key))
+            return own.value;
+    return findSetting(lines_, section, key);
+}
+
+std::optional<int> SettingsStore::getInt(std::wstring_view section, std::wstring_view key) {
+    const auto text = get(section, key);
+    if (!text)
+        return std::nullopt;
+    const std::string bytes = toUtf8(*text);
+    int value = 0;
+    const auto [end, failure] = std::from_chars(bytes.data(), bytes.data() + bytes.size(), value);
+    if (failure != std::errc() || end != bytes.data() + bytes.size())
+        return std::nullopt;
+    return value;
+}
+
+std::optional<SettingsError> SettingsStore::set(std::wstring_view section, std::wstring_view key,
+                                                std::wstring_view value) {
+    if (!isSettingsSection(section) || !isSettingsKey(key))
+        return SettingsError{SettingsError::kBadName, path_, {}};
+    readOnce();
+    keep(section, key, value);
+    SettingsLines lines;
+    if (auto error = read(lines)) // anew: another process may have written meanwhile
+        return error;
+    for (const Value& own : own_)
+        putSetting(lines, own.section, own.key, own.value);
+    if (auto error = write(lines))
+        return error;
+    lines_ = std::move(lines);
+    own_.clear();
+    return std::nullopt;
+}
+
+std::optional<SettingsError> SettingsStore::setInt(std::wstring_view section, std::wstring_view key, int value) {
+    return set(section, key, std::to_wstring(value));
+}
+
+// Remembers a value that is not in the file yet.
+void SettingsStore::keep(std::wstring_view section, std::wstring_view key, std::wstring_view value) {
+    for (Value& own : own_) {
+        if (equalFolded(own.section, section) && equalFolded(own.key, key)) {
+            own.value = value;
+            return;
+        }
+    }
+    own_.push_back({std::wstring(section), std::wstring(key), std::wstring(value)});
+}
+
+std::optional<SettingsError> SettingsStore::read(SettingsLines& lines) const {
+    std::error_code failure;
+    const fs::file_status status = fs::status(path_, failure);
+    if (status.type() == fs::file_type::not_found)
+        return std::nullopt;
+    if (failure)
+        return SettingsError{SettingsError::kCannotRead, path_, failure.message()};
+    if (status.type() != fs::file_type::regular) // a folder, or a pipe that would never end
+        return SettingsError{SettingsError::kCannotRead, path_, "not a regular file"};
+    errno = 0;
+    std::ifstream stream(path_, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+    if (!stream)
+        return SettingsError{SettingsError::kCannotRead, path_, reasonOf(errno != 0 ? errno : EIO)};
+    lines.clear();
+    for (std::size_t at = 0; at < bytes.size();) {
+        const std::size_t end = std::min(bytes.find('\n', at), bytes.size());
+        lines.push_back(fromUtf8(std::string_view(bytes).substr(at, end - at)));
+        at = end + 1;
+    }
+    return std::nullopt;
+}
+
+std::optional<SettingsError> SettingsStore::write(const SettingsLines& lines) const {
+    const auto refuse = [this](int number) {
+        return SettingsError{SettingsError::kCannotWrite, path_, reasonOf(number)};
+    };
+    if (path_.empty())
+        return refuse(ENOENT);
+    if (auto error = makeFolders(path_.parent_path()))
+        return error;
+    std::string bytes;
+    for (const std::wstring& line : lines)
+        bytes += toUtf8(line) + '\n';
+    const fs::path target = followLinks(path_);
+    std::string name = target.native() + ".XXXXXX";
+    const Descriptor file(::mkstemp(name.data()));
+    if (!file.isOpen())
+        return refuse(errno);
+    if (file.writeAll(bytes) && ::rename(name.c_str(), target.c_str()) == 0)
+        return std::nullopt;
+    const int number = errno;
+    ::unlink(name.c_str());
+    return refuse(number);
+}
+
+} // namespace quor
