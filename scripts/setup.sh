@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034 # the lists are used by those who source this
 # Sourced by run, check and .ci/run: installs what a build needs, configures once, builds.
 # Progress goes to standard error, so that the output of a program started by ./run stays its own.
 
@@ -74,11 +75,12 @@ configure() {
 
 # build PRESET [TARGET…]: everything, or the targets alone.
 build() {
-    local preset=$1 quiet=()
+    local preset=$1 quiet=() targets=()
     shift
+    [ $# -eq 0 ] || targets=(--target "$@")
     configure "$preset"
     [ -t 2 ] || quiet=(--quiet)
     say "building ($preset)"
-    (cd "$root" && cmake --build --preset "$preset" -j "$jobs" ${*:+--target "$@"} -- "${quiet[@]}") >&2 ||
+    (cd "$root" && cmake --build --preset "$preset" -j "$jobs" "${targets[@]}" -- "${quiet[@]}") >&2 ||
         fail 1 "building failed"
 }
