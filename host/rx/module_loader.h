@@ -1,7 +1,6 @@
 // Loads plug-in modules with the platform's loader, tells them what happens, and unloads them.
 #pragma once
 
-#include "host/sys/result.h"
 #include "sdk/ed/documents.h"
 #include "sdk/rx/application.h"
 #include "sdk/rx/dynamic_linker.h"
@@ -20,9 +19,9 @@ namespace quor::rx {
 // One module that was loaded; its address is the application id that the module is given.
 struct LoadedModule;
 
-// Protocol of a module: 1 it is loaded and asked for its interface version, 2 kInitAppMsg, in which it unlocks itself if
-// it may be unloaded, 3 kLoadDwgMsg for every open drawing, those that are open already included, 4 kUnloadDwgMsg for
-// every drawing that goes or is still open, 5 kUnloadAppMsg.
+// Protocol of a module: 1 it is loaded and asked for its interface version, 2 kInitAppMsg, in which it unlocks itself
+// if it may be unloaded, 3 kLoadDwgMsg for every open drawing, those that are open already included, 4 kUnloadDwgMsg
+// for every drawing that goes or is still open, 5 kUnloadAppMsg.
 class ModuleLoader final : public ZrRxDynamicLinker, public ZrApDocumentReactor {
 public:
     explicit ModuleLoader(Session& session);

@@ -3,7 +3,7 @@
 
 class ZrGiLightAttenuation {
 public:
-    enum AttenuationType { kNone = 0, kInverseLinear = 1, kInverseSquare = 2 };
+    enum AttenuationType : int { kNone = 0, kInverseLinear = 1, kInverseSquare = 2 };
 
     // Another number than 0, 1 or 2 is refused and changes nothing.
     [[nodiscard]] AttenuationType attenuationType() const { return type_; }

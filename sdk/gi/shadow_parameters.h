@@ -7,8 +7,8 @@
 
 class ZrGiShadowParameters {
 public:
-    enum ShadowType { kShadowsRayTraced = 0, kShadowMaps = 1, kAreaSampled = 2 };
-    enum ExtendedLightShape { kLinear = 0, kRect = 1, kDisk = 2, kCylinder = 3, kSphere = 4 };
+    enum ShadowType : int { kShadowsRayTraced = 0, kShadowMaps = 1, kAreaSampled = 2 };
+    enum ExtendedLightShape : int { kLinear = 0, kRect = 1, kDisk = 2, kCylinder = 3, kSphere = 4 };
 
     [[nodiscard]] bool shadowsOn() const { return on_; }
     void setShadowsOn(bool on) { on_ = on; }

@@ -27,7 +27,7 @@ enum AppMsgCode {
     kSuspendMsg = 15,      // the host is put aside or comes back
 };
 
-enum AppRetCode { kRetOK = 0, kRetError = 3 };
+enum AppRetCode : int { kRetOK = 0, kRetError = 3 };
 
 inline constexpr unsigned kMessageCount = 16;
 

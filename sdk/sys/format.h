@@ -26,6 +26,7 @@ private:
     Value value_;
 };
 
-// Replaces each %d, %i, %u, %x, %s, %f, %g (with flags, width and precision; "l" and "ll" are skipped) by its argument;
-// "%%" is a percent sign. A placeholder without an argument stays as it is; superfluous arguments are ignored.
+// Replaces each %d, %i, %u, %x, %X, %c, %s, %S, %f, %e, %g (with flags, width and precision; "l", "ll" and "h" are
+// skipped) by its argument; "%%" is a percent sign. An argument of another kind is shown as it naturally looks. A
+// placeholder without an argument stays as it is; superfluous arguments are ignored. The decimal mark is always ".".
 [[nodiscard]] ZrString zrFormat(std::wstring_view format, std::initializer_list<ZrFormatArg> arguments);
