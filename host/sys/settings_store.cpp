@@ -62,9 +62,12 @@ std::optional<SettingsError> makeFolders(const fs::path& folder) {
     if (folder.has_parent_path() && folder.parent_path() != folder)
         if (auto error = makeFolders(folder.parent_path()))
             return error;
-    if (::mkdir(folder.c_str(), 0700) == 0 || (errno == EEXIST && fs::is_directory(folder, ignored)))
+    if (::mkdir(folder.c_str(), 0700) == 0)
         return std::nullopt;
-    return SettingsError{SettingsError::kNoFolder, folder, reasonOf(errno)};
+    const int number = errno;
+    if (fs::is_directory(folder, ignored)) // another process was faster
+        return std::nullopt;
+    return SettingsError{SettingsError::kNoFolder, folder, reasonOf(number)};
 }
 
 // The file itself where the path is a link, so that the link stays.
@@ -221,7 +224,7 @@ std::optional<SettingsError> SettingsStore::write(const SettingsLines& lines) co
         bytes += toUtf8(line) + '\n';
     const fs::path target = followLinks(path_);
     std::string name = target.native() + ".XXXXXX";
-    const Descriptor file(::mkstemp(name.data()));
+    const Descriptor file(::mkostemp(name.data(), O_CLOEXEC));
     if (!file.isOpen())
         return refuse(errno);
     if (file.writeAll(bytes) && ::rename(name.c_str(), target.c_str()) == 0)
