@@ -1,0 +1,22 @@
+#include "light/app/cmds_app.h"
+
+#include "light/app/command_rows.h"
+#include "light/res/load_text.h"
+#include "sdk/rx/command_manager.h"
+
+Zr::AppRetCode CQUORCmdsApp::onInitAppMsg(void* applicationId) {
+    const Zr::AppRetCode result = ZrRxZpxApp::onInitAppMsg(applicationId);
+    quor::light::checkTranslations();
+    RxCmdManager* manager = RxCmdManager::initInstance();
+    for (const quor::light::CommandRow& row : quor::light::commandRows()) {
+        const quor::light::LoadedText localName(row.localName);
+        manager->registerCmd2(row.make, row.run, quor::light::commandGroup, row.globalName, localName.c_str(), 0);
+    }
+    return result;
+}
+
+Zr::AppRetCode CQUORCmdsApp::onUnloadAppMsg(void* applicationId) {
+    const Zr::AppRetCode result = ZrRxZpxApp::onUnloadAppMsg(applicationId);
+    RxCmdManager::releaseInstance();
+    return result;
+}

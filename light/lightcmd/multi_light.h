@@ -1,0 +1,94 @@
+// The base of every command that creates one light. Protocol of execute(): 1 refuse where lights cannot be made,
+// 2 ask for the viewport lighting mode, 3 create the light and let the command place it, 4 hand over to the command's
+// option loop, 5 keep the light when the loop ended with RTNORM, else erase it.
+#pragma once
+
+#include "light/lightcmd/option_loop.h"
+#include "sdk/db/light.h"
+#include "sdk/rx/command.h"
+#include "sdk/sys/string.h"
+
+#include <cstdint>
+#include <memory>
+
+class ZrGlobalVarManager;
+
+class CZrMultiLight : public RxCommand {
+public:
+    int monitorInputPoint(const ZrEdInputPoint&) override { return 0; }
+    [[nodiscard]] bool filtersPoints() const override { return false; }
+
+    [[nodiscard]] const wchar_t* typeName() const override = 0;
+    int execute() override;
+
+    // The viewport-lighting-mode question: with the default lights on, the user's lights do not show. False when it was
+    // cancelled; else `value` is what DEFAULTLIGHTING is to become once the light is kept.
+    [[nodiscard]] static bool askDefaultLighting(short& value);
+    // Whether LIGHTINGUNITS, read into `value`, allows lights; prints why when it does not.
+    [[nodiscard]] static bool checkLightingUnits(short& value);
+
+    // Shared by all light commands of the process. The first tells whether the last check of the lighting mode ran in a
+    // command that a program had started; the second has the next check ask nothing.
+    static bool s_calledFromScript;
+    static bool s_skipLightingDialogOnce;
+
+protected:
+    explicit CZrMultiLight(const wchar_t* kindWord);
+
+    // The questions after the placement. RTNORM keeps the light.
+    virtual int optionLoop();
+    virtual int promptPhotometricIntensity();
+    // The word that the number of a default name follows; sets and answers `out`.
+    virtual ZrString& defaultNamePrefix(ZrString& out);
+    // Sets the light type and asks where the light is to be; false when the user gave that up.
+    virtual bool placeLight();
+    // Gives the light the name that was typed, or the default one.
+    virtual bool applyName();
+    virtual bool finishLight();
+
+    // The whole option loop from a command's description of it.
+    int runOptionLoop(const quor::light::OptionLoop& loop);
+
+    void promptName();
+    void promptIntensity();
+    void promptStatus();
+
+    // Makes the light, has it placed and posts it to the current space; then m_pLight is open for write.
+    [[nodiscard]] bool createLight();
+    // The next number whose default name no other light of the current space has.
+    void nextDefaultNumber(short& number);
+    // Whether a light of the current space has this name, without regard to case.
+    [[nodiscard]] static bool lightNameExists(const ZrString& name);
+    // The hidden layer of all lights, made when it is missing; null when the layer table is not to be had.
+    [[nodiscard]] static ZrDbObjectId systemLightsLayerId();
+
+    static constexpr std::size_t kKindWordSize = 260;
+
+    ZrDbLight* m_pLight = nullptr; // open for write during the option loop
+    ZrString m_name;               // as typed at the Name option, or the default that it showed
+    ZrString m_webFile;            // the photometric web file last accepted
+    ZrString m_prevName;           // the default name last offered
+    bool m_nameEntered = false;    // the Name option was used
+    std::int16_t m_defaultLighting = 1;
+    double m_intensity = 0; // what the prompts show as defaults; copied from the light at the start
+    double m_physicalIntensity = 0;
+    double m_fluxDefault = 0;
+    double m_illuminanceDefault = 0;
+    double m_lampColorTemp = 0;
+    double m_illuminanceDistance = 0;
+    double m_startLimit = 0;
+    double m_endLimit = 0;
+    std::int32_t m_shadowSamples = 0;
+    std::int16_t m_lightNumber = 0; // of the default name
+    wchar_t m_kindWord[kKindWordSize] = {};
+    bool m_lightOn = false; // what the light is to be when the command ends; off while it runs
+
+private:
+    [[nodiscard]] bool postLight(std::unique_ptr<ZrDbLight> light);
+    void takeSnapshot();
+    void resetSpotShadows();
+    int keepOrErase(int result, ZrGlobalVarManager& globals);
+    void eraseLight();
+    [[nodiscard]] ZrString defaultName();
+    void offerDefaultName();
+};

@@ -1,0 +1,29 @@
+// Replies as the commands take them: up to 259 characters.
+#pragma once
+
+#include "sdk/ed/get.h"
+
+namespace quor::light {
+
+// Replies go into buffers of this many characters, the terminating one included.
+inline constexpr std::size_t replyBufferSize = 260;
+// The result code of a reply that is longer.
+inline constexpr int replyTooLong = -5008;
+
+[[nodiscard]] inline int checkReplyLength(int result, const ZrString& reply) {
+    return result == RTNORM && reply.size() >= replyBufferSize ? replyTooLong : result;
+}
+
+// A question whose answer is a keyword.
+[[nodiscard]] inline int askKeyword(const wchar_t* prompt, ZrString& reply) {
+    const int result = zredGetKword(prompt, reply);
+    return checkReplyLength(result, reply);
+}
+
+// A question whose answer is a text with blanks in it.
+[[nodiscard]] inline int askLine(const wchar_t* prompt, ZrString& reply) {
+    const int result = zredGetString(1, prompt, reply);
+    return checkReplyLength(result, reply);
+}
+
+} // namespace quor::light
