@@ -68,6 +68,8 @@ bool isBlankFrom(std::string_view file, std::size_t at) {
     return file.find_first_not_of(kBlanks, at) == std::string_view::npos;
 }
 
+bool isEnd(int code, std::string_view value) { return code == 0 && trimmed(value) == "EOF"; }
+
 // The file is at its end without 0/EOF.
 bool breakOff(LayoutBuilder& builder, Error::Kind kind, std::size_t at, std::size_t lastWhole, std::wstring excerpt) {
     if (!builder.problem(kind, at, std::move(excerpt))) {
@@ -107,6 +109,9 @@ bool scanAscii(std::string_view file, std::size_t at, LayoutBuilder& builder) {
         }
         const std::size_t valueEnd = ends.next();
         tag.end = std::min(valueEnd + 1, file.size());
+        if (valueEnd >= file.size() && !isEnd(tag.code, file.substr(valueBegin))) [[unlikely]] {
+            return breakOff(builder, Error::Kind::NoEnd, file.size() - 1, at, {}); // the value may be cut short
+        }
         if (builder.wants(tag.code)) {
             tag.begin = at;
             tag.raw = {text + valueBegin, valueEnd - valueBegin};

@@ -39,7 +39,8 @@ IntegerShape shapeOf(int code) {
     }
 }
 
-bool fits(std::int64_t value, std::size_t size) {
+// Used by assertions only.
+[[maybe_unused]] bool fits(std::int64_t value, std::size_t size) {
     const unsigned unused = static_cast<unsigned>(64 - 8 * size);
     return static_cast<std::int64_t>(static_cast<std::uint64_t>(value) << unused) >> unused == value;
 }

@@ -37,6 +37,12 @@ TEST(Recover, ClosingTheRestMakesADrawingAgain) {
     EXPECT_EQ(layout->records.size(), 1U);
 }
 
+TEST(Recover, AValueThatTheFileBreaksOffInIsNotWhole) {
+    const Layout layout = recovered(kHead + "0\nENDSEC");
+    EXPECT_FALSE(layout.sections[0].closed);
+    EXPECT_EQ(layout.endTag.begin, kHead.size() - std::string("0\nLINE\n5\nA\n8\n0\n").size());
+}
+
 TEST(Recover, SkipsADamagedRecordToTheNextOne) {
     const Layout layout = recovered(kHead + "bad\n62\n0\n0\n 8\n" + kTail);
     ASSERT_EQ(layout.records.size(), 2U);
