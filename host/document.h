@@ -29,8 +29,13 @@ public:
     // The pick-first selection and the last one made, and the last point entered (UCS).
     ZrDbObjectIdArray impliedSelection;
     ZrDbObjectIdArray previousSelection;
+    // Counts the changes of the pick-first selection, so that a command that made one is told from one that did not.
+    std::size_t selectionChanges = 0;
     ZrGePoint3d lastPoint;
     bool locked = false;
+    // Undo depths that UNDO Mark has set, and the coordinate systems that UCS Previous goes back to.
+    std::vector<std::size_t> undoMarks;
+    std::vector<db::Ucs> previousUcs;
 
 private:
     std::unique_ptr<db::Database> database_;
@@ -67,6 +72,9 @@ public:
     void removeReactor(ZrApDocumentReactor* reactor) override;
 
 private:
+    Document& add(std::unique_ptr<Document> document);
+    [[nodiscard]] Document* own(const ZrApDocument& document) const;
+
     std::vector<std::unique_ptr<Document>> documents_;
     std::vector<ZrApDocumentReactor*> reactors_;
     std::vector<ZrEdSelectionReactor*> selectionReactors_;

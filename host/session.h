@@ -14,6 +14,7 @@ namespace ed {
 class CommandTable;
 class CommandProcessor;
 class InputStack;
+struct InputState;
 } // namespace ed
 namespace sys {
 class SystemVariables;
@@ -48,6 +49,7 @@ public:
     [[nodiscard]] const SessionOptions& options() const { return options_; }
     [[nodiscard]] ed::CommandTable& commands() { return *commands_; }
     [[nodiscard]] ed::InputStack& input() { return *input_; }
+    [[nodiscard]] ed::InputState& inputState() { return *inputState_; }
     [[nodiscard]] ed::CommandProcessor& processor() { return *processor_; }
     [[nodiscard]] sys::SystemVariables& variables() { return *variables_; }
     [[nodiscard]] sys::ResourceLibrary& resources() { return *resources_; }
@@ -64,6 +66,7 @@ private:
     std::unique_ptr<sys::SystemVariables> variables_;
     std::unique_ptr<DocumentManager> documents_;
     std::unique_ptr<ed::InputStack> input_;
+    std::unique_ptr<ed::InputState> inputState_;
     std::unique_ptr<ed::CommandTable> commands_;
     std::unique_ptr<ed::CommandProcessor> processor_;
     std::unique_ptr<rx::ModuleLoader> modules_;

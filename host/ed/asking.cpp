@@ -1,0 +1,124 @@
+#include "host/ed/asking.h"
+
+#include "host/document.h"
+#include "host/ed/command_processor.h"
+#include "host/ed/input_stack.h"
+#include "host/session.h"
+#include "sdk/ed/get.h"
+
+namespace quor::ed {
+
+namespace {
+
+constexpr Question::Kind kQuestionKinds[] = {
+    Question::Kind::Text,     Question::Kind::Keyword, Question::Kind::Number, Question::Kind::Number,
+    Question::Kind::Distance, Question::Kind::Angle,   Question::Kind::Point,
+};
+
+double number(const db::Database& drawing, const wchar_t* name, double fallback) {
+    const std::optional<db::HeaderValue> value = drawing.header(name);
+    if (!value)
+        return fallback;
+    if (const auto* whole = std::get_if<long long>(&*value))
+        return static_cast<double>(*whole);
+    const auto* real = std::get_if<double>(&*value);
+    return real != nullptr ? *real : fallback;
+}
+
+units::UnitSettings unitSettings(const Document* document) {
+    units::UnitSettings settings;
+    if (document == nullptr)
+        return settings;
+    const db::Database& drawing = document->drawing();
+    settings.lengthFormat = static_cast<int>(number(drawing, L"$LUNITS", settings.lengthFormat));
+    settings.angleFormat = static_cast<int>(number(drawing, L"$AUNITS", settings.angleFormat));
+    settings.angleBase = number(drawing, L"$ANGBASE", settings.angleBase);
+    settings.clockwise = number(drawing, L"$ANGDIR", 0) != 0;
+    return settings;
+}
+
+} // namespace
+
+DrawingRules currentDrawingRules(Session& session) {
+    Session* const here = &session;
+    DrawingRules rules;
+    rules.units = [here] { return unitSettings(here->documents().current()); };
+    rules.lastPoint = [here]() -> std::optional<ZrGePoint3d> {
+        const Document* document = here->documents().current();
+        return document != nullptr ? std::optional(document->lastPoint) : std::nullopt;
+    };
+    rules.worldToUcs = [](const ZrGePoint3d& point) { return zrdbWcs2Ucs(point); };
+    rules.ucsToWorld = [](const ZrGePoint3d& point) { return zrdbUcs2Wcs(point); };
+    return rules;
+}
+
+Asking::Asking(Session& session, Rules rules, std::wstring_view prompt)
+    : session_(session), rules_(rules), drawing_(currentDrawingRules(session)) {
+    question_.kind = kQuestionKinds[static_cast<std::size_t>(rules.wanted)];
+    question_.prompt = prompt;
+    if (rules.keywords != nullptr)
+        question_.keywords = rules.keywords->words();
+}
+
+Answer Asking::askOnce() {
+    return sample_ ? session_.input().drag(question_, sample_) : session_.input().ask(question_);
+}
+
+Outcome Asking::run() {
+    while (true)
+        if (std::optional<Outcome> outcome = read(askOnce()))
+            return std::move(*outcome);
+}
+
+std::optional<Outcome> Asking::read(const Answer& answer) {
+    switch (answer.kind) {
+    case Answer::Kind::Text:
+        return readText(answer.text);
+    case Answer::Kind::Point:
+        if (rules_.wanted == Wanted::Point || rules_.wanted == Wanted::Distance || rules_.wanted == Wanted::Angle)
+            return accept(drawing_.worldToUcs(answer.point));
+        break;
+    case Answer::Kind::Enter:
+        if ((rules_.flags & RSG_NONULL) == 0)
+            return Enter{};
+        break;
+    case Answer::Kind::End:
+        session_.processor().reportEndOfInput();
+        return Escape{};
+    case Answer::Kind::Cancel:
+        session_.processor().reportEscape();
+        return Escape{};
+    }
+    printText(wrongKind(rules_).message);
+    return std::nullopt;
+}
+
+std::optional<Outcome> Asking::readText(const ZrString& typed) {
+    if (ranTransparently(typed))
+        return std::nullopt;
+    Reading reading = readAnswer(typed, rules_, drawing_);
+    if (const auto* refusal = std::get_if<Refusal>(&reading)) {
+        printText(refusal->message);
+        return std::nullopt;
+    }
+    return accept(std::move(reading));
+}
+
+Outcome Asking::accept(Reading reading) {
+    if (const auto* point = std::get_if<ZrGePoint3d>(&reading))
+        if (Document* document = session_.documents().current())
+            document->lastPoint = *point;
+    return reading;
+}
+
+// A text question takes what names no command as text: an apostrophe is a character like any other there.
+bool Asking::ranTransparently(const ZrString& typed) {
+    if (typed.size() < 2 || typed.front() != L'\'')
+        return false;
+    if (rules_.wanted == Wanted::Text && !session_.processor().isTransparentCall(typed))
+        return false;
+    session_.processor().runTransparent(typed);
+    return true;
+}
+
+} // namespace quor::ed

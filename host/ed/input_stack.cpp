@@ -1,0 +1,114 @@
+#include "host/ed/input_stack.h"
+
+#include "host/ed/script_source.h"
+#include "host/texts/input.h"
+
+namespace quor::ed {
+
+namespace {
+
+// How an answer that was not typed is shown.
+std::wstring_view shown(const Answer& answer) {
+    switch (answer.kind) {
+    case Answer::Kind::Text:
+        return answer.text;
+    case Answer::Kind::Cancel:
+    case Answer::Kind::End:
+        return L"^C";
+    case Answer::Kind::Point:
+    case Answer::Kind::Enter:
+        break;
+    }
+    return {};
+}
+
+bool isAtPrompt(const Question& question) { return question.kind == Question::Kind::Command; }
+
+} // namespace
+
+ZrString Origin::text() const { return name ? fill(texts::kScriptPlace, *name, line) : ZrString(); }
+
+void InputStack::push(std::unique_ptr<InputSource> source) { sources_.push_back(std::move(source)); }
+
+void InputStack::queueMacro(std::wstring_view macro) { macros_.push_back(std::make_unique<MacroSource>(macro)); }
+
+void InputStack::clear() {
+    sources_.clear();
+    macros_.clear();
+    typedLine_.reset();
+}
+
+const InputSource* InputStack::top() const { return sources_.empty() ? nullptr : sources_.back().get(); }
+
+bool InputStack::hasProgramInput() {
+    while (!macros_.empty()) { // the last one in goes below, so that the first runs first
+        sources_.push_back(std::move(macros_.back()));
+        macros_.pop_back();
+    }
+    while (!sources_.empty() && sources_.back()->atEnd())
+        sources_.pop_back();
+    return !sources_.empty();
+}
+
+bool InputStack::hasAnswer() {
+    for (auto source = sources_.rbegin(); source != sources_.rend(); ++source)
+        if (!(*source)->atEnd() || (*source)->endsCommand())
+            return true;
+    return typedLine_ && !typedLine_->atEnd();
+}
+
+Answer InputStack::take(InputSource& source, const Question& question, Answer answer) {
+    lastWasProgram_ = source.isProgram();
+    if (isAtPrompt(question))
+        commandOrigin_ = source.origin();
+    // Esc at the command prompt is the habit of macros to begin with; nobody needs to see it.
+    if (source.isEchoed() && !(isAtPrompt(question) && answer.kind == Answer::Kind::Cancel))
+        front_.echo(question, shown(answer));
+    return answer;
+}
+
+std::optional<Answer> InputStack::fromSources(const Question& question) {
+    if (isAtPrompt(question) && !macros_.empty())
+        hasProgramInput();
+    while (!sources_.empty()) {
+        InputSource& source = *sources_.back();
+        if (std::optional<Answer> answer = source.next(question))
+            return take(source, question, std::move(*answer));
+        const std::unique_ptr<InputSource> ended = std::move(sources_.back());
+        sources_.pop_back();
+        if (!isAtPrompt(question) && ended->endsCommand())
+            return take(*ended, question, Answer{Answer::Kind::End, {}, {}});
+    }
+    if (typedLine_) {
+        if (std::optional<Answer> answer = typedLine_->next(question))
+            return take(*typedLine_, question, std::move(*answer));
+        typedLine_.reset();
+    }
+    return std::nullopt;
+}
+
+Answer InputStack::cutTyped(const Question& question, Answer answer) {
+    lastWasProgram_ = false;
+    if (isAtPrompt(question))
+        commandOrigin_ = {};
+    const bool isOne = question.acceptsBlanks || answer.text.find_first_of(L" \t") == ZrString::npos;
+    if (answer.kind != Answer::Kind::Text || (isOne && !answer.text.starts_with(L"^C")))
+        return answer;
+    typedLine_ = std::make_unique<TypedLine>(answer.text);
+    std::optional<Answer> first = typedLine_->next(question);
+    return first ? std::move(*first) : Answer{Answer::Kind::Enter, {}, {}};
+}
+
+Answer InputStack::ask(const Question& question) {
+    if (std::optional<Answer> answer = fromSources(question))
+        return std::move(*answer);
+    return cutTyped(question, front_.ask(question));
+}
+
+Answer InputStack::drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) {
+    if (std::optional<Answer> answer = fromSources(question))
+        return std::move(*answer);
+    return cutTyped(question, front_.drag(question, sample));
+}
+
+} // namespace quor::ed

@@ -1,0 +1,65 @@
+#include "host/ed/script_source.h"
+
+#include "host/sys/utf8.h"
+#include "host/texts/input.h"
+
+#include <cerrno>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+namespace quor::ed {
+
+namespace {
+
+std::optional<Answer> nextAnswer(AnswerReader& reader, const Question& question) {
+    const std::optional<RawAnswer> raw = reader.next(question.acceptsBlanks);
+    if (!raw)
+        return std::nullopt;
+    switch (raw->kind) {
+    case RawAnswer::Kind::Escape:
+        return Answer{Answer::Kind::Cancel, {}, {}};
+    case RawAnswer::Kind::Enter:
+        return Answer{Answer::Kind::Enter, {}, {}};
+    case RawAnswer::Kind::Text:
+        break;
+    }
+    return Answer{Answer::Kind::Text, fromUtf8(raw->text), {}};
+}
+
+} // namespace
+
+ScriptSource::ScriptSource(std::string text, const ZrString& name)
+    : text_(std::move(text)), reader_(text_, AnswerSyntax::Script),
+      name_(name.empty() ? nullptr : std::make_shared<const ZrString>(name)) {}
+
+Result<std::unique_ptr<ScriptSource>, ZrString> ScriptSource::open(const std::filesystem::path& path) {
+    const ZrString name = fromUtf8(path.string());
+    std::error_code problem;
+    if (std::filesystem::is_directory(path, problem))
+        return fail(fill(texts::kScriptIsFolder, name));
+    errno = 0;
+    std::ifstream file(path, std::ios::binary);
+    std::string text{std::istreambuf_iterator<char>(file), {}};
+    if (!file.is_open() || file.bad())
+        return fail(fill(texts::kScriptUnreadable, name, fromUtf8(std::generic_category().message(errno))));
+    return std::make_unique<ScriptSource>(std::move(text), fromUtf8(path.filename().string()));
+}
+
+std::optional<Answer> ScriptSource::next(const Question& question) { return nextAnswer(reader_, question); }
+
+MacroSource::MacroSource(std::wstring_view macro) : text_(toUtf8(macro)), reader_(text_, AnswerSyntax::Macro) {}
+
+std::optional<Answer> MacroSource::next(const Question& question) { return nextAnswer(reader_, question); }
+
+TypedLine::TypedLine(std::wstring_view line) : text_(toUtf8(line)), reader_(text_, AnswerSyntax::Line) {}
+
+std::optional<Answer> TypedLine::next(const Question& question) { return nextAnswer(reader_, question); }
+
+std::optional<Answer> ReadyAnswers::next(const Question&) {
+    if (atEnd())
+        return std::nullopt;
+    return Answer{Answer::Kind::Text, answers_[at_++], {}};
+}
+
+} // namespace quor::ed

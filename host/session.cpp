@@ -1,0 +1,92 @@
+#include "host/session.h"
+
+#include "host/commands/command_list.h"
+#include "host/document.h"
+#include "host/ed/command_processor.h"
+#include "host/ed/input_stack.h"
+#include "host/ed/input_state.h"
+#include "host/rx/module_loader.h"
+#include "host/sys/resource_library.h"
+#include "host/sys/settings_store.h"
+#include "host/sys/system_variables.h"
+#include "host/texts/text.h"
+
+#include <cassert>
+#include <system_error>
+
+namespace quor {
+
+namespace {
+
+Session* running = nullptr;
+
+constexpr const wchar_t* kGeneral = L"General";
+constexpr const wchar_t* kLanguage = L"Language";
+
+// <prefix>/bin/quorc: the modules lie in <prefix>/lib/quor/modules, the resources in <prefix>/share/quor.
+std::filesystem::path installPrefix() {
+    std::error_code problem;
+    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", problem);
+    return problem ? std::filesystem::path() : program.parent_path().parent_path();
+}
+
+// A text of the user's own that names no known language counts as none.
+ZrString usableLanguage(const ZrString& wanted) { return wanted == L"en" ? wanted : ZrString(L"zh"); }
+
+SessionOptions completed(SessionOptions options, SettingsStore& settings) {
+    const std::filesystem::path prefix = installPrefix();
+    if (options.resourceFolder.empty())
+        options.resourceFolder = prefix / "share" / "quor";
+    if (options.moduleFolders.empty())
+        options.moduleFolders.push_back(prefix / "lib" / "quor" / "modules");
+    if (options.language.empty())
+        options.language = settings.get(kGeneral, kLanguage).value_or(L"zh");
+    options.language = usableLanguage(options.language);
+    return options;
+}
+
+std::unique_ptr<SettingsStore> openSettings(const std::filesystem::path& file) {
+    return file.empty() ? std::make_unique<SettingsStore>() : std::make_unique<SettingsStore>(file);
+}
+
+} // namespace
+
+Session::Session(FrontEnd& front, SessionOptions options) : front_(front) {
+    assert(running == nullptr && "one session at a time");
+    running = this;
+    settings_ = openSettings(options.settingsFile);
+    options_ = completed(std::move(options), *settings_);
+    setLanguage(options_.language == L"en" ? Language::English : Language::Chinese);
+    resources_ = std::make_unique<sys::ResourceLibrary>(options_.resourceFolder, options_.language);
+    variables_ = std::make_unique<sys::SystemVariables>(*this);
+    documents_ = std::make_unique<DocumentManager>();
+    input_ = std::make_unique<ed::InputStack>(front_);
+    inputState_ = std::make_unique<ed::InputState>();
+    commands_ = std::make_unique<ed::CommandTable>();
+    processor_ = std::make_unique<ed::CommandProcessor>(*this);
+    modules_ = std::make_unique<rx::ModuleLoader>(*this);
+    registerHostCommands(*this);
+}
+
+// Modules go first and may use everything else while they do.
+Session::~Session() {
+    modules_.reset();
+    processor_.reset();
+    commands_.reset();
+    inputState_.reset();
+    input_.reset();
+    documents_.reset();
+    variables_.reset();
+    resources_.reset();
+    settings_.reset();
+    running = nullptr;
+}
+
+Session& Session::current() {
+    assert(running != nullptr && "no session");
+    return *running;
+}
+
+bool Session::exists() { return running != nullptr; }
+
+} // namespace quor
