@@ -17,8 +17,8 @@ struct Text {
 };
 
 // One line each, in number order. Prompts begin with a line break. A keyword list holds the local words, then the
-// global ones with a leading "_"; what is typed is the capital letters. The built-in local name of a command is its
-// global name.
+// global ones, the first of them with "_" in front; capital letters mark what is typed for short. The built-in local
+// name of a command is its global name.
 struct TextTable {
     static constexpr TextSource lib = TextSource::CommandLibrary;
     static constexpr TextSource words = TextSource::Keywords;
