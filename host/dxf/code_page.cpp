@@ -27,54 +27,22 @@ bool isAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 
 const std::vector<CodePageName>& codePageNames() {
     static const std::vector<CodePageName> names = {
-        {"ANSI_1252", "CP1252"},
-        {"ANSI_874", "CP874"},
-        {"ANSI_932", "CP932", true},
-        {"ANSI_936", "GBK", true},
-        {"ANSI_949", "CP949", true},
-        {"ANSI_950", "CP950", true},
-        {"ANSI_1250", "CP1250"},
-        {"ANSI_1251", "CP1251"},
-        {"ANSI_1253", "CP1253"},
-        {"ANSI_1254", "CP1254"},
-        {"ANSI_1255", "CP1255"},
-        {"ANSI_1256", "CP1256"},
-        {"ANSI_1257", "CP1257"},
-        {"ANSI_1258", "CP1258"},
-        {"ANSI_1361", "JOHAB", true},
-        {"johab", "JOHAB", true},
-        {"big5", "BIG5", true},
-        {"gb2312", "GBK", true},
-        {"ksc5601", "CP949", true},
-        {"dos437", "CP437"},
-        {"dos850", "CP850"},
-        {"dos852", "CP852"},
-        {"dos855", "CP855"},
-        {"dos857", "CP857"},
-        {"dos860", "CP860"},
-        {"dos861", "CP861"},
-        {"dos862", "CP862"},
-        {"dos863", "CP863"},
-        {"dos864", "CP864"},
-        {"dos865", "CP865"},
-        {"dos866", "CP866"},
-        {"dos869", "CP869"},
-        {"dos932", "CP932", true},
-        {"dos936", "GBK", true},
-        {"dos949", "CP949", true},
-        {"dos950", "CP950", true},
-        {"iso8859-1", "ISO-8859-1"},
-        {"iso8859-2", "ISO-8859-2"},
-        {"iso8859-3", "ISO-8859-3"},
-        {"iso8859-4", "ISO-8859-4"},
-        {"iso8859-5", "ISO-8859-5"},
-        {"iso8859-6", "ISO-8859-6"},
-        {"iso8859-7", "ISO-8859-7"},
-        {"iso8859-8", "ISO-8859-8"},
-        {"iso8859-9", "ISO-8859-9"},
-        {"mac-roman", "MACINTOSH"},
-        {"macintosh", "MACINTOSH"},
-        {"ASCII", ""},
+        {"ANSI_1252", "CP1252"},     {"ANSI_874", "CP874"},       {"ANSI_932", "CP932", true},
+        {"ANSI_936", "GBK", true},   {"ANSI_949", "CP949", true}, {"ANSI_950", "CP950", true},
+        {"ANSI_1250", "CP1250"},     {"ANSI_1251", "CP1251"},     {"ANSI_1253", "CP1253"},
+        {"ANSI_1254", "CP1254"},     {"ANSI_1255", "CP1255"},     {"ANSI_1256", "CP1256"},
+        {"ANSI_1257", "CP1257"},     {"ANSI_1258", "CP1258"},     {"ANSI_1361", "JOHAB", true},
+        {"johab", "JOHAB", true},    {"big5", "BIG5", true},      {"gb2312", "GBK", true},
+        {"ksc5601", "CP949", true},  {"dos437", "CP437"},         {"dos850", "CP850"},
+        {"dos852", "CP852"},         {"dos855", "CP855"},         {"dos857", "CP857"},
+        {"dos860", "CP860"},         {"dos861", "CP861"},         {"dos862", "CP862"},
+        {"dos863", "CP863"},         {"dos864", "CP864"},         {"dos865", "CP865"},
+        {"dos866", "CP866"},         {"dos869", "CP869"},         {"dos932", "CP932", true},
+        {"dos936", "GBK", true},     {"dos949", "CP949", true},   {"dos950", "CP950", true},
+        {"iso8859-1", "ISO-8859-1"}, {"iso8859-2", "ISO-8859-2"}, {"iso8859-3", "ISO-8859-3"},
+        {"iso8859-4", "ISO-8859-4"}, {"iso8859-5", "ISO-8859-5"}, {"iso8859-6", "ISO-8859-6"},
+        {"iso8859-7", "ISO-8859-7"}, {"iso8859-8", "ISO-8859-8"}, {"iso8859-9", "ISO-8859-9"},
+        {"mac-roman", "MACINTOSH"},  {"macintosh", "MACINTOSH"},  {"ASCII", ""},
         {"UNDEFINED", "CP1252"},
     };
     return names;
@@ -159,8 +127,8 @@ wchar_t CodePage::next(std::string_view bytes, std::size_t& at) const {
     }
     const auto byte = static_cast<unsigned char>(first);
     const wchar_t single = high_[byte - 128U];
-    if (single == 0 && name_.isDoubleByte && usable_ && at + 1 < bytes.size()) {
-        const wchar_t pair = decodeOne(bytes.substr(at, 2));
+    if (single == 0 && at + 1 < bytes.size()) {
+        const wchar_t pair = decodePair(bytes.substr(at, 2));
         if (pair != 0) {
             at += 2;
             return pair;
@@ -168,6 +136,15 @@ wchar_t CodePage::next(std::string_view bytes, std::size_t& at) const {
     }
     ++at;
     return single != 0 ? single : escapedByte(byte);
+}
+
+wchar_t CodePage::decodePair(std::string_view bytes) const {
+    return name_.isDoubleByte && usable_ ? decodeOne(bytes) : 0;
+}
+
+bool CodePage::joins(char first, char second) const {
+    const char pair[] = {first, second};
+    return !isAscii(first) && high_[static_cast<unsigned char>(first) - 128U] == 0 && decodePair({pair, 2}) != 0;
 }
 
 bool CodePage::append(std::string& out, wchar_t c) const {

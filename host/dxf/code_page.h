@@ -52,6 +52,9 @@ public:
     // escape (host/sys/utf8.h).
     [[nodiscard]] wchar_t next(std::string_view bytes, std::size_t& at) const;
 
+    // True when these two bytes side by side are one character.
+    [[nodiscard]] bool joins(char first, char second) const;
+
     // Appends the bytes of a character above 127; false, and nothing is appended, when the page does not have it.
     [[nodiscard]] bool append(std::string& out, wchar_t c) const;
 
@@ -62,6 +65,7 @@ private:
     };
 
     [[nodiscard]] wchar_t decodeOne(std::string_view bytes) const;
+    [[nodiscard]] wchar_t decodePair(std::string_view bytes) const;
     void buildSingleBytes();
 
     CodePageName name_;

@@ -137,9 +137,35 @@ std::string TextCodec::encode(std::wstring_view text) const {
         return {text.begin(), text.end()};
     std::string out;
     out.reserve(text.size() * 2);
-    for (std::size_t at = 0; at < text.size(); ++at)
-        appendEncoded(out, text.substr(at));
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (at > 0 && isEscapedByte(text[at - 1]) && !isEscapedByte(text[at]))
+            appendBehindKept(out, text.substr(at));
+        else
+            appendEncoded(out, text.substr(at));
+    }
     return out;
+}
+
+// Behind a kept byte that may be the first half of a character: takes the first form that does not become the other
+// half. Where every form would, a blank keeps them apart, which loses less than the character.
+void TextCodec::appendBehindKept(std::string& out, std::wstring_view rest) const {
+    const CodePage* page = pages_->own();
+    const char kept = out.back();
+    const auto isSafe = [&](const std::string& form) { return page == nullptr || !page->joins(kept, form.front()); };
+    const wchar_t c = rest.front();
+    std::string form;
+    appendEncoded(form, rest);
+    std::string escape;
+    appendUnicodeEscape(escape, c);
+    const bool mayStandRaw = c >= 0 && c < 0x20 && c != L'\n' && c != L'\r';
+    if (isSafe(form))
+        out += form;
+    else if (isSafe(escape))
+        out += escape;
+    else if (mayStandRaw)
+        out.push_back(static_cast<char>(c));
+    else
+        out += ' ' + form;
 }
 
 // Writes the first character of `rest`; what follows decides whether a caret or backslash would be misread.

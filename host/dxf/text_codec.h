@@ -11,7 +11,8 @@ namespace quor::dxf {
 // One codec serves one drawing, on one thread at a time.
 //
 // Decoding never fails: a byte that the code page does not know becomes a lone surrogate (escapedByte in
-// host/sys/utf8.h) and is written back as that byte. `encode` writes what `decode` reads back as the same text.
+// host/sys/utf8.h) and is written back as that byte. `encode` writes what `decode` reads back as the same text
+// (an edited text that puts a new character behind half a character may get a blank between them).
 // Join the chunks of a long value before decoding it: an escape may be cut in two at the border.
 class TextCodec {
 public:
@@ -41,6 +42,7 @@ private:
 
     [[nodiscard]] std::wstring resolveEscapes(std::wstring text) const;
     [[nodiscard]] Piece pieceAt(std::wstring_view text) const;
+    void appendBehindKept(std::string& out, std::wstring_view rest) const;
     void appendEncoded(std::string& out, std::wstring_view rest) const;
     static void appendControl(std::string& out, wchar_t c);
     void appendHigh(std::string& out, wchar_t c) const;
