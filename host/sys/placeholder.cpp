@@ -44,6 +44,18 @@ int takeNumber(std::wstring_view text, std::size_t& at, int limit) {
     return number;
 }
 
+// Calls `each` with every placeholder and its spelling.
+template <class Each>
+void forEachPlaceholder(std::wstring_view text, const Each& each) {
+    for (std::size_t percent = text.find(L'%'); percent != std::wstring_view::npos; percent = text.find(L'%')) {
+        text.remove_prefix(percent);
+        const auto placeholder = parsePlaceholder(text);
+        if (placeholder)
+            each(*placeholder, text.substr(0, placeholder->length));
+        text.remove_prefix(placeholder ? placeholder->length : text.substr(0, 2) == L"%%" ? 2 : 1);
+    }
+}
+
 } // namespace
 
 std::optional<Placeholder> parsePlaceholder(std::wstring_view text) {
@@ -69,18 +81,18 @@ std::optional<Placeholder> parsePlaceholder(std::wstring_view text) {
 
 std::wstring placeholderKinds(std::wstring_view text) {
     std::wstring kinds;
-    while (true) {
-        const std::size_t percent = text.find(L'%');
-        if (percent == std::wstring_view::npos)
-            return kinds;
-        text.remove_prefix(percent);
-        if (const auto placeholder = parsePlaceholder(text)) {
-            kinds += kindOf(placeholder->conversion);
-            text.remove_prefix(placeholder->length);
-        } else {
-            text.remove_prefix(text.substr(0, 2) == L"%%" ? 2 : 1);
-        }
-    }
+    forEachPlaceholder(text, [&](const Placeholder& found, std::wstring_view) { kinds += kindOf(found.conversion); });
+    return kinds;
+}
+
+std::wstring placeholders(std::wstring_view text) {
+    std::wstring all;
+    forEachPlaceholder(text, [&](const Placeholder&, std::wstring_view spelling) {
+        if (!all.empty())
+            all += L' ';
+        all += spelling;
+    });
+    return all;
 }
 
 } // namespace quor::sys

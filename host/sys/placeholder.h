@@ -30,5 +30,7 @@ struct Placeholder {
 // What the placeholders of a text take, in order, a letter each: w whole number, r real number, s text, c character.
 // Texts with equal kinds can be filled with the same arguments.
 [[nodiscard]] std::wstring placeholderKinds(std::wstring_view text);
+// The placeholders as they stand in the text, with blanks between; empty when there are none.
+[[nodiscard]] std::wstring placeholders(std::wstring_view text);
 
 } // namespace quor::sys

@@ -1,7 +1,6 @@
 // The language packs of a session: resource modules by name, from the folder of the language in use.
 #pragma once
 
-#include "host/sys/result.h"
 #include "sdk/sys/resources.h"
 
 #include <filesystem>
@@ -58,7 +57,7 @@ public:
     ResourceLibrary& operator=(const ResourceLibrary&) = delete;
 
     // Null when the language has no such module, or it cannot be read. A name is a plain file name without extension.
-    [[nodiscard]] ZwResourceHandle load(const ZrString& name);
+    [[nodiscard]] ZwResourceHandle load(std::wstring_view name);
     // How many texts were taken out; see zwCheckResourceTexts().
     int check(ZwResourceHandle module, std::span<const ZwResourceText> builtIn);
 
@@ -68,12 +67,12 @@ public:
     [[nodiscard]] const std::vector<ResourceProblem>& problems() const { return problems_; }
 
 private:
-    std::unique_ptr<ResourceModule> readModule(const ZrString& name);
+    std::unique_ptr<ResourceModule> readModule(std::wstring_view name);
     void reportFrom(std::size_t first) const;
 
     std::filesystem::path folder_;
     ZrString language_;
-    std::map<ZrString, std::unique_ptr<ResourceModule>> modules_; // null: looked for and not there
+    std::map<ZrString, std::unique_ptr<ResourceModule>, std::less<>> modules_; // null: looked for and not there
     std::vector<ResourceProblem> problems_;
 };
 

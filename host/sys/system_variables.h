@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sdk/ge/point3d.h"
+#include "sdk/sys/global_vars.h"
 #include "sdk/sys/string.h"
 #include "sdk/sys/system.h"
 
@@ -45,7 +46,8 @@ struct VariableRow {
     VariableValue initial = short{0}; // where the home has no value
     bool angle = false;               // kept in radians, typed and shown in the drawing's angular units
     const wchar_t* choices = nullptr; // the texts it takes, between "/"
-    // How to reach a value that no home keeps under the variable's name; called with a drawing open where the home is one.
+    // How to reach a value that no home keeps under the variable's name; called with a drawing open where the home is
+    // one.
     VariableValue (*read)(Session&) = nullptr;
     SetResult (*write)(Session&, const VariableValue&) = nullptr;
 
@@ -62,10 +64,11 @@ class SystemVariables final : public ZwSystemVariableService {
 public:
     explicit SystemVariables(Session& session);
 
-    // Names are matched without regard to case. Nothing when there is none of that name, or no drawing is open for one that
-    // lives in a drawing.
+    // Names are matched without regard to case. Nothing when there is none of that name, or no drawing is open for one
+    // that lives in a drawing.
     [[nodiscard]] std::optional<VariableValue> get(std::wstring_view name) const;
-    // Undoable when it lives in a drawing. A whole number is taken for a real one. Refused values change nothing.
+    // Undoable when it lives in a drawing. A whole number is taken for a real one. Refused values change nothing,
+    // except that NotSaved means that the value holds for this process.
     SetResult set(std::wstring_view name, const VariableValue& value);
     // Converts typed text to the type of the variable, then sets it.
     SetResult setFromText(std::wstring_view name, std::wstring_view text);
@@ -73,8 +76,8 @@ public:
     [[nodiscard]] ZrString refusal(std::wstring_view name, SetResult result) const;
     // As a person reads it.
     [[nodiscard]] ZrString toText(const VariableValue& value) const;
-    // The variable's value as a person reads it and could type it, angles in the drawing's units; nothing where get() gives
-    // nothing.
+    // The variable's value as a person reads it and could type it, angles in the drawing's units; nothing where get()
+    // gives nothing.
     [[nodiscard]] std::optional<ZrString> text(std::wstring_view name) const;
 
     [[nodiscard]] bool has(std::wstring_view name) const;
@@ -89,6 +92,9 @@ public:
     // Whole number of a variable that is known to exist; `fallback` without a drawing.
     [[nodiscard]] short number(std::wstring_view name, short fallback = 0) const;
 
+    // The variables behind ZrGlobalVarManager::instance().
+    [[nodiscard]] ZrGlobalVarManager& globals() { return globals_; }
+
 private:
     [[nodiscard]] VariableValue fromUser(const VariableRow& row) const;
     SetResult toUser(const VariableRow& row, const VariableValue& value);
@@ -96,6 +102,7 @@ private:
     Session& session_;
     std::map<ZrString, std::function<short()>> registered_; // upper case
     std::map<ZrString, VariableValue> process_;
+    ZrGlobalVarManager globals_;
 };
 
 } // namespace quor::sys

@@ -1,0 +1,29 @@
+// What the host says of system variables.
+#pragma once
+
+#include "host/texts/text.h"
+
+namespace quor::texts {
+
+inline constexpr Text variableUnknown{L"未知的系统变量“%s”。", L"Unknown system variable \"%s\"."};
+inline constexpr Text variableReadOnly{L"系统变量 %s 是只读的。", L"System variable %s is read-only."};
+inline constexpr Text variableWantsWhole{L"系统变量 %s 需要整数。", L"System variable %s takes a whole number."};
+inline constexpr Text variableWantsWholeRange{L"系统变量 %s 需要 %s 到 %s 之间的整数。",
+                                              L"System variable %s takes a whole number from %s to %s."};
+inline constexpr Text variableWantsReal{L"系统变量 %s 需要数值。", L"System variable %s takes a number."};
+inline constexpr Text variableWantsRealRange{L"系统变量 %s 需要 %s 到 %s 之间的数值。",
+                                             L"System variable %s takes a number from %s to %s."};
+inline constexpr Text variableWantsAngle{L"系统变量 %s 需要角度。", L"System variable %s takes an angle."};
+inline constexpr Text variableWantsText{L"系统变量 %s 需要文本。", L"System variable %s takes a text."};
+inline constexpr Text variableWantsPoint{L"系统变量 %s 需要点(x,y 或 x,y,z)。",
+                                         L"System variable %s takes a point (x,y or x,y,z)."};
+inline constexpr Text variableWantsChoice{L"系统变量 %s 需要下列值之一: %s。", L"System variable %s takes one of: %s."};
+inline constexpr Text variableNoDrawing{L"系统变量 %s 属于图形，而当前没有打开的图形。",
+                                        L"System variable %s belongs to a drawing, and none is open."};
+inline constexpr Text variableNoLayer{L"%s: 图形中没有该名称的可用图层(隐藏图层不能作为当前图层)。",
+                                      L"%s: the drawing has no such layer that can be current (a hidden one cannot)."};
+inline constexpr Text variableNotSaved{L"系统变量 %s 仅在本次运行中有效: 无法写入用户设置。",
+                                       L"System variable %s holds for this run only: the user's settings cannot be "
+                                       L"written."};
+
+} // namespace quor::texts
