@@ -10,6 +10,7 @@
 
 #include "host/cm/rgb_text.h"
 #include "host/sys/case_fold.h"
+#include "host/sys/program_folder.h"
 #include "host/sys/utf8.h"
 
 namespace quor::cm {
@@ -216,9 +217,7 @@ fs::path defaultColorBookFolder() {
     const char* resources = std::getenv("QUOR_RESOURCES");
     if (resources != nullptr && *resources != '\0')
         return fs::path(resources) / "colorbooks";
-    std::error_code failure;
-    const fs::path program = fs::read_symlink("/proc/self/exe", failure);
-    return program.parent_path() / ".." / "share" / "quor" / "colorbooks";
+    return sys::programFolder() / ".." / "share" / "quor" / "colorbooks";
 }
 
 const ColorBooks& colorBooks() {
