@@ -40,7 +40,7 @@ private:
         std::uint64_t mask = 0;
 #if defined(__SSE2__)
         const __m128i lineFeed = _mm_set1_epi8('\n');
-        for (unsigned part = 0; part < 4; ++part) {
+        for (std::size_t part = 0; part < 4; ++part) {
             const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block + 16 * part));
             const auto found = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, lineFeed)));
             mask |= std::uint64_t{found} << (16 * part);
