@@ -39,6 +39,7 @@ struct Answer {
 struct TaskDialogAnswer {
     std::optional<int> command;
     bool checked = false;
+    bool inputEnded = false; // cancelled because there is no more input
 };
 
 // A file that is to be chosen.

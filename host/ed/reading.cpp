@@ -154,7 +154,8 @@ Reading readAnswer(const ZrString& typed, const Rules& rules, const DrawingRules
     Reading value = readValue(typed, rules, drawing);
     // Arbitrary text stands in for what can be read as nothing else; a number that is out of bounds stays refused.
     const bool isNoValue = std::holds_alternative<Refusal>(value);
-    const bool isNumber = rules.wanted != Wanted::Keyword && parseReal(typed, drawing).has_value();
+    const bool asksNumber = rules.wanted != Wanted::Keyword && rules.wanted != Wanted::Point;
+    const bool isNumber = asksNumber && parseReal(typed, drawing).has_value();
     if (isNoValue && (rules.flags & RSG_OTHER) != 0 && !isNumber)
         return TextAnswer{typed};
     return value;

@@ -1,0 +1,76 @@
+#include "host/ed/pick.h"
+
+#include "sdk/db/database.h"
+#include "sdk/db/face.h"
+#include "sdk/db/light.h"
+#include "sdk/db/line.h"
+
+#include <algorithm>
+
+namespace quor::ed {
+
+ZrDbObjectIdArray entitiesOfCurrentSpace(const Document& document) {
+    return document.drawing().entities(document.database()->currentSpaceId());
+}
+
+std::vector<ZrGePoint3d> knownPoints(ZrDbObjectId id) {
+    const ZrDbObjectPointer<ZrDbEntity> entity(id, ZrDb::kForRead);
+    if (!entity)
+        return {};
+    if (const auto* light = zrrxCast<ZrDbLight>(entity.object()))
+        return {light->position()};
+    if (const auto* line = zrrxCast<ZrDbLine>(entity.object()))
+        return {line->startPoint(), line->endPoint()};
+    std::vector<ZrGePoint3d> corners;
+    if (const auto* face = zrrxCast<ZrDbFace>(entity.object()))
+        for (int i = 0; i < 4; ++i)
+            face->getVertexAt(i, corners.emplace_back());
+    return corners;
+}
+
+std::optional<ZrDbObjectId> entityByHandle(const Document& document, std::wstring_view text) {
+    constexpr std::size_t kMostDigits = 16;
+    if (!text.empty() && text.front() == L'#')
+        text.remove_prefix(1);
+    if (text.empty() || text.size() > kMostDigits)
+        return std::nullopt;
+    std::uint64_t value = 0;
+    for (const wchar_t c : text) {
+        const std::size_t digit = std::wstring_view(L"0123456789ABCDEF").find(c >= L'a' && c <= L'f' ? c - 32 : c);
+        if (digit == std::wstring_view::npos)
+            return std::nullopt;
+        value = value * 16 + digit;
+    }
+    const ZrDbObjectId id = document.database()->objectId(ZrDbHandle(value));
+    if (id.isNull() || id.isErased() || id.entry()->owner != document.database()->currentSpaceId().entry())
+        return std::nullopt;
+    return id;
+}
+
+ZrDbObjectIdArray entitiesAt(const Document& document, const ZrGePoint3d& point) {
+    ZrDbObjectIdArray found;
+    for (const ZrDbObjectId id : entitiesOfCurrentSpace(document)) {
+        const std::vector<ZrGePoint3d> points = knownPoints(id);
+        if (std::any_of(points.begin(), points.end(), [&](const ZrGePoint3d& p) { return p.isEqualTo(point); }))
+            found.push_back(id);
+    }
+    return found;
+}
+
+ZrDbObjectIdArray entitiesInWindow(const Document& document, const ZrGePoint3d& a, const ZrGePoint3d& b) {
+    const auto [left, right] = std::minmax(a.x, b.x);
+    const auto [bottom, top] = std::minmax(a.y, b.y);
+    const auto inside = [&](const ZrGePoint3d& world) {
+        const ZrGePoint3d p = zrdbWcs2Ucs(world);
+        return p.x >= left && p.x <= right && p.y >= bottom && p.y <= top;
+    };
+    ZrDbObjectIdArray found;
+    for (const ZrDbObjectId id : entitiesOfCurrentSpace(document)) {
+        const std::vector<ZrGePoint3d> points = knownPoints(id);
+        if (!points.empty() && std::all_of(points.begin(), points.end(), inside))
+            found.push_back(id);
+    }
+    return found;
+}
+
+} // namespace quor::ed

@@ -1,0 +1,22 @@
+// Finding entities of the current space without a mouse: by handle, by their known points.
+#pragma once
+
+#include "host/document.h"
+
+#include <optional>
+
+namespace quor::ed {
+
+// Every entity of the current space that is not erased, in drawing order.
+[[nodiscard]] ZrDbObjectIdArray entitiesOfCurrentSpace(const Document& document);
+// The points by which an entity is found (world coordinates): the place of a light, the ends of a line, the corners of
+// a face. Empty for other entities.
+[[nodiscard]] std::vector<ZrGePoint3d> knownPoints(ZrDbObjectId id);
+// "1F" or "#1F"; nothing when that is no handle of an entity of the current space.
+[[nodiscard]] std::optional<ZrDbObjectId> entityByHandle(const Document& document, std::wstring_view text);
+// Entities of which a known point is this one (world coordinates, up to the global tolerance).
+[[nodiscard]] ZrDbObjectIdArray entitiesAt(const Document& document, const ZrGePoint3d& point);
+// Entities whose known points all lie in the rectangle between two corners, seen along the z axis of the UCS. UCS.
+[[nodiscard]] ZrDbObjectIdArray entitiesInWindow(const Document& document, const ZrGePoint3d& a, const ZrGePoint3d& b);
+
+} // namespace quor::ed
