@@ -1,0 +1,41 @@
+#include "host/commands/ask.h"
+#include "host/commands/commands.h"
+#include "host/commands/drawing_files.h"
+#include "host/ed/command_processor.h"
+#include "host/session.h"
+#include "host/texts/files.h"
+#include "sdk/rx/command.h"
+
+namespace quor::commands {
+
+int closeDrawing(Session& session) {
+    Document& document = *session.documents().current();
+    const ZrString name = shortName(document);
+    if (document.isModified()) {
+        const std::optional<bool> save = askYesNo(fill(texts::kAskSaveChanges, name), true);
+        if (!save)
+            return RTCAN;
+        if (const int result = *save ? saveInPlace(session, document) : RTNORM; result != RTNORM)
+            return result;
+    }
+    session.documents().close(document);
+    say(texts::kClosed, name);
+    return RTNORM;
+}
+
+// A program that quits has decided what to save; a person is asked about each drawing that would lose changes.
+int quit(Session& session) {
+    for (const auto& document : session.documents().all()) {
+        if (!document->isModified() || RxCommand::isCalledByCommand())
+            continue;
+        const ZrString name = shortName(*document);
+        if (!askYesNo(fill(texts::kAskDiscard, name), false).value_or(false)) {
+            say(texts::kNotQuit, name);
+            return RTCAN;
+        }
+    }
+    session.processor().requestQuit();
+    return RTNORM;
+}
+
+} // namespace quor::commands

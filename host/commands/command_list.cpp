@@ -1,0 +1,87 @@
+#include "host/commands/command_list.h"
+
+#include "host/commands/ask.h"
+#include "host/commands/commands.h"
+#include "host/document.h"
+#include "host/ed/command_table.h"
+#include "host/session.h"
+#include "host/texts/input.h"
+
+#include <array>
+
+namespace quor {
+
+namespace {
+
+constexpr bool kWithDrawing = true;
+constexpr bool kAnytime = false;
+
+struct Row {
+    const wchar_t* name;
+    int (*run)(Session&);
+    bool needsDrawing;
+    int flags;
+    std::array<const wchar_t*, 3> aliases = {};
+};
+
+using namespace commands;
+using ed::kNoRepeat;
+using ed::kNoUndo;
+using ed::kTransparent;
+
+// clang-format off
+const Row kCommands[] = {
+    {L"NEW",        newDrawing,     kAnytime,     kNoUndo},
+    {L"OPEN",       openDrawing,    kAnytime,     kNoUndo},
+    {L"RECOVER",    recoverDrawing, kAnytime,     kNoUndo},
+    {L"SAVE",       saveDrawing,    kWithDrawing, kNoUndo, {L"QSAVE"}},
+    {L"SAVEAS",     saveDrawingAs,  kWithDrawing, kNoUndo},
+    {L"CLOSE",      closeDrawing,   kWithDrawing, kNoUndo},
+    {L"DOCUMENTS",  listDocuments,  kAnytime,     kNoUndo, {L"DOCS"}},
+    {L"QUIT",       quit,           kAnytime,     kNoUndo | kNoRepeat, {L"EXIT"}},
+    {L"U",          undoOne,        kWithDrawing, kNoUndo},
+    {L"UNDO",       undoSeveral,    kWithDrawing, kNoUndo},
+    {L"REDO",       redo,           kWithDrawing, kNoUndo},
+    {L"SELECT",     commands::select, kWithDrawing, 0},
+    {L"ERASE",      erase,          kWithDrawing, 0, {L"E"}},
+    {L"LIST",       list,           kWithDrawing, 0, {L"LI", L"LS"}},
+    {L"LINE",       line,           kWithDrawing, 0, {L"L"}},
+    {L"3DFACE",     face,           kWithDrawing, 0, {L"3F"}},
+    {L"UCS",        ucs,            kWithDrawing, 0},
+    {L"LAYOUT",     layout,         kWithDrawing, 0, {L"LO"}},
+    {L"MODEL",      model,          kWithDrawing, 0},
+    {L"PAPER",      paper,          kWithDrawing, 0},
+    {L"MSPACE",     modelInLayout,  kWithDrawing, 0, {L"MS"}},
+    {L"PSPACE",     paperInLayout,  kWithDrawing, 0, {L"PS"}},
+    {L"LAYER",      layer,          kWithDrawing, 0, {L"LA", L"-LAYER", L"-LA"}},
+    {L"SETVAR",     setVariable,    kAnytime,     kTransparent, {L"SET"}},
+    {L"SCRIPT",     script,         kAnytime,     kNoUndo, {L"SCR"}},
+    {L"LOADMODULE", loadModule,     kAnytime,     kNoUndo, {L"LM"}},
+    {L"HELP",       help,           kAnytime,     kNoUndo | kTransparent, {L"?"}},
+};
+// clang-format on
+
+int runRow(Session& session, const Row& row) {
+    if (row.needsDrawing && session.documents().current() == nullptr)
+        return failWith(texts::kNoDrawing, row.name);
+    return row.run(session);
+}
+
+} // namespace
+
+void registerHostCommands(Session& session) {
+    for (const Row& row : kCommands) {
+        ed::Command command;
+        command.group = L"QUOR";
+        command.globalName = command.localName = row.name;
+        command.flags = row.flags;
+        command.isHost = true;
+        command.run = [&session, &row] { return runRow(session, row); };
+        session.commands().add(std::move(command));
+        for (const wchar_t* alias : row.aliases)
+            if (alias != nullptr)
+                session.commands().addAlias(alias, row.name);
+    }
+}
+
+} // namespace quor

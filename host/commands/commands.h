@@ -1,0 +1,48 @@
+// The host's own commands. Each answers a result code: RTNORM, RTCAN when the person pressed Esc, RTERROR after a
+// message that said what could not be done.
+#pragma once
+
+namespace quor {
+class Session;
+}
+
+namespace quor::commands {
+
+// Drawings and their files.
+int newDrawing(Session& session);
+int openDrawing(Session& session);
+int recoverDrawing(Session& session);
+int saveDrawing(Session& session);
+int saveDrawingAs(Session& session);
+int closeDrawing(Session& session);
+int listDocuments(Session& session);
+int quit(Session& session);
+
+// Undo.
+int undoOne(Session& session);
+int undoSeveral(Session& session);
+int redo(Session& session);
+
+// Objects.
+int select(Session& session);
+int erase(Session& session);
+int list(Session& session);
+int line(Session& session);
+int face(Session& session);
+
+// Spaces, layers, settings.
+int ucs(Session& session);
+int layout(Session& session);
+int model(Session& session);
+int paper(Session& session);
+int modelInLayout(Session& session);
+int paperInLayout(Session& session);
+int layer(Session& session);
+int setVariable(Session& session);
+
+// Programs.
+int script(Session& session);
+int loadModule(Session& session);
+int help(Session& session);
+
+} // namespace quor::commands

@@ -1,0 +1,67 @@
+#include "host/commands/ask.h"
+#include "host/commands/commands.h"
+#include "host/commands/drawing_files.h"
+#include "host/session.h"
+#include "host/sys/case_fold.h"
+#include "host/sys/text_width.h"
+#include "host/texts/files.h"
+
+#include <algorithm>
+
+namespace quor::commands {
+
+namespace {
+
+using Documents = std::vector<std::unique_ptr<Document>>;
+
+void show(const Documents& documents, const Document* current) {
+    int width = 0;
+    for (const auto& document : documents)
+        width = std::max(width, columnsOf(shortName(*document)));
+    const int digits = columnsOf(std::to_wstring(documents.size()));
+    for (std::size_t i = 0; i < documents.size(); ++i) {
+        const Document& document = *documents[i];
+        ZrString row = document.isModified() ? ZrString(L"  ") + texts::kModifiedMark.get() : ZrString();
+        if (!document.path().empty())
+            row += L"  " + textOf(document.path());
+        row = padRight(shortName(document), row.empty() ? 0 : width) + row;
+        printText(ZrString(L"\n") + (&document == current ? L"* " : L"  ") + padLeft(std::to_wstring(i + 1), digits) +
+                  L"  " + row + L"\n");
+    }
+}
+
+// The documents that answer to a number or a name, full or short.
+std::vector<Document*> matching(const Documents& documents, const ZrString& answer) {
+    std::vector<Document*> found;
+    for (std::size_t i = 0; i < documents.size(); ++i)
+        if (answer == std::to_wstring(i + 1))
+            return {documents[i].get()};
+    for (const auto& document : documents)
+        if (equalFolded(shortName(*document), answer) || equalFolded(document->fileName(), answer))
+            found.push_back(document.get());
+    return found;
+}
+
+} // namespace
+
+int listDocuments(Session& session) {
+    DocumentManager& manager = session.documents();
+    if (manager.all().empty()) {
+        say(texts::kNoDocuments);
+        return RTNORM;
+    }
+    show(manager.all(), manager.current());
+    const std::optional<ZrString> answer = askLine(texts::kAskDocument.get());
+    if (!answer)
+        return RTCAN;
+    if (answer->empty())
+        return RTNORM;
+    const std::vector<Document*> found = matching(manager.all(), *answer);
+    if (found.size() != 1)
+        return failWith(found.empty() ? texts::kNoSuchDocument : texts::kAmbiguousDocument, *answer);
+    manager.setCurrent(found.front());
+    say(texts::kSwitched, shortName(*found.front()));
+    return RTNORM;
+}
+
+} // namespace quor::commands

@@ -1,0 +1,158 @@
+#include "host/commands/drawing_files.h"
+
+#include "host/commands/ask.h"
+#include "host/session.h"
+#include "host/texts/files.h"
+
+#include <algorithm>
+
+namespace quor::commands {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t kProblemsShown = 20;
+
+ZrString versionText(const ZrString& version) {
+    const auto* release = std::ranges::find_if(texts::kReleases, [&](const auto& r) { return version == r.version; });
+    return release == std::end(texts::kReleases) ? version : version + L" (" + release->name + L")";
+}
+
+std::size_t entityCount(const db::Database& drawing, ZrDbDatabase& database) {
+    std::size_t count = drawing.entities(database.modelSpaceId()).size();
+    for (const db::LayoutInfo& layout : drawing.layouts())
+        count += drawing.entities(layout.blockId).size();
+    return count;
+}
+
+void sayProblems(const std::vector<ZrString>& problems) {
+    if (problems.empty())
+        return say(texts::kRecoveredWhole);
+    say(texts::kRecoveredProblems, problems.size());
+    const std::size_t shown = std::min(problems.size(), kProblemsShown);
+    for (std::size_t i = 0; i < shown; ++i)
+        printText(L"\n  " + problems[i] + L"\n");
+    if (shown < problems.size())
+        say(texts::kMoreProblems, problems.size() - shown);
+}
+
+// Says why a path cannot be read; true when it can.
+bool isReadableFile(const fs::path& path) {
+    std::error_code error;
+    if (fs::is_directory(path, error)) {
+        say(texts::kIsFolder, textOf(path));
+        return false;
+    }
+    if (!fs::exists(path, error)) {
+        say(texts::kNoSuchFile, textOf(path), textOf(fs::current_path(error)));
+        return false;
+    }
+    return true;
+}
+
+// Says why nothing can be saved there; true when it can.
+bool isPlaceToSave(Session& session, const Document& document, const fs::path& path) {
+    std::error_code error;
+    if (fs::is_directory(path, error)) {
+        say(texts::kIsFolder, textOf(path));
+        return false;
+    }
+    const fs::path folder = path.parent_path();
+    if (!folder.empty() && !fs::is_directory(folder, error)) {
+        say(texts::kNoSuchFolder, textOf(folder));
+        return false;
+    }
+    const Document* other = openDocument(session, path);
+    if (other != nullptr && other != &document) {
+        say(texts::kOpenElsewhere, textOf(path));
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+int openPath(Session& session, const fs::path& path, bool recover) {
+    if (!isReadableFile(path))
+        return RTERROR;
+    if (Document* open = openDocument(session, path)) {
+        session.documents().setCurrent(open);
+        say(texts::kOpenAlready, textOf(path));
+        return RTNORM;
+    }
+    const ZrString what = fill(texts::kOpening, textOf(path.filename()));
+    db::OpenOptions options;
+    options.recover = recover;
+    options.progress = [&](double fraction) { session.front().progress(what, fraction); };
+    auto read = db::Database::open(path, options);
+    session.front().progress(what, 1.0);
+    if (!read) {
+        printText(L"\n" + read.error().message + L"\n");
+        return RTERROR;
+    }
+    const Document& document = session.documents().adopt(std::move(read).value(), path);
+    const db::Database& drawing = document.drawing();
+    say(texts::kOpened, textOf(path), versionText(drawing.version()), entityCount(drawing, *document.database()));
+    if (recover)
+        sayProblems(drawing.problems());
+    return RTNORM;
+}
+
+int askSavePath(Session& session, const Document& document, fs::path& path) {
+    const std::optional<ZrString> answer = askLine(texts::kAskSavePath.get());
+    if (!answer || answer->empty())
+        return RTCAN;
+    path = pathFromText(*answer);
+    std::error_code error;
+    if (!path.has_extension() && !fs::is_directory(path, error))
+        path += ".dxf";
+    if (!isPlaceToSave(session, document, path))
+        return RTERROR;
+    const bool own = !document.path().empty() && sameFile(path, document.path());
+    if (own || !fs::exists(path, error))
+        return RTNORM;
+    if (askYesNo(fill(texts::kAskReplace, textOf(path)), false).value_or(false))
+        return RTNORM;
+    say(texts::kNotReplaced, textOf(path));
+    return RTCAN;
+}
+
+int saveTo(Document& document, const fs::path& path) {
+    if (const auto saved = document.drawing().save(path); !saved) {
+        printText(L"\n" + saved.error().message + L"\n");
+        return RTERROR;
+    }
+    document.setPath(path);
+    document.drawing().journal().markSaved();
+    say(texts::kSaved, textOf(path));
+    return RTNORM;
+}
+
+int saveInPlace(Session& session, Document& document) {
+    if (!document.path().empty())
+        return saveTo(document, document.path());
+    fs::path path;
+    const int result = askSavePath(session, document, path);
+    return result == RTNORM ? saveTo(document, path) : result;
+}
+
+bool sameFile(const fs::path& a, const fs::path& b) {
+    std::error_code error;
+    if (fs::equivalent(a, b, error))
+        return true;
+    return fs::absolute(a, error).lexically_normal() == fs::absolute(b, error).lexically_normal();
+}
+
+Document* openDocument(Session& session, const fs::path& path) {
+    for (const auto& document : session.documents().all())
+        if (!document->path().empty() && sameFile(document->path(), path))
+            return document.get();
+    return nullptr;
+}
+
+ZrString shortName(const Document& document) {
+    return document.path().empty() ? document.fileName() : textOf(document.path().filename());
+}
+
+} // namespace quor::commands

@@ -1,0 +1,33 @@
+// Opening and saving drawings, as several commands do it. Messages included.
+#pragma once
+
+#include "host/document.h"
+
+#include <filesystem>
+
+namespace quor {
+class Session;
+}
+
+namespace quor::commands {
+
+// Opens a drawing and makes it current; one that is open already becomes current. RTNORM or RTERROR.
+int openPath(Session& session, const std::filesystem::path& path, bool recover);
+
+// Asks where to save. A name without extension gets ".dxf". Asks before it replaces a file other than the drawing's
+// own. RTNORM with a path, RTCAN for Esc, Enter or a file that is to be kept, RTERROR for a place where nothing can be
+// saved.
+[[nodiscard]] int askSavePath(Session& session, const Document& document, std::filesystem::path& path);
+// Saves and says where; RTNORM or RTERROR.
+int saveTo(Document& document, const std::filesystem::path& path);
+// Saves to the drawing's own file; asks for one when it has none.
+int saveInPlace(Session& session, Document& document);
+
+// Whether two paths name the same file, existing or not.
+[[nodiscard]] bool sameFile(const std::filesystem::path& a, const std::filesystem::path& b);
+// The open drawing with that file, or null.
+[[nodiscard]] Document* openDocument(Session& session, const std::filesystem::path& path);
+// The file name without its folder: what drawings are called in questions.
+[[nodiscard]] ZrString shortName(const Document& document);
+
+} // namespace quor::commands

@@ -1,0 +1,108 @@
+#include "host/texts/help.h"
+#include "host/commands/ask.h"
+#include "host/commands/commands.h"
+#include "host/ed/command_table.h"
+#include "host/session.h"
+#include "host/sys/case_fold.h"
+#include "host/sys/system_variables.h"
+#include "host/sys/text_width.h"
+#include "host/texts/commands.h"
+
+#include <algorithm>
+#include <map>
+
+namespace quor::commands {
+
+namespace {
+
+using texts::HelpPage;
+
+// Every line of a text, moved to the right.
+ZrString indented(ZrString text) {
+    for (std::size_t at = 0; (at = text.find(L'\n', at)) != ZrString::npos; ++at)
+        text.insert(at + 1, L"  ");
+    return L"  " + text;
+}
+
+ZrString joined(const std::vector<ZrString>& words) {
+    ZrString text;
+    for (const ZrString& word : words)
+        text += (text.empty() ? L"" : L", ") + word;
+    return text;
+}
+
+void showPage(Session& session, const HelpPage& page) {
+    ZrString text = ZrString(L"\n") + page.command + L"\n" + indented(page.summary.get()) + L"\n";
+    if (*page.questions.get() != 0)
+        text += indented(page.questions.get()) + L"\n";
+    if (const std::vector<ZrString> aliases = session.commands().aliasesOf(page.command); !aliases.empty())
+        text += indented(fill(texts::kHelpAliases, joined(aliases))) + L"\n";
+    text += indented(fill(texts::kHelpExample, page.example)) + L"\n";
+    printText(text);
+}
+
+void showHostCommands() {
+    int width = 0;
+    for (const HelpPage& page : texts::helpPages())
+        width = std::max(width, columnsOf(page.command));
+    const Text* topic = nullptr;
+    for (const HelpPage& page : texts::helpPages()) {
+        if (topic != &page.topic)
+            printText(ZrString(L"\n") + page.topic.get() + L"\n");
+        topic = &page.topic;
+        const std::wstring_view summary = page.summary.get();
+        printText(L"\n  " + padRight(page.command, width) + L"  " + ZrString(summary.substr(0, summary.find(L'\n'))) +
+                  L"\n");
+    }
+}
+
+// The commands of modules have no pages here; their names are listed by group.
+void showModuleCommands(const ed::CommandTable& commands) {
+    std::map<ZrString, std::vector<ZrString>> groups;
+    for (const ed::Command* command : commands.all())
+        if (!command->isHost)
+            groups[command->group].push_back(command->localName == command->globalName
+                                                 ? command->globalName
+                                                 : command->globalName + L" (" + command->localName + L")");
+    for (const auto& [group, names] : groups) {
+        printText(L"\n" + fill(texts::kHelpModuleCommands, group) + L"\n");
+        for (const ZrString& name : names)
+            printText(L"\n  " + name + L"\n");
+    }
+}
+
+int showCommand(Session& session, const ZrString& name) {
+    const ed::Command* command = session.commands().find(ed::parseCommandWord(name));
+    if (command == nullptr && session.variables().has(name)) {
+        say(texts::kHelpVariable, name);
+        return RTNORM;
+    }
+    if (command == nullptr)
+        return failWith(texts::kNoHelp, name);
+    if (!command->isHost) {
+        say(texts::kHelpModulePage, command->globalName, command->localName, command->group);
+        return RTNORM;
+    }
+    const auto pages = texts::helpPages();
+    const auto page = std::ranges::find_if(pages, [&](const auto& p) { return command->globalName == p.command; });
+    if (page == pages.end())
+        return failWith(texts::kNoHelp, name);
+    showPage(session, *page);
+    return RTNORM;
+}
+
+} // namespace
+
+int help(Session& session) {
+    const std::optional<ZrString> name = askWord(texts::kAskHelp.get());
+    if (!name)
+        return RTCAN;
+    if (!name->empty())
+        return showCommand(session, *name);
+    showHostCommands();
+    showModuleCommands(session.commands());
+    say(texts::kHelpHow);
+    return RTNORM;
+}
+
+} // namespace quor::commands

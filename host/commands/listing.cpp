@@ -1,0 +1,75 @@
+#include "host/commands/listing.h"
+
+#include "host/sys/text_width.h"
+#include "host/texts/list.h"
+#include "sdk/db/database.h"
+#include "sdk/db/units.h"
+
+#include <algorithm>
+#include <numbers>
+
+namespace quor::commands {
+
+namespace {
+
+ZrString coordinates(double x, double y, double z, ZrString (*text)(double)) {
+    return L"X=" + text(x) + L"  Y=" + text(y) + L"  Z=" + text(z);
+}
+
+} // namespace
+
+ZrString Listing::text() const {
+    int width = 0;
+    for (const auto& [label, value] : rows_)
+        width = std::max(width, columnsOf(label));
+    ZrString result = L"\n" + heading_ + L"\n";
+    for (const auto& [label, value] : rows_)
+        result += L"  " + padRight(label, width) + L"  " + value + L"\n";
+    for (const ZrString& line : lines_)
+        result += L"  " + line + L"\n";
+    return result;
+}
+
+ZrString lengthText(double length) {
+    ZrString text;
+    zrdbRToS(length, -1, -1, text);
+    return text;
+}
+
+ZrString pointText(const ZrGePoint3d& world) {
+    const ZrGePoint3d point = zrdbWcs2Ucs(world);
+    return coordinates(point.x, point.y, point.z, lengthText);
+}
+
+ZrString vectorText(const ZrGeVector3d& world) {
+    const ZrGeVector3d vector = zrdbWcs2Ucs(world);
+    return coordinates(vector.x, vector.y, vector.z, lengthText);
+}
+
+// "%.8g" may give "-0", which is no number that people write.
+ZrString numberText(double value) { return zrFormat(L"%.8g", {value == 0 ? 0.0 : value}); }
+
+ZrString degreesText(double radians) { return numberText(radians * 180 / std::numbers::pi) + L"°"; }
+
+ZrString colorText(const ZrCmColor& color) {
+    if (color.isByLayer())
+        return texts::kByLayer.get();
+    return color.isByBlock() ? ZrString(texts::kByBlock.get()) : color.colorNameForDisplay();
+}
+
+ZrString lineweightText(int weight) {
+    switch (weight) {
+    case -1:
+        return texts::kByLayer.get();
+    case -2:
+        return texts::kByBlock.get();
+    case -3:
+        return texts::kDefaultWeight.get();
+    default:
+        return zrFormat(L"%.2f mm", {weight / 100.0});
+    }
+}
+
+ZrString yesNoText(bool yes) { return (yes ? texts::kYes : texts::kNo).get(); }
+
+} // namespace quor::commands

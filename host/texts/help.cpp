@@ -1,0 +1,192 @@
+#include "host/texts/help.h"
+
+namespace quor::texts {
+
+namespace {
+
+constexpr Text kFiles{L"图形和文件", L"Drawings and files"};
+constexpr Text kUndoing{L"放弃和重做", L"Undo and redo"};
+constexpr Text kObjects{L"对象", L"Objects"};
+constexpr Text kSpaces{L"坐标系、空间和图层", L"Coordinate systems, spaces and layers"};
+constexpr Text kPrograms{L"设置、脚本和帮助", L"Settings, scripts and help"};
+
+constexpr Text kNoQuestions{L"", L""};
+
+// clang-format off
+constexpr HelpPage kPages[] = {
+    {L"NEW", kFiles,
+     {L"新建一个空图形，并使它成为当前图形。",
+      L"Makes an empty drawing and makes it current."},
+     kNoQuestions, L"NEW"},
+    {L"OPEN", kFiles,
+     {L"打开 DXF 图形，并使它成为当前图形。",
+      L"Opens a DXF drawing and makes it current."},
+     {L"图形文件名: 可含空格；直接按 Enter 时选择文件。\n有错误的文件不会打开，并说明出错的行；可用 RECOVER 试着修复。",
+      L"File name: may hold blanks; Enter alone lets you choose a file.\nA file with errors is not opened; the message names "
+      L"the line. RECOVER may read it."},
+     L"OPEN office.dxf"},
+    {L"RECOVER", kFiles,
+     {L"打开有错误的图形: 读出完好的部分，并列出问题。",
+      L"Opens a drawing that has errors: reads what is whole and lists what was wrong."},
+     {L"图形文件名: 可含空格；直接按 Enter 时选择文件。\n保存之前，原文件不会改变。",
+      L"File name: may hold blanks; Enter alone lets you choose a file.\nThe file itself does not change until you save."},
+     L"RECOVER broken.dxf"},
+    {L"SAVE", kFiles,
+     {L"把当前图形保存到它的文件。",
+      L"Saves the current drawing to its file."},
+     {L"新图形会询问文件名，与 SAVEAS 相同。以前的版本保留为 .bak。",
+      L"A new drawing asks for a name as SAVEAS does. The previous version is kept as .bak."},
+     L"SAVE"},
+    {L"SAVEAS", kFiles,
+     {L"用另一个文件名保存当前图形。",
+      L"Saves the current drawing under another name."},
+     {L"文件名: 可含空格；没有扩展名时加上 .dxf。\n替换已有文件之前会询问: 是(Y) 替换，否(N) 不保存。",
+      L"File name: may hold blanks; .dxf is added to a name without extension.\nAsks before it replaces a file: Yes "
+      L"replaces it, No saves nothing."},
+     L"SAVEAS office2.dxf"},
+    {L"CLOSE", kFiles,
+     {L"关闭当前图形。",
+      L"Closes the current drawing."},
+     {L"有未保存的修改时询问: 是(Y) 先保存，否(N) 放弃修改，Esc 不关闭。",
+      L"Asks when there are unsaved changes: Yes saves them first, No drops them, Esc keeps the drawing open."},
+     L"CLOSE"},
+    {L"DOCUMENTS", kFiles,
+     {L"列出打开的图形，并可切换到其中之一。",
+      L"Lists the open drawings and switches to one of them."},
+     {L"当前图形前有 *。输入编号或名称即切换；Enter 不切换。",
+      L"A * stands before the current one. Answer a number or a name to switch; Enter stays."},
+     L"DOCUMENTS 2"},
+    {L"QUIT", kFiles,
+     {L"退出程序。",
+      L"Ends the program."},
+     {L"每个有未保存修改的图形都会询问: 是(Y) 放弃修改，否(N) 不退出。由脚本调用时不询问。",
+      L"Asks for each drawing with unsaved changes: Yes drops them, No stays. A script is not asked."},
+     L"QUIT"},
+
+    {L"U", kUndoing,
+     {L"放弃最近的一个命令。",
+      L"Undoes the last command."},
+     kNoQuestions, L"U"},
+    {L"UNDO", kUndoing,
+     {L"放弃最近的若干个命令。",
+      L"Undoes several commands."},
+     {L"要放弃的命令数，Enter 为 1。\n全部(A): 放弃所有命令。标记(M): 记住此处。后退(B): 放弃到上一个标记为止。",
+      L"Number of commands; Enter is 1.\nAll: every command. Mark: remembers this place. Back: all since the last mark."},
+     L"UNDO 3"},
+    {L"REDO", kUndoing,
+     {L"恢复刚被 U 或 UNDO 放弃的命令。",
+      L"Brings back what U or UNDO took away just before."},
+     {L"要重做的命令数，Enter 为 1。全部(A): 全部重做。",
+      L"Number of commands; Enter is 1. All: every one."},
+     L"REDO 1"},
+
+    {L"SELECT", kObjects,
+     {L"选择对象，供下一个命令使用。",
+      L"Selects objects for the next command."},
+     {L"选择对象: 点取，或 ALL 全部、L 上一个、P 前一个选择、#1F 句柄、R 删除、A 添加；Enter 结束。\n"
+      L"不选任何对象而按 Enter，即取消选择。",
+      L"Select objects: pick, or ALL, Last, Previous, #1F for a handle, Remove, Add; Enter ends.\nEnter at once selects "
+      L"nothing."},
+     L"SELECT ALL"},
+    {L"ERASE", kObjects,
+     {L"删除对象。",
+      L"Erases objects."},
+     {L"选择对象，与 SELECT 相同；已经选好的对象直接删除。锁定图层上的对象保留。",
+      L"Select objects as in SELECT; what is selected already is erased at once. Objects on locked layers stay."},
+     L"ERASE L"},
+    {L"LIST", kObjects,
+     {L"列出对象的所有特性；对光源列出全部参数及单位。",
+      L"Lists every property of objects; of lights all values with their units."},
+     {L"选择对象，与 SELECT 相同。",
+      L"Select objects as in SELECT."},
+     L"LIST ALL"},
+    {L"LINE", kObjects,
+     {L"画直线段。",
+      L"Draws straight lines."},
+     {L"第一个点，然后是下一点，直到按 Enter。点可写作 x,y 或 x,y,z，@ 表示相对，@d<a 表示极坐标。\n"
+      L"闭合(C): 回到第一个点并结束。放弃(U): 去掉最后一段。",
+      L"First point, then next points until Enter. Points are x,y or x,y,z; @ is relative, @d<a polar.\nClose: back to the "
+      L"first point, and ends. Undo: takes the last segment away."},
+     L"LINE 0,0 100,0 @0,50 C"},
+    {L"3DFACE", kObjects,
+     {L"画有三个或四个角点的面。",
+      L"Draws faces of three or four corners."},
+     {L"第一到第四点；第四点按 Enter 成为三角形。之后每个面再给两点，Enter 结束。\n不可见(I): 在一点之前输入，隐藏从该点开始的边。",
+      L"First to fourth point; Enter at the fourth makes a triangle. Each further face takes two more points; Enter ends.\n"
+      L"Invisible: before a point, hides the edge that begins there."},
+     L"3DFACE 0,0 10,0 10,10 0,10"},
+
+    {L"UCS", kSpaces,
+     {L"设置用户坐标系。",
+      L"Sets the user coordinate system."},
+     {L"给出原点，再给 X 轴上的点和 XY 平面上的点；Enter 接受当前状态。\n"
+      L"世界(W): 世界坐标系。原点(O): 只移动原点。Z 轴(ZA): 原点和正 Z 轴。三点(3P): 原点、X 轴、XY 平面。\n"
+      L"X、Y、Z: 绕该轴旋转。上一个(P): 回到以前的坐标系。",
+      L"The origin, then a point on the X axis and one in the XY plane; Enter accepts what stands.\n"
+      L"World: world coordinates. Origin: moves the origin only. ZAxis: origin and positive Z axis. 3Point: origin, X "
+      L"axis, XY plane.\nX, Y, Z: turns about that axis. Previous: back to the one before."},
+     L"UCS Z 45"},
+    {L"LAYOUT", kSpaces,
+     {L"列出布局，或切换到一个布局。",
+      L"Lists the layouts or switches to one."},
+     {L"列出(L): 所有布局。设置(S): 布局名，可含空格；“模型”回到模型空间。",
+      L"List: all layouts. Set: a name, which may hold blanks; Model goes back to model space."},
+     L"LAYOUT S Layout1"},
+    {L"MODEL", kSpaces,
+     {L"切换到模型空间。",
+      L"Switches to model space."},
+     kNoQuestions, L"MODEL"},
+    {L"PAPER", kSpaces,
+     {L"切换到最近使用的布局的图纸空间。",
+      L"Switches to the paper space of the layout that was last in use."},
+     kNoQuestions, L"PAPER"},
+    {L"MSPACE", kSpaces,
+     {L"在布局中，进入视口的模型空间。",
+      L"In a layout, goes to model space through its viewport."},
+     kNoQuestions, L"MSPACE"},
+    {L"PSPACE", kSpaces,
+     {L"在布局中，从视口回到图纸空间。",
+      L"In a layout, goes back from the viewport to paper space."},
+     kNoQuestions, L"PSPACE"},
+    {L"LAYER", kSpaces,
+     {L"列出图层，新建图层，或设置当前图层。",
+      L"Lists layers, makes them and sets the current one."},
+     {L"列出(?): 所有图层。新建(M): 名称；该图层成为当前图层。设置(S): 已有图层的名称。Enter 结束。\n"
+      L"名称为 1 到 255 个字符，可含空格，不含 <>/\\\":;?*|=,` 。",
+      L"?: all layers. Make: a name; the layer becomes current. Set: the name of a layer. Enter ends.\n"
+      L"Names have 1 to 255 characters, blanks included, none of <>/\\\":;?*|=,` ."},
+     L"LAYER M Lamps"},
+
+    {L"SETVAR", kPrograms,
+     {L"查看或更改系统变量。也可直接输入变量名。",
+      L"Shows and sets system variables. Their names alone work too."},
+     {L"变量名，然后是新值；Enter 保留当前值。? 列出变量，可用 * 和 ? 作通配符。",
+      L"The name, then the new value; Enter keeps the present one. ? lists them; * and ? are wildcards."},
+     L"SETVAR LUPREC 2"},
+    {L"SCRIPT", kPrograms,
+     {L"执行脚本文件中的命令。",
+      L"Runs the commands of a script file."},
+     {L"脚本文件名，可含空格。脚本中空格和换行结束一个回答，空行为 Enter，行首的 ; 为注释，^C 为 Esc。",
+      L"File name, which may hold blanks. In a script a blank or a line end ends an answer, a blank line is Enter, ; at the "
+      L"start of a line is a comment, ^C is Esc."},
+     L"SCRIPT lights.scr"},
+    {L"LOADMODULE", kPrograms,
+     {L"加载模块，使它的命令可用。",
+      L"Loads a module, so that its commands can be used."},
+     {L"模块的文件名或路径；只给名称时在模块文件夹中查找。? 列出已加载的模块。",
+      L"File name or path; a bare name is looked for in the module folders. ? lists the loaded modules."},
+     L"LOADMODULE light"},
+    {L"HELP", kPrograms,
+     {L"列出所有命令，或说明一个命令。",
+      L"Lists all commands or explains one."},
+     {L"命令名；Enter 列出所有命令。执行其他命令时可用 'HELP。",
+      L"Name of a command; Enter lists all of them. 'HELP works inside other commands."},
+     L"HELP LINE"},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const HelpPage> helpPages() { return kPages; }
+
+} // namespace quor::texts
