@@ -59,6 +59,9 @@ struct VariableRow {
 
 // The section of the user's settings that holds the variables of home User, each under its name.
 inline constexpr const wchar_t* kUserVariables = L"Variables";
+// Where the settings keep the language in which the host starts.
+inline constexpr const wchar_t* kLanguageSection = L"General";
+inline constexpr const wchar_t* kLanguageKey = L"Language";
 
 class SystemVariables final : public ZwSystemVariableService {
 public:

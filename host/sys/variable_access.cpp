@@ -129,7 +129,12 @@ VariableValue readCommandNames(Session& session) {
 
 // What the user chose, which counts from the next start on; else the language in use.
 VariableValue readLanguage(Session& session) {
-    return session.settings().get(kUserVariables, L"LANGUAGE").value_or(session.resources().language());
+    return session.settings().get(kLanguageSection, kLanguageKey).value_or(session.resources().language());
+}
+
+SetResult writeLanguage(Session& session, const VariableValue& value) {
+    const auto error = session.settings().set(kLanguageSection, kLanguageKey, std::get<ZrString>(value));
+    return error ? SetResult::NotSaved : SetResult::Ok;
 }
 
 } // namespace quor::sys::access

@@ -35,5 +35,6 @@ SetResult writeLastPoint(Session& session, const VariableValue& value);
 
 VariableValue readCommandNames(Session& session);
 VariableValue readLanguage(Session& session);
+SetResult writeLanguage(Session& session, const VariableValue& value);
 
 } // namespace quor::sys::access
