@@ -147,8 +147,8 @@ void CZrMultiLight::resetSpotShadows() {
     m_pLight->setShadowParameters(shadows);
 }
 
-// Whatever the option loop answered, the light is shown again; the counter of default names goes on also where the light
-// is thrown away.
+// Whatever the option loop answered, the light is shown again; the counter of default names goes on also where the
+// light is thrown away.
 int CZrMultiLight::keepOrErase(int result, ZrGlobalVarManager& globals) {
     globals.set(lastNumberVariable, m_lightNumber);
     if (m_pLight == nullptr)
