@@ -125,7 +125,7 @@ int saveTo(Document& document, const fs::path& path) {
     }
     document.setPath(path);
     document.drawing().journal().markSaved();
-    say(texts::kSaved, textOf(path));
+    say(texts::kSavedTo, textOf(path));
     return RTNORM;
 }
 

@@ -1,6 +1,7 @@
 #include "host/texts/help.h"
 #include "host/commands/ask.h"
 #include "host/commands/commands.h"
+#include "host/commands/upper_case.h"
 #include "host/ed/command_table.h"
 #include "host/session.h"
 #include "host/sys/case_fold.h"
@@ -24,10 +25,10 @@ ZrString indented(ZrString text) {
     return L"  " + text;
 }
 
-ZrString joined(const std::vector<ZrString>& words) {
+ZrString joinedInCapitals(const std::vector<ZrString>& words) {
     ZrString text;
     for (const ZrString& word : words)
-        text += (text.empty() ? L"" : L", ") + word;
+        text += (text.empty() ? L"" : L", ") + upperCase(word);
     return text;
 }
 
@@ -36,7 +37,7 @@ void showPage(Session& session, const HelpPage& page) {
     if (*page.questions.get() != 0)
         text += indented(page.questions.get()) + L"\n";
     if (const std::vector<ZrString> aliases = session.commands().aliasesOf(page.command); !aliases.empty())
-        text += indented(fill(texts::kHelpAliases, joined(aliases))) + L"\n";
+        text += indented(fill(texts::kHelpAliases, joinedInCapitals(aliases))) + L"\n";
     text += indented(fill(texts::kHelpExample, page.example)) + L"\n";
     printText(text);
 }

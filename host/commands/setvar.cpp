@@ -1,6 +1,7 @@
 #include "host/commands/ask.h"
 #include "host/commands/commands.h"
 #include "host/commands/listing.h"
+#include "host/commands/upper_case.h"
 #include "host/commands/wildcard.h"
 #include "host/document.h"
 #include "host/session.h"
@@ -77,13 +78,6 @@ int askValue(SystemVariables& variables, const VariableRow& row, const ZrString&
             return RTNORM;
         sayRefused(result, row, name);
     }
-}
-
-ZrString upperCase(ZrString name) {
-    for (wchar_t& c : name)
-        if (c >= L'a' && c <= L'z')
-            c = static_cast<wchar_t>(c - L'a' + L'A');
-    return name;
 }
 
 } // namespace

@@ -36,7 +36,7 @@ inline constexpr Text kRecoveredWhole{L"\n未发现错误。\n", L"\nNo errors w
 inline constexpr Text kRecoveredProblems{L"\n发现 %d 处问题，已跳过有问题的部分:\n",
                                          L"\nProblems found: %d. The parts concerned were left out:\n"};
 inline constexpr Text kMoreProblems{L"\n  … 另有 %d 处。\n", L"\n  … and %d more.\n"};
-inline constexpr Text kSaved{L"\n已保存到 %s。\n", L"\nSaved to %s.\n"};
+inline constexpr Text kSavedTo{L"\n已保存到 %s。\n", L"\nSaved to %s.\n"};
 inline constexpr Text kClosed{L"\n已关闭 %s。\n", L"\nClosed %s.\n"};
 inline constexpr Text kSwitched{L"\n当前图形: %s。\n", L"\nCurrent drawing: %s.\n"};
 inline constexpr Text kNoDocuments{L"\n没有打开的图形。用 NEW 新建，或用 OPEN 打开。\n",
