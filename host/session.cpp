@@ -6,13 +6,13 @@
 #include "host/ed/input_stack.h"
 #include "host/ed/input_state.h"
 #include "host/rx/module_loader.h"
+#include "host/sys/program_folder.h"
 #include "host/sys/resource_library.h"
 #include "host/sys/settings_store.h"
 #include "host/sys/system_variables.h"
 #include "host/texts/text.h"
 
 #include <cassert>
-#include <system_error>
 
 namespace quor {
 
@@ -23,22 +23,14 @@ Session* running = nullptr;
 constexpr const wchar_t* kGeneral = L"General";
 constexpr const wchar_t* kLanguage = L"Language";
 
-// <prefix>/bin/quorc: the modules lie in <prefix>/lib/quor/modules, the resources in <prefix>/share/quor.
-std::filesystem::path installPrefix() {
-    std::error_code problem;
-    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", problem);
-    return problem ? std::filesystem::path() : program.parent_path().parent_path();
-}
-
 // A text of the user's own that names no known language counts as none.
 ZrString usableLanguage(const ZrString& wanted) { return wanted == L"en" ? wanted : ZrString(L"zh"); }
 
 SessionOptions completed(SessionOptions options, SettingsStore& settings) {
-    const std::filesystem::path prefix = installPrefix();
     if (options.resourceFolder.empty())
-        options.resourceFolder = prefix / "share" / "quor";
+        options.resourceFolder = sys::programFolder().parent_path() / "share" / "quor";
     if (options.moduleFolders.empty())
-        options.moduleFolders.push_back(prefix / "lib" / "quor" / "modules");
+        options.moduleFolders.push_back(sys::defaultModuleFolder());
     if (options.language.empty())
         options.language = settings.get(kGeneral, kLanguage).value_or(L"zh");
     options.language = usableLanguage(options.language);

@@ -1,5 +1,6 @@
 #include "host/ed/asking.h"
 
+#include "host/db/current_units.h"
 #include "host/document.h"
 #include "host/ed/command_processor.h"
 #include "host/ed/input_stack.h"
@@ -15,34 +16,12 @@ constexpr Question::Kind kQuestionKinds[] = {
     Question::Kind::Distance, Question::Kind::Angle,   Question::Kind::Point,
 };
 
-double number(const db::Database& drawing, const wchar_t* name, double fallback) {
-    const std::optional<db::HeaderValue> value = drawing.header(name);
-    if (!value)
-        return fallback;
-    if (const auto* whole = std::get_if<long long>(&*value))
-        return static_cast<double>(*whole);
-    const auto* real = std::get_if<double>(&*value);
-    return real != nullptr ? *real : fallback;
-}
-
-units::UnitSettings unitSettings(const Document* document) {
-    units::UnitSettings settings;
-    if (document == nullptr)
-        return settings;
-    const db::Database& drawing = document->drawing();
-    settings.lengthFormat = static_cast<int>(number(drawing, L"$LUNITS", settings.lengthFormat));
-    settings.angleFormat = static_cast<int>(number(drawing, L"$AUNITS", settings.angleFormat));
-    settings.angleBase = number(drawing, L"$ANGBASE", settings.angleBase);
-    settings.clockwise = number(drawing, L"$ANGDIR", 0) != 0;
-    return settings;
-}
-
 } // namespace
 
 DrawingRules currentDrawingRules(Session& session) {
     Session* const here = &session;
     DrawingRules rules;
-    rules.units = [here] { return unitSettings(here->documents().current()); };
+    rules.units = [] { return units::currentUnits(); };
     rules.lastPoint = [here]() -> std::optional<ZrGePoint3d> {
         const Document* document = here->documents().current();
         return document != nullptr ? std::optional(document->lastPoint) : std::nullopt;

@@ -23,6 +23,8 @@ struct ScriptOutcome {
 
 // Runs commands from the sources of the session's input until they are used up or the host is to quit. Stops at the
 // first failure and drops what is left, unless `keepGoing`. Esc is no failure. The person is not asked for commands.
-ScriptOutcome runSources(Session& session, bool keepGoing);
+// `afterCommand` sees each verdict; it answers false to stop as if by a failure that does not count.
+using AfterCommand = std::function<bool(const Verdict& verdict)>;
+ScriptOutcome runSources(Session& session, bool keepGoing, const AfterCommand& afterCommand = {});
 
 } // namespace quor::ed

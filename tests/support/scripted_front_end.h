@@ -1,0 +1,65 @@
+// A front end that answers from a list and keeps what it was shown: the port without a screen or a keyboard.
+#pragma once
+
+#include "host/ed/screen_text.h"
+#include "host/front.h"
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <variant>
+
+namespace quor::test {
+
+class ScriptedFrontEnd final : public FrontEnd {
+public:
+    // What is typed next, in this order: "" is Enter, "^C" Esc. After the last one the input has ended.
+    void type(std::initializer_list<ZrString> lines);
+    void type(ZrString line) { lines_.push_back(std::move(line)); }
+    // A point that is picked next, in world coordinates; during a drag the cursor passes the samples first.
+    void pick(const ZrGePoint3d& point, std::vector<ZrGePoint3d> samples = {});
+    // Answers the next task dialog directly; without one it is answered by what is typed.
+    void answerDialog(const TaskDialogAnswer& answer) { dialogAnswers_.push_back(answer); }
+    // The file that is chosen next.
+    void choose(std::optional<ZrString> file) { files_.push_back(std::move(file)); }
+
+    // Everything that a screen would show: prompts with their answers, messages.
+    [[nodiscard]] const ZrString& screen() const { return screen_; }
+    [[nodiscard]] bool shows(std::wstring_view text) const { return screen_.find(text) != ZrString::npos; }
+    void clearScreen() { screen_.clear(); }
+    // The questions that reached a person, with their prompts.
+    [[nodiscard]] const std::vector<ZrString>& asked() const { return asked_; }
+    [[nodiscard]] const std::vector<ZrString>& echoed() const { return echoed_; }
+    [[nodiscard]] const std::vector<ZrString>& lastKeywords() const { return lastKeywords_; }
+    [[nodiscard]] std::optional<ZrGePoint3d> lastBase() const { return lastBase_; }
+    [[nodiscard]] std::size_t linesLeft() const { return lines_.size(); }
+
+    void print(std::wstring_view text) override;
+    Answer ask(const Question& question) override;
+    void echo(const Question& question, std::wstring_view answer) override;
+    Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) override;
+    TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) override;
+    std::optional<ZrString> chooseFile(const FileQuestion& question) override;
+
+private:
+    struct Pick {
+        ZrGePoint3d point;
+        std::vector<ZrGePoint3d> samples;
+    };
+
+    [[nodiscard]] Answer nextAnswer(const Question& question);
+    void showAnswer(std::wstring_view answer);
+
+    std::deque<std::variant<ZrString, Pick>> lines_;
+    std::deque<TaskDialogAnswer> dialogAnswers_;
+    std::deque<std::optional<ZrString>> files_;
+    ZrString screen_;
+    ScreenText screenText_;
+    std::vector<ZrString> asked_;
+    std::vector<ZrString> echoed_;
+    std::vector<ZrString> lastKeywords_;
+    std::optional<ZrGePoint3d> lastBase_;
+    std::vector<ZrGePoint3d> samples_;
+};
+
+} // namespace quor::test

@@ -1,0 +1,194 @@
+#include "tests/support/transcript_session.h"
+
+#include "host/commands/drawing_files.h"
+#include "host/ed/screen_text.h"
+#include "host/ed/script_run.h"
+#include "host/ed/script_source.h"
+#include "host/rx/module_loader.h"
+#include "host/session.h"
+#include "host/sys/system_variables.h"
+#include "host/sys/utf8.h"
+#include "host/ui/task_dialog_text.h"
+#include "sdk/rx/result_codes.h"
+#include "tests/support/test_session.h"
+#include "tests/support/transcript.h"
+
+namespace quor::test {
+
+namespace {
+
+using Kind = TranscriptLine::Kind;
+
+// The keyboard and screen of a transcript.
+class TranscriptFrontEnd final : public FrontEnd {
+public:
+    explicit TranscriptFrontEnd(TranscriptRecording& recording) : recording_(recording) {}
+
+    void print(std::wstring_view text) override { recording_.print(toUtf8(screen_.put(text))); }
+    Answer ask(const Question& question) override {
+        print(question.prompt);
+        newLine();
+        if (recording_.peek() == nullptr || recording_.peek()->kind != Kind::Typed)
+            return {Answer::Kind::End, {}, {}};
+        const ZrString typed = fromUtf8(recording_.next()->text);
+        if (typed == L"^C")
+            return {Answer::Kind::Cancel, {}, {}};
+        return typed.empty() ? Answer{Answer::Kind::Enter, {}, {}} : Answer{Answer::Kind::Text, typed, {}};
+    }
+    void echo(const Question& question, std::wstring_view answer) override {
+        print(question.prompt);
+        print(answer);
+        newLine();
+    }
+    Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>&) override {
+        return ask(question);
+    }
+    TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) override {
+        return ui::askTaskDialog(
+            dialog, [this](std::wstring_view text) { print(text); },
+            [this](const Question& question) { return ask(question); });
+    }
+    std::optional<ZrString> chooseFile(const FileQuestion& file) override {
+        Question question;
+        const ZrString prompt = L"\n" + file.caption + L": ";
+        question.prompt = prompt;
+        question.acceptsBlanks = true;
+        const Answer answer = ask(question);
+        return answer.kind == Answer::Kind::Text ? std::optional(answer.text) : std::nullopt;
+    }
+
+private:
+    void newLine() {
+        recording_.print("\n");
+        screen_.answered();
+    }
+
+    TranscriptRecording& recording_;
+    ScreenText screen_;
+};
+
+// The current folder while a transcript runs, so that what it saves lands nowhere else.
+class CurrentFolder {
+public:
+    explicit CurrentFolder(const std::filesystem::path& folder) : before_(std::filesystem::current_path()) {
+        std::filesystem::current_path(folder);
+    }
+    ~CurrentFolder() { std::filesystem::current_path(before_); }
+    CurrentFolder(const CurrentFolder&) = delete;
+    CurrentFolder& operator=(const CurrentFolder&) = delete;
+
+private:
+    std::filesystem::path before_;
+};
+
+void replaceAll(std::string& text, const std::string& what, std::string_view with) {
+    for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + with.size()))
+        text.replace(at, what.size(), with);
+}
+
+bool hasDirective(const std::vector<TranscriptLine>& lines, std::string_view directive) {
+    for (const TranscriptLine& line : lines)
+        if (line.kind == Kind::Directive && line.text == directive)
+            return true;
+    return false;
+}
+
+// The project's resources, found from where the transcripts lie.
+std::filesystem::path resourcesAbove(std::filesystem::path folder) {
+    for (; folder.has_relative_path(); folder = folder.parent_path())
+        if (std::filesystem::is_directory(folder / "resources"))
+            return folder / "resources";
+    return {};
+}
+
+class Player {
+public:
+    Player(Session& session, TranscriptRecording& recording, std::filesystem::path folder)
+        : session_(session), recording_(recording), folder_(std::move(folder)) {}
+
+    // Empty, or what is wrong with a directive.
+    std::string play() {
+        while (problem_.empty() && !session_.processor().quitRequested()) {
+            const TranscriptLine* line = recording_.peek();
+            if (session_.input().hasProgramInput() || session_.input().hasAnswer())
+                session_.processor().step();
+            else if (line == nullptr)
+                break;
+            else if (line->kind == Kind::Directive)
+                obey(recording_.next()->text.substr(2));
+            else
+                session_.processor().step();
+        }
+        return problem_;
+    }
+
+private:
+    void obey(std::string_view directive) {
+        directive.remove_prefix(std::min(directive.find_first_not_of(' '), directive.size()));
+        const std::string_view word = directive.substr(0, directive.find(' '));
+        const std::string rest(directive.size() > word.size() ? directive.substr(word.size() + 1) : "");
+        if (word == "open")
+            openDrawing(rest);
+        else if (word == "set")
+            setVariable(rest);
+        else if (word == "script")
+            runScript();
+        else if (word != "keyboard" && word != "lang" && word != "no-module")
+            problem_ = "unknown directive: " + std::string(directive);
+    }
+
+    void openDrawing(const std::string& file) {
+        if (commands::openPath(session_, folder_ / file, false) != RTNORM)
+            problem_ = "cannot open " + file;
+    }
+
+    void setVariable(const std::string& assignment) {
+        const std::size_t sign = assignment.find('=');
+        const std::string value = sign == std::string::npos ? "" : assignment.substr(sign + 1);
+        const ZrString name = fromUtf8(assignment.substr(0, sign));
+        if (session_.variables().setFromText(name, fromUtf8(value)) != sys::SetResult::Ok)
+            problem_ = "cannot set " + assignment;
+    }
+
+    void runScript() {
+        std::string script;
+        while (recording_.peek() != nullptr && recording_.peek()->kind == Kind::Typed)
+            script += recording_.next()->text + "\n";
+        session_.input().push(std::make_unique<ed::ScriptSource>(std::move(script), L"script.scr"));
+        ed::runSources(session_, true);
+    }
+
+    Session& session_;
+    TranscriptRecording& recording_;
+    std::filesystem::path folder_;
+    std::string problem_;
+};
+
+} // namespace
+
+TranscriptResult runTranscript(const std::filesystem::path& path, std::string_view text) {
+    const std::vector<TranscriptLine> lines = readTranscript(text);
+    const std::filesystem::path home = std::filesystem::absolute(path).parent_path();
+    const TemporaryFolder folder;
+    const CurrentFolder inFolder(folder.path());
+    TranscriptRecording recording(lines);
+    TranscriptFrontEnd front(recording);
+    TranscriptResult result;
+    {
+        Session session(front, {.settingsFile = folder.path() / ".settings.ini",
+                                .resourceFolder = resourcesAbove(home),
+                                .moduleFolders = {},
+                                .language = hasDirective(lines, "#! lang en") ? L"en" : L"zh"});
+        session.documents().newDocument();
+        if (!hasDirective(lines, "#! no-module") && session.modules().loadModule(L"light.so") != Quor::eOk)
+            result.problem = toUtf8(session.modules().lastError());
+        if (result.problem.empty())
+            result.problem = Player(session, recording, home).play();
+    }
+    result.file = recording.finish();
+    replaceAll(result.file, folder.path().string() + "/", "");
+    replaceAll(result.file, home.string() + "/", "");
+    return result;
+}
+
+} // namespace quor::test

@@ -1,0 +1,25 @@
+// Runs one transcript against a fresh host with a new drawing and gives the file back as the session makes it.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace quor::test {
+
+// What could not be set up; empty when the session ran.
+struct TranscriptResult {
+    std::string file;
+    std::string problem;
+};
+
+// Directives, each on a line of its own:
+//   #! open FILE       opens a drawing; the path is relative to the transcript
+//   #! set NAME=VALUE  sets a system variable
+//   #! script          the typed lines that follow, up to the next directive, come from a script
+//   #! keyboard        ends that
+//   #! lang en         the language of the whole session
+//   #! no-module       the session runs without the module of lighting commands
+[[nodiscard]] TranscriptResult runTranscript(const std::filesystem::path& path, std::string_view text);
+
+} // namespace quor::test
