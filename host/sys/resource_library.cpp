@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
 #include <optional>
 
 namespace fs = std::filesystem;
@@ -26,6 +25,19 @@ std::vector<std::unique_ptr<ResourceModule>>& retiredModules() {
 bool isPlainName(std::wstring_view name) {
     return !name.empty() && name.front() != L'.' && name.find_first_of(L"/\\") == std::wstring_view::npos &&
            name.find(L'\0') == std::wstring_view::npos;
+}
+
+std::optional<std::string> fileBytes(const fs::path& file) {
+    std::error_code error;
+    if (!fs::is_regular_file(file, error))
+        return std::nullopt;
+    const auto size = fs::file_size(file, error);
+    if (error)
+        return std::nullopt;
+    std::string bytes(size, '\0');
+    std::ifstream stream(file, std::ios::binary);
+    stream.read(bytes.data(), static_cast<std::streamsize>(size));
+    return stream ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 } // namespace
@@ -104,14 +116,13 @@ std::unique_ptr<ResourceModule> ResourceLibrary::readModule(std::wstring_view na
     std::error_code error;
     if (!fs::exists(file, error))
         return nullptr;
-    std::ifstream stream(file, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    if (!stream || !fs::is_regular_file(file, error)) {
+    const auto bytes = fileBytes(file);
+    if (!bytes) {
         problems_.push_back({file, 0, texts::resourceNotRead.get()});
         return nullptr;
     }
     auto module = std::make_unique<ResourceModule>(file);
-    module->read(bytes, problems_);
+    module->read(*bytes, problems_);
     return module;
 }
 
