@@ -14,6 +14,12 @@ namespace {
 
 constexpr std::size_t kProblemsShown = 20;
 
+// Drawings keep whole paths, so that they stay true when the current folder changes.
+fs::path absolutePath(const fs::path& path) {
+    std::error_code error;
+    return fs::absolute(path, error).lexically_normal();
+}
+
 ZrString versionText(const ZrString& version) {
     const auto* release = std::ranges::find_if(texts::kReleases, [&](const auto& r) { return version == r.version; });
     return release == std::end(texts::kReleases) ? version : version + L" (" + release->name + L")";
@@ -45,7 +51,7 @@ bool isReadableFile(const fs::path& path) {
         return false;
     }
     if (!fs::exists(path, error)) {
-        say(texts::kNoSuchFile, textOf(path), textOf(fs::current_path(error)));
+        say(texts::kNoSuchFile, textOf(path));
         return false;
     }
     return true;
@@ -73,7 +79,8 @@ bool isPlaceToSave(Session& session, const Document& document, const fs::path& p
 
 } // namespace
 
-int openPath(Session& session, const fs::path& path, bool recover) {
+int openPath(Session& session, const fs::path& file, bool recover) {
+    const fs::path path = absolutePath(file);
     if (!isReadableFile(path))
         return RTERROR;
     if (Document* open = openDocument(session, path)) {
@@ -103,7 +110,7 @@ int askSavePath(Session& session, const Document& document, fs::path& path) {
     const std::optional<ZrString> answer = askLine(texts::kAskSavePath.get());
     if (!answer || answer->empty())
         return RTCAN;
-    path = pathFromText(*answer);
+    path = absolutePath(pathFromText(*answer));
     std::error_code error;
     if (!path.has_extension() && !fs::is_directory(path, error))
         path += ".dxf";
@@ -141,7 +148,7 @@ bool sameFile(const fs::path& a, const fs::path& b) {
     std::error_code error;
     if (fs::equivalent(a, b, error))
         return true;
-    return fs::absolute(a, error).lexically_normal() == fs::absolute(b, error).lexically_normal();
+    return absolutePath(a) == absolutePath(b);
 }
 
 Document* openDocument(Session& session, const fs::path& path) {

@@ -44,8 +44,8 @@ inline constexpr Text kNoDocuments{L"\n没有打开的图形。用 NEW 新建，
 inline constexpr Text kModifiedMark{L"(已修改)", L"(modified)"};
 
 // What could not be done.
-inline constexpr Text kNoSuchFile{L"\n找不到文件 %s。请检查路径后再试；相对路径从 %s 算起。\n",
-                                  L"\nThe file %s was not found. Check the path; relative paths start at %s.\n"};
+inline constexpr Text kNoSuchFile{L"\n找不到文件 %s。请检查路径后再试。\n",
+                                  L"\nThe file %s was not found. Check the path.\n"};
 inline constexpr Text kIsFolder{L"\n%s 是文件夹。请给出其中图形文件的名称。\n",
                                 L"\n%s is a folder. Give the name of a drawing file in it.\n"};
 inline constexpr Text kNoSuchFolder{
