@@ -1,8 +1,12 @@
 // A drawing in memory: the file it came from, the table of its objects, its settings, its journal.
 #pragma once
 
+#include "host/db/header_store.h"
 #include "host/db/journal.h"
-#include "host/db/object_entry.h"
+#include "host/db/layers.h"
+#include "host/db/object_table.h"
+#include "host/db/structure.h"
+#include "host/db/variable_dictionary.h"
 #include "host/sys/result.h"
 #include "sdk/db/database.h"
 #include "sdk/ge/matrix3d.h"
@@ -15,8 +19,6 @@
 #include <vector>
 
 namespace quor::db {
-
-class DrawingFile;
 
 // Why a drawing could not be read or saved, in words for a person.
 struct FileProblem {
@@ -41,15 +43,15 @@ struct Ucs {
     ZrString name;
 };
 
-// The value of a header variable.
-using HeaderValue = std::variant<long long, double, ZrString, ZrGePoint3d>;
-
 class Database {
 public:
     // A new drawing: AC1032, millimetres.
     [[nodiscard]] static std::unique_ptr<Database> makeNew();
     [[nodiscard]] static Result<std::unique_ptr<Database>, FileProblem> open(const std::filesystem::path& path,
-                                                                            const OpenOptions& options = {});
+                                                                             const OpenOptions& options = {});
+    // The same from bytes in memory.
+    [[nodiscard]] static Result<std::unique_ptr<Database>, FileProblem> fromBytes(std::string_view bytes,
+                                                                                  const OpenOptions& options = {});
     ~Database();
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
@@ -74,7 +76,7 @@ public:
     [[nodiscard]] std::optional<ZrString> dictionaryVariable(const ZrString& name) const;
     void setDictionaryVariable(const ZrString& name, const ZrString& value);
     // DEFAULTLIGHTING: 292 of the active viewport from AC1021 on, else kept for the session. Undoable.
-    [[nodiscard]] bool defaultLighting() const;
+    [[nodiscard]] bool defaultLighting();
     void setDefaultLighting(bool on);
 
     // The layouts in tab order, without the model tab; the one whose paper space is in use.
@@ -102,21 +104,52 @@ public:
     // The name of the object's type in drawing files ("LINE", "LIGHT", "LWPOLYLINE").
     [[nodiscard]] ZrString typeName(ZrDbObjectId id) const;
     // Group codes and values of an object as they would be saved, for LIST of types that the host knows no more of.
-    [[nodiscard]] std::vector<std::pair<int, ZrString>> tags(ZrDbObjectId id) const;
+    [[nodiscard]] std::vector<std::pair<int, ZrString>> tags(ZrDbObjectId id);
 
-    // For host/db and sdk/db implementations.
-    [[nodiscard]] DrawingFile& file() { return *file_; }
-    [[nodiscard]] const DrawingFile& file() const { return *file_; }
-    // Opens as zrdbOpenObject does; reads the object from the file when that was not done yet.
+    // For the rest of host/db.
+    [[nodiscard]] DrawingFile& file() { return file_; }
+    [[nodiscard]] const DrawingFile& file() const { return file_; }
+    [[nodiscard]] ObjectTable& objects() { return objects_; }
+    [[nodiscard]] Structure& structure() { return structure_; }
+    [[nodiscard]] Layers& layers() { return layers_; }
+    [[nodiscard]] HeaderStore& headers() { return headers_; }
+    [[nodiscard]] VariableDictionary& variableDictionary() { return variables_; }
+    // Opens as zrdbOpenObject does, and closes again.
     Quor::ErrorStatus openObject(ZrDbObject*& object, ObjectEntry& entry, ZrDb::OpenMode mode, bool openErased);
     void closeObject(ObjectEntry& entry);
+    // Reads the object from the file when that was not done yet.
+    void materialise(ObjectEntry& entry);
+    // The block that commands draw in, and the layer.
+    [[nodiscard]] Block& currentSpace();
+    [[nodiscard]] ObjectEntry* currentLayer();
+    // Takes an object in; it is open for write from then on.
+    ObjectEntry& appendEntity(Block& block, std::unique_ptr<ZrDbEntity> entity);
+    ObjectEntry& addLayer(std::unique_ptr<ZrDbLayerTableRecord> layer);
+    // Whether DEFAULTLIGHTING differs from the file, which has a place for it.
+    [[nodiscard]] std::optional<bool> defaultLightingToSave();
 
 private:
-    Database();
+    Database(dxf::Image image, dxf::Layout layout, bool isNew);
+    static Result<std::unique_ptr<Database>, FileProblem> make(dxf::Image image, const OpenOptions& options,
+                                                               const ZrString& what);
+    ObjectEntry& adopt(std::unique_ptr<ZrDbObject> object, ObjectEntry& entry);
+    [[nodiscard]] bool defaultLightingInFile();
+    template <class T>
+    void changeSetting(const ZrString& name, T& place, T value);
 
-    std::unique_ptr<ZrDbDatabase> interface_;
-    std::unique_ptr<DrawingFile> file_;
+    DrawingFile file_;
+    ObjectTable objects_;
+    Structure structure_;
+    Layers layers_;
+    HeaderStore headers_;
+    VariableDictionary variables_;
     Journal journal_;
+    std::unique_ptr<ZrDbDatabase> interface_;
+    std::vector<ZrString> problems_;
+    std::optional<bool> defaultLighting_; // as it was set
+    ZrString currentLayout_;
+    int currentViewport_ = 2;
+    bool isNew_;
 };
 
 } // namespace quor::db

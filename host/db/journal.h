@@ -21,9 +21,9 @@ class Database;
 class Journal {
 public:
     explicit Journal(Database& database) : database_(database) {}
-    ~Journal();
 
-    // A group is what one command did; groups nest, only the outermost counts. One that changed nothing leaves no trace.
+    // A group is what one command did; groups nest, only the outermost counts. One that changed nothing leaves no
+    // trace.
     void begin(const ZrString& name);
     void end();
     // Takes back what the open group did so far and forgets it.
@@ -44,12 +44,13 @@ public:
     void removeReactor(ZrDbDatabaseReactor* reactor);
     [[nodiscard]] const std::vector<ZrDbDatabaseReactor*>& reactors() const { return reactors_; }
 
-    // For host/db: what happened.
+    // For host/db: records what is about to happen or happened. Listeners are told by announce(), when the object is
+    // closed.
     void appended(ObjectEntry& entry);
     void aboutToModify(ObjectEntry& entry);
-    void modified(ObjectEntry& entry);
     void erased(ObjectEntry& entry, bool erasing);
-    // `exchange` swaps the current value of a setting with the kept one; called by undo and redo alike.
+    void announce(ObjectEntry& entry);
+    // A setting was changed. `exchange` swaps its value with the one it had before; undo and redo call it alike.
     void settingChanged(const ZrString& name, std::function<void()> exchange);
 
 private:
@@ -58,7 +59,7 @@ private:
     };
     struct Modify {
         ObjectEntry* entry;
-        std::unique_ptr<ZrDbObjectData> other;
+        std::unique_ptr<ZrDbObjectData> other; // the values that undo (then redo) gives back
         bool otherChanged;
     };
     struct Erase {
@@ -76,14 +77,16 @@ private:
         std::size_t number = 0; // counts groups over the life of the drawing
     };
 
+    // A change outside any group becomes a group of its own.
     void record(Change change);
     void apply(Group& group, bool undoing);
-    void apply(Append& change, bool undoing);
-    void apply(Modify& change, bool undoing);
-    void apply(Erase& change, bool undoing);
-    void apply(Setting& change, bool undoing);
-    template <class Tell>
-    void tell(Tell&& tell);
+    void applyChange(Append& change, bool undoing);
+    void applyChange(Modify& change, bool undoing);
+    void applyChange(Erase& change, bool undoing);
+    void applyChange(Setting& change, bool undoing);
+    void setErased(ObjectEntry& entry, bool erased);
+    template <class... Parameters, class... Arguments>
+    void tell(void (ZrDbDatabaseReactor::*message)(Parameters...), Arguments&&... arguments);
 
     Database& database_;
     std::vector<Group> undo_;
@@ -92,6 +95,7 @@ private:
     int depth_ = 0;
     std::size_t nextNumber_ = 1;
     std::size_t savedNumber_ = 0; // number of the group on top when the drawing was saved
+    std::uint32_t serial_ = 0;    // of the open group, to tell what it keeps already
     std::vector<ZrDbDatabaseReactor*> reactors_;
 };
 

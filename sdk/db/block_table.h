@@ -37,7 +37,8 @@ public:
     // Costs the same however many lights there are.
     [[nodiscard]] bool hasLightNamed(const ZrString& name, ZrDbObjectId except = {}) const;
 
-    // Appends an entity, which from then on belongs to the drawing and is open for write. Needs the block open for write.
+    // Appends an entity, which from then on belongs to the drawing and is open for write. Needs the block open for
+    // write.
     Quor::ErrorStatus appendZrDbEntity(ZrDbObjectId& id, ZrDbEntity* entity);
 };
 

@@ -34,9 +34,9 @@ enum class LampColorPreset {
 enum class GlyphDisplay { kAutomatic = 0, kOn = 1, kOff = 2 };
 enum class DrawableType { kDistantLight = 1, kPointLight = 2, kSpotLight = 3, kWebLight = 10 };
 
-// Every setter answers a status, and changes nothing when it refuses: eInvalidInput for a value out of its bounds or one
-// that is no finite number, eNotOpenForWrite for a light of a drawing that is not open for write. Points are in world
-// coordinates and drawing units, angles in radians.
+// Every setter answers a status, and changes nothing when it refuses: eInvalidInput for a value out of its bounds or
+// one that is no finite number, eNotOpenForWrite for a light of a drawing that is not open for write. Points are in
+// world coordinates and drawing units, angles in radians.
 class ZrDbLight : public ZrDbEntity {
 public:
     // On, white, at the origin, its target 10 below.
@@ -69,8 +69,8 @@ public:
     Quor::ErrorStatus setPosition(const ZrGePoint3d& position);
     [[nodiscard]] ZrGePoint3d targetLocation() const;
     Quor::ErrorStatus setTargetLocation(const ZrGePoint3d& target);
-    // From the position to the target, of length 1; zero when both are the same point. Setting it keeps the position and
-    // puts the target so far from it as it was before (1 if that was no distance).
+    // From the position to the target, of length 1; zero when both are the same point. Setting it keeps the position
+    // and puts the target so far from it as it was before (1 if that was no distance).
     [[nodiscard]] ZrGeVector3d lightDirection() const;
     Quor::ErrorStatus setLightDirection(const ZrGeVector3d& direction);
     // Whether the target is shown and can be gripped.
@@ -117,9 +117,9 @@ public:
     Quor::ErrorStatus webRotation(ZrGeVector3d& rotation) const;
     Quor::ErrorStatus setWebRotation(const ZrGeVector3d& rotation);
 
-    Quor::ErrorStatus erase(bool erasing = true) override;
-
 private:
-    [[nodiscard]] ZrDbLightData& change();
+    // Sets a value when it is accepted and the light may be changed.
+    template <class T, class Data>
+    Quor::ErrorStatus change(bool accepted, T Data::*member, const T& value);
     [[nodiscard]] const ZrDbLightData& data() const;
 };

@@ -23,8 +23,8 @@ protected:
     ZrDbObjectData& operator=(const ZrDbObjectData&) = default;
 };
 
-// An object lives outside a drawing (made by its constructor, owned by its maker) until it is appended to one; from then
-// on it belongs to the drawing and is reached by opening its id, by many readers or by one writer at a time.
+// An object lives outside a drawing (made by its constructor, owned by its maker) until it is appended to one; from
+// then on it belongs to the drawing and is reached by opening its id, by many readers or by one writer at a time.
 class ZrDbObject : public ZrRxObject {
 public:
     ~ZrDbObject() override;

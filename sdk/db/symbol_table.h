@@ -67,6 +67,10 @@ public:
     // Hundredths of a millimetre; -3 is the default.
     [[nodiscard]] int lineWeight() const;
     Quor::ErrorStatus setLineWeight(int weight);
+
+private:
+    template <class T, class Data>
+    Quor::ErrorStatus change(T Data::*member, const T& value);
 };
 
 class ZrDbLayerTable : public ZrDbSymbolTable {

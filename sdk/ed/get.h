@@ -1,5 +1,5 @@
-// Questions on the command line. Each get call asks one question and answers a result code: RTNORM with a value, RTNONE for
-// Enter, RTCAN for Esc, RTKWORD for a keyword where a value was asked, RTERROR when the input itself broke.
+// Questions on the command line. Each get call asks one question and answers a result code: RTNORM with a value, RTNONE
+// for Enter, RTCAN for Esc, RTKWORD for a keyword where a value was asked, RTERROR when the input itself broke.
 #pragma once
 
 #include "sdk/ge/point3d.h"
@@ -14,8 +14,8 @@ inline constexpr int RSG_NOLIM = 8;   // points outside the drawing limits are a
 inline constexpr int RSG_2D = 64;     // distances are measured in the plane
 inline constexpr int RSG_OTHER = 128; // arbitrary text is an answer too
 
-// Arms the next get call, and only it. `keywords`: the local words, then the same words with a leading "_" as global words;
-// capital letters mark the abbreviation. Null: none. Answers RTNORM.
+// Arms the next get call, and only it. `keywords`: the local words, then the same words with a leading "_" as global
+// words; capital letters mark the abbreviation. Null: none. Answers RTNORM.
 int zredInitGet(int flags, const wchar_t* keywords);
 
 // A text; `cronly` not 0: blanks belong to it, and only Enter ends it. Enter gives RTNORM and an empty text.

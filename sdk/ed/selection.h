@@ -21,6 +21,7 @@ public:
 void zredAddSelectionReactor(ZrEdSelectionReactor* reactor);
 void zredRemoveSelectionReactor(ZrEdSelectionReactor* reactor);
 
-// Asks for a selection on the command line (the pick-first selection is taken at once, when there is one): "all", "last", "previous",
-// a handle, add, remove; Enter ends it. `prompt` null: the usual one. RTNORM with at least one object, RTNONE, RTCAN.
+// Asks for a selection on the command line (the pick-first selection is taken at once, when there is one): "all",
+// "last", "previous", a handle, add, remove; Enter ends it. `prompt` null: the usual one. RTNORM with at least one
+// object, RTNONE, RTCAN.
 int zredSelect(const wchar_t* prompt, ZrDbObjectIdArray& ids);

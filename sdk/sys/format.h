@@ -12,8 +12,7 @@
 class ZrFormatArg {
 public:
     template <class T>
-        requires std::is_integral_v<T> || std::is_enum_v<T>
-    ZrFormatArg(T value) : value_(static_cast<long long>(value)) {}
+    requires std::is_integral_v<T> || std::is_enum_v<T> ZrFormatArg(T value) : value_(static_cast<long long>(value)) {}
     ZrFormatArg(double value) : value_(value) {}
     ZrFormatArg(const wchar_t* text) : value_(std::wstring_view(text ? text : L"")) {}
     ZrFormatArg(std::wstring_view text) : value_(text) {}

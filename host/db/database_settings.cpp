@@ -1,0 +1,210 @@
+// The settings of a drawing: header variables, variable dictionary, viewport, layouts, UCS.
+#include "host/db/database.h"
+
+#include "host/db/data.h"
+#include "host/db/saver.h"
+
+#include <utility>
+
+namespace quor::db {
+
+namespace {
+
+constexpr int kDefaultLightingCode = 292;
+constexpr int kFirstWithDefaultLighting = 1021;
+
+struct UcsNames {
+    const wchar_t* origin;
+    const wchar_t* xAxis;
+    const wchar_t* yAxis;
+    const wchar_t* name;
+};
+constexpr UcsNames kModelUcs{L"$UCSORG", L"$UCSXDIR", L"$UCSYDIR", L"$UCSNAME"};
+constexpr UcsNames kPaperUcs{L"$PUCSORG", L"$PUCSXDIR", L"$PUCSYDIR", L"$PUCSNAME"};
+
+} // namespace
+
+template <class T>
+void Database::changeSetting(const ZrString& name, T& place, T value) {
+    if (place == value)
+        return;
+    T before = std::exchange(place, std::move(value));
+    journal_.settingChanged(name, [&place, kept = std::move(before)]() mutable { std::swap(place, kept); });
+}
+
+const std::vector<ZrString>& Database::problems() const { return problems_; }
+
+const ZrString& Database::version() const { return file_.versionName(); }
+
+bool Database::isNew() const { return isNew_; }
+
+std::optional<HeaderValue> Database::header(const ZrString& name) const { return headers_.get(name); }
+
+void Database::setHeader(const ZrString& name, int code, const HeaderValue& value) {
+    if (headers_.get(name) == value)
+        return;
+    std::optional<HeaderStore::Variable> before = headers_.set(name, HeaderStore::Variable{code, value});
+    journal_.settingChanged(name.substr(1), [this, name, kept = std::move(before)]() mutable {
+        kept = headers_.set(name, std::move(kept));
+    });
+}
+
+std::optional<ZrString> Database::dictionaryVariable(const ZrString& name) const { return variables_.get(name); }
+
+void Database::setDictionaryVariable(const ZrString& name, const ZrString& value) {
+    if (variables_.get(name) == value)
+        return;
+    std::optional<ZrString> before = variables_.set(name, value);
+    journal_.settingChanged(
+        name, [this, name, kept = std::move(before)]() mutable { kept = variables_.set(name, std::move(kept)); });
+}
+
+bool Database::defaultLightingInFile() {
+    dxf::Tag tag;
+    const ObjectEntry* viewport = structure_.activeViewport();
+    if (viewport == nullptr || !file_.findTag(file_.record(viewport->record), kDefaultLightingCode, tag))
+        return true;
+    return tag.asInt().value_or(1) != 0;
+}
+
+bool Database::defaultLighting() { return defaultLighting_.value_or(defaultLightingInFile()); }
+
+void Database::setDefaultLighting(bool on) {
+    if (defaultLighting() != on)
+        changeSetting(L"DEFAULTLIGHTING", defaultLighting_, std::optional(on));
+}
+
+std::optional<bool> Database::defaultLightingToSave() {
+    const bool hasPlace = file_.version() >= kFirstWithDefaultLighting && structure_.activeViewport() != nullptr;
+    return hasPlace && defaultLighting_ && *defaultLighting_ != defaultLightingInFile() ? defaultLighting_
+                                                                                        : std::nullopt;
+}
+
+std::vector<LayoutInfo> Database::layouts() const {
+    std::vector<LayoutInfo> sheets;
+    for (const LayoutRecord& sheet : structure_.layouts())
+        sheets.push_back({sheet.name, sheet.tabOrder, ZrDbObjectId(sheet.block->record)});
+    return sheets;
+}
+
+ZrString Database::currentLayout() const { return currentLayout_; }
+
+bool Database::setCurrentLayout(const ZrString& name) {
+    for (const LayoutRecord& sheet : structure_.layouts())
+        if (equalFolded(sheet.name, name)) {
+            changeSetting(L"CTAB", currentLayout_, sheet.name);
+            return true;
+        }
+    return false;
+}
+
+bool Database::isModelTab() const {
+    const auto value = header(L"$TILEMODE");
+    const auto* number = value ? std::get_if<long long>(&*value) : nullptr;
+    return number == nullptr || *number != 0;
+}
+
+void Database::setModelTab(bool model) {
+    if (model == isModelTab())
+        return;
+    setHeader(L"$TILEMODE", 70, static_cast<long long>(model ? 1 : 0));
+    setCurrentViewport(model ? 2 : 1);
+}
+
+int Database::currentViewport() const { return currentViewport_; }
+
+void Database::setCurrentViewport(int number) { changeSetting(L"CVPORT", currentViewport_, number); }
+
+Block& Database::currentSpace() {
+    if (isModelTab() || currentViewport_ > 1)
+        return structure_.modelSpace();
+    for (const LayoutRecord& sheet : structure_.layouts())
+        if (sheet.name == currentLayout_)
+            return *sheet.block;
+    return structure_.paperSpace();
+}
+
+Ucs Database::ucs() const {
+    const UcsNames& names = isModelTab() || currentViewport_ > 1 ? kModelUcs : kPaperUcs;
+    const auto point = [&](const wchar_t* name, const ZrGePoint3d& otherwise) {
+        const auto value = header(name);
+        const auto* found = value ? std::get_if<ZrGePoint3d>(&*value) : nullptr;
+        return found == nullptr ? otherwise : *found;
+    };
+    Ucs ucs;
+    ucs.origin = point(names.origin, {});
+    ucs.xAxis = point(names.xAxis, {1, 0, 0}).asVector().normal();
+    ucs.yAxis = point(names.yAxis, {0, 1, 0}).asVector().normal();
+    if (ucs.xAxis.isParallelTo(ucs.yAxis) || ucs.xAxis.isZeroLength() || ucs.yAxis.isZeroLength()) {
+        ucs.xAxis = ZrGeVector3d::kXAxis;
+        ucs.yAxis = ZrGeVector3d::kYAxis;
+    }
+    if (const auto value = header(names.name))
+        if (const auto* text = std::get_if<ZrString>(&*value))
+            ucs.name = *text;
+    return ucs;
+}
+
+void Database::setUcs(const Ucs& ucs) {
+    const UcsNames& names = isModelTab() || currentViewport_ > 1 ? kModelUcs : kPaperUcs;
+    const auto asPoint = [](const ZrGeVector3d& v) { return ZrGePoint3d(v.x, v.y, v.z); };
+    setHeader(names.name, 2, ucs.name);
+    setHeader(names.origin, 10, ucs.origin);
+    setHeader(names.xAxis, 10, asPoint(ucs.xAxis));
+    setHeader(names.yAxis, 10, asPoint(ucs.yAxis));
+}
+
+ObjectEntry* Database::currentLayer() {
+    if (const auto value = header(L"$CLAYER"))
+        if (const auto* name = std::get_if<ZrString>(&*value))
+            if (ObjectEntry* layer = layers_.find(*name))
+                return layer;
+    return layers_.find(L"0");
+}
+
+void Database::setCurrentLayer(ZrDbObjectId layer) { setHeader(L"$CLAYER", 8, layers_.nameInFile(*layer.entry())); }
+
+std::vector<ZrDbObjectId> Database::layerIds() const {
+    std::vector<ZrDbObjectId> ids;
+    for (ObjectEntry* entry : layers_.table().records)
+        if (!entry->erased)
+            ids.emplace_back(entry);
+    return ids;
+}
+
+ZrDbObjectId Database::makeLayer(const ZrString& name) {
+    if (ObjectEntry* existing = layers_.find(name))
+        return ZrDbObjectId(existing);
+    auto layer = std::make_unique<ZrDbLayerTableRecord>();
+    layer->setName(name);
+    ObjectEntry& entry = addLayer(std::move(layer));
+    closeObject(entry);
+    return ZrDbObjectId(&entry);
+}
+
+std::vector<ZrDbObjectId> Database::entities(ZrDbObjectId space) const {
+    std::vector<ZrDbObjectId> ids;
+    if (const Block* block = structure_.blockOf(space.entry()))
+        for (ObjectEntry* entity : block->entities)
+            if (!entity->erased)
+                ids.emplace_back(entity);
+    return ids;
+}
+
+ZrString Database::typeName(ZrDbObjectId id) const {
+    const ObjectEntry& entry = *id.entry();
+    return file_.codec().decode(entry.isInFile() ? file_.layout().typeName(file_.image(), file_.record(entry.record))
+                                                 : file_.typeName(entry.type));
+}
+
+std::vector<std::pair<int, ZrString>> Database::tags(ZrDbObjectId id) {
+    const std::string bytes = objectBytes(*this, *id.entry());
+    std::vector<std::pair<int, ZrString>> found;
+    dxf::TagReader reader(bytes, file_.layout().form, 0, bytes.size());
+    dxf::Tag tag;
+    while (reader.next(tag))
+        found.emplace_back(tag.code, tagText(file_, tag));
+    return found;
+}
+
+} // namespace quor::db

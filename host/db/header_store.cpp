@@ -1,0 +1,88 @@
+#include "host/db/header_store.h"
+
+#include "host/sys/utf8.h"
+
+namespace quor::db {
+
+namespace {
+
+std::optional<HeaderStore::Variable> readValue(const DrawingFile& file, const dxf::HeaderVar& variable) {
+    dxf::TagReader reader = file.tags(variable.valueBegin, variable.end);
+    dxf::Tag tag;
+    if (!reader.next(tag))
+        return std::nullopt;
+    const int code = tag.code;
+    switch (dxf::kindOf(code)) {
+    case dxf::ValueKind::Double: {
+        const double first = tag.asDouble().value_or(0);
+        if (code < 10 || code >= 40)
+            return HeaderStore::Variable{code, first};
+        ZrGePoint3d point{first, 0, 0};
+        if (reader.next(tag))
+            point.y = tag.asDouble().value_or(0);
+        if (reader.next(tag))
+            point.z = tag.asDouble().value_or(0);
+        return HeaderStore::Variable{code, point};
+    }
+    case dxf::ValueKind::Int16:
+    case dxf::ValueKind::Int32:
+    case dxf::ValueKind::Int64:
+    case dxf::ValueKind::Bool:
+        return HeaderStore::Variable{code, static_cast<long long>(tag.asInt().value_or(0))};
+    default:
+        return HeaderStore::Variable{code, file.text(tag)};
+    }
+}
+
+} // namespace
+
+std::optional<HeaderStore::Variable> HeaderStore::inFile(const ZrString& name) const {
+    const auto [found, isNew] = read_.try_emplace(name);
+    if (isNew)
+        if (const dxf::HeaderVar* variable = file_.layout().findVar(toUtf8(name)))
+            found->second = readValue(file_, *variable);
+    return found->second;
+}
+
+std::optional<HeaderValue> HeaderStore::get(const ZrString& name) const {
+    if (const auto found = set_.find(name); found != set_.end())
+        return found->second.value;
+    const std::optional<Variable> variable = inFile(name);
+    return variable ? std::optional(variable->value) : std::nullopt;
+}
+
+std::optional<HeaderStore::Variable> HeaderStore::set(const ZrString& name, std::optional<Variable> variable) {
+    std::optional<Variable> before;
+    if (const auto found = set_.find(name); found != set_.end()) {
+        before = std::move(found->second);
+        set_.erase(found);
+    }
+    if (variable)
+        set_.emplace(name, std::move(*variable));
+    return before;
+}
+
+std::map<ZrString, HeaderStore::Variable> HeaderStore::changed() const {
+    std::map<ZrString, Variable> different;
+    for (const auto& [name, variable] : set_) {
+        const std::optional<Variable> original = inFile(name);
+        if (!original || original->value != variable.value)
+            different.emplace(name, original ? Variable{original->code, variable.value} : variable);
+    }
+    return different;
+}
+
+void HeaderStore::write(dxf::TagWriter& writer, const dxf::TextCodec& codec, const ZrString& name,
+                        const Variable& variable) {
+    writer.text(9, toUtf8(name));
+    if (const auto* number = std::get_if<long long>(&variable.value))
+        writer.integer(variable.code, *number);
+    else if (const auto* real = std::get_if<double>(&variable.value))
+        writer.real(variable.code, *real);
+    else if (const auto* text = std::get_if<ZrString>(&variable.value))
+        writer.text(variable.code, codec.encode(*text));
+    else if (const auto& point = std::get<ZrGePoint3d>(variable.value); true)
+        writer.point(variable.code, point.x, point.y, point.z);
+}
+
+} // namespace quor::db

@@ -1,0 +1,45 @@
+// The header variables of a drawing: as they stand in the file, and as they were set since.
+#pragma once
+
+#include "host/db/drawing_file.h"
+#include "sdk/ge/point3d.h"
+
+#include <map>
+#include <optional>
+#include <variant>
+
+namespace quor::db {
+
+// The value of a header variable.
+using HeaderValue = std::variant<long long, double, ZrString, ZrGePoint3d>;
+
+class HeaderStore {
+public:
+    struct Variable {
+        int code; // of the value, or of the first coordinate
+        HeaderValue value;
+        bool operator==(const Variable&) const = default;
+    };
+
+    explicit HeaderStore(const DrawingFile& file) : file_(file) {}
+
+    // Nothing when the drawing has no such variable.
+    [[nodiscard]] std::optional<HeaderValue> get(const ZrString& name) const;
+    // Sets a variable (nothing: as the file has it) and answers what was set before.
+    std::optional<Variable> set(const ZrString& name, std::optional<Variable> variable);
+
+    // What differs from the file.
+    [[nodiscard]] std::map<ZrString, Variable> changed() const;
+    // A variable as its tags, the 9-group first.
+    static void write(dxf::TagWriter& writer, const dxf::TextCodec& codec, const ZrString& name,
+                      const Variable& variable);
+
+private:
+    [[nodiscard]] std::optional<Variable> inFile(const ZrString& name) const;
+
+    const DrawingFile& file_;
+    std::map<ZrString, Variable> set_;
+    mutable std::map<ZrString, std::optional<Variable>> read_; // what was looked up in the file before
+};
+
+} // namespace quor::db

@@ -1,0 +1,160 @@
+#include "host/db/journal.h"
+
+#include "host/db/database.h"
+#include "host/db/light_names.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quor::db {
+
+void Journal::begin(const ZrString& name) {
+    if (depth_++ > 0)
+        return;
+    open_ = Group{name, {}, nextNumber_++};
+    ++serial_;
+}
+
+void Journal::end() {
+    if (--depth_ > 0 || open_.changes.empty())
+        return;
+    redo_.clear();
+    undo_.push_back(std::move(open_));
+    open_ = {};
+}
+
+void Journal::rollback() {
+    Group taken = std::move(open_);
+    open_ = Group{taken.name, {}, taken.number};
+    ++serial_;
+    apply(taken, true);
+}
+
+std::optional<ZrString> Journal::undo() {
+    if (undo_.empty() || isOpen())
+        return std::nullopt;
+    redo_.push_back(std::move(undo_.back()));
+    undo_.pop_back();
+    apply(redo_.back(), true);
+    return redo_.back().name;
+}
+
+std::optional<ZrString> Journal::redo() {
+    if (redo_.empty() || isOpen())
+        return std::nullopt;
+    undo_.push_back(std::move(redo_.back()));
+    redo_.pop_back();
+    apply(undo_.back(), false);
+    return undo_.back().name;
+}
+
+bool Journal::isModified() const {
+    const std::size_t top = undo_.empty() ? 0 : undo_.back().number;
+    return top != savedNumber_ || !open_.changes.empty();
+}
+
+void Journal::markSaved() { savedNumber_ = undo_.empty() ? 0 : undo_.back().number; }
+
+void Journal::addReactor(ZrDbDatabaseReactor* reactor) { reactors_.push_back(reactor); }
+
+void Journal::removeReactor(ZrDbDatabaseReactor* reactor) { std::erase(reactors_, reactor); }
+
+template <class... Parameters, class... Arguments>
+void Journal::tell(void (ZrDbDatabaseReactor::*message)(Parameters...), Arguments&&... arguments) {
+    // A listener may leave while it is told.
+    if (reactors_.empty())
+        return;
+    for (ZrDbDatabaseReactor* reactor : std::vector(reactors_))
+        if (std::find(reactors_.begin(), reactors_.end(), reactor) != reactors_.end())
+            (reactor->*message)(database_.interface(), arguments...);
+}
+
+void Journal::record(Change change) {
+    const bool alone = !isOpen();
+    if (alone)
+        begin(ZrString());
+    open_.changes.push_back(std::move(change));
+    if (alone)
+        end();
+}
+
+void Journal::appended(ObjectEntry& entry) {
+    database_.objects().touch(entry);
+    record(Append{&entry});
+    entry.keptInGroup = serial_;
+}
+
+void Journal::aboutToModify(ObjectEntry& entry) {
+    database_.objects().touch(entry);
+    if (!isOpen() || entry.keptInGroup != serial_) {
+        record(Modify{&entry, entry.object->hostData()->clone(), entry.changed});
+        entry.keptInGroup = serial_;
+    }
+    entry.changed = true;
+    tell(&ZrDbDatabaseReactor::objectOpenedForModify, *entry.object);
+}
+
+void Journal::erased(ObjectEntry& entry, bool erasing) {
+    database_.objects().touch(entry);
+    record(Erase{&entry, erasing});
+    setErased(entry, erasing);
+}
+
+void Journal::announce(ObjectEntry& entry) {
+    const bool appended = std::exchange(entry.appendToAnnounce, false);
+    const bool modified = std::exchange(entry.modifiedInThisOpening, false);
+    const bool erased = std::exchange(entry.eraseToAnnounce, false);
+    if (appended)
+        tell(&ZrDbDatabaseReactor::objectAppended, *entry.object);
+    else if (modified)
+        tell(&ZrDbDatabaseReactor::objectModified, *entry.object);
+    if (erased)
+        tell(&ZrDbDatabaseReactor::objectErased, *entry.object, entry.erased);
+}
+
+void Journal::settingChanged(const ZrString& name, std::function<void()> exchange) {
+    record(Setting{name, std::move(exchange)});
+    tell(&ZrDbDatabaseReactor::headerSysVarChanged, name.c_str());
+}
+
+void Journal::setErased(ObjectEntry& entry, bool erased) {
+    entry.erased = erased;
+    LightNames::entityErased(entry, erased);
+}
+
+void Journal::apply(Group& group, bool undoing) {
+    ++serial_;
+    const auto one = [&](Change& change) { std::visit([&](auto& each) { applyChange(each, undoing); }, change); };
+    if (undoing)
+        std::for_each(group.changes.rbegin(), group.changes.rend(), one);
+    else
+        std::for_each(group.changes.begin(), group.changes.end(), one);
+}
+
+void Journal::applyChange(Append& change, bool undoing) {
+    setErased(*change.entry, undoing);
+    tell(undoing ? &ZrDbDatabaseReactor::objectUnAppended : &ZrDbDatabaseReactor::objectReAppended,
+         *change.entry->object);
+}
+
+void Journal::applyChange(Modify& change, bool /*undoing*/) {
+    ObjectEntry& entry = *change.entry;
+    tell(&ZrDbDatabaseReactor::objectOpenedForModify, *entry.object);
+    const LightNames::Renaming renaming(entry);
+    entry.object->hostData().swap(change.other);
+    std::swap(entry.changed, change.otherChanged);
+    tell(&ZrDbDatabaseReactor::objectModified, *entry.object);
+}
+
+void Journal::applyChange(Erase& change, bool undoing) {
+    const bool erased = change.erasing != undoing;
+    setErased(*change.entry, erased);
+    tell(&ZrDbDatabaseReactor::objectErased, *change.entry->object, erased);
+}
+
+void Journal::applyChange(Setting& change, bool /*undoing*/) {
+    change.exchange();
+    tell(&ZrDbDatabaseReactor::headerSysVarChanged, change.name.c_str());
+}
+
+} // namespace quor::db

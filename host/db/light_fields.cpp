@@ -1,0 +1,300 @@
+// The fields of a light and of the record with its photometric data.
+#include "host/db/entity_fields.h"
+
+#include "host/db/data.h"
+#include "host/db/database.h"
+
+#include <array>
+
+namespace quor::db {
+
+namespace {
+
+using Light = ZrDbLightData;
+using Shadow = ZrGiShadowParameters;
+
+constexpr std::int64_t kClassVersion = 1;
+constexpr int kRawColorVersion = 1015; // this version alone keeps the light's colour as one word
+
+FieldValue none() { return std::nullopt; }
+FieldValue whole(std::int64_t value) { return value; }
+
+void readNothing(ZrDbObjectData&, const dxf::Tag&, const FieldContext&) {}
+
+std::wstring exactText(const dxf::Tag& tag, const FieldContext& context) {
+    return context.database.file().codec().decode(tag.raw);
+}
+
+// A number of a tag, when it is one of those that `Low` to `High` name.
+template <int Low, int High>
+std::optional<int> ranged(const dxf::Tag& tag) {
+    const auto value = tag.asInt();
+    return value && *value >= Low && *value <= High ? std::optional(static_cast<int>(*value)) : std::nullopt;
+}
+
+template <auto Member>
+constexpr Field angle(int code) {
+    return {code,
+            [](ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+                if (const auto degrees = tag.asDouble())
+                    as<Light>(data).*Member = *degrees * kDegree;
+            },
+            [](const ZrDbObjectData& data, const FieldContext&) -> FieldValue {
+                return toDegrees(as<Light>(data).*Member);
+            }};
+}
+
+template <std::size_t Index>
+constexpr Field webAngle(int code) {
+    return {code,
+            [](ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+                if (const auto degrees = tag.asDouble())
+                    as<Light>(data).webAngles[Index] = *degrees * kDegree;
+            },
+            [](const ZrDbObjectData& data, const FieldContext&) -> FieldValue {
+                return toDegrees(as<Light>(data).webAngles[Index]);
+            }};
+}
+
+// An enumeration kept as a whole number from Low to High.
+template <auto Member, int Low, int High>
+constexpr Field choice(int code) {
+    return {code,
+            [](ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+                using Choice = std::remove_reference_t<decltype(as<Light>(data).*Member)>;
+                if (const auto value = ranged<Low, High>(tag))
+                    as<Light>(data).*Member = static_cast<Choice>(*value);
+            },
+            [](const ZrDbObjectData& data, const FieldContext&) {
+                return whole(static_cast<int>(as<Light>(data).*Member));
+            }};
+}
+
+// A value of the shadow record, by its getter and setter; the setter refuses what it cannot hold.
+template <auto Get, auto Set, class Value>
+constexpr Field shadowNumber(int code) {
+    return {code,
+            [](ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+                if (const auto value = ranged<0, 65535>(tag))
+                    (void)(as<Light>(data).shadow.*Set)(static_cast<Value>(*value));
+            },
+            [](const ZrDbObjectData& data, const FieldContext&) {
+                return whole(static_cast<std::int64_t>((as<Light>(data).shadow.*Get)()));
+            }};
+}
+
+template <auto Get, auto Set>
+constexpr Field shadowSize(int code) {
+    return {
+        code,
+        [](ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+            if (const auto value = tag.asDouble())
+                (void)(as<Light>(data).shadow.*Set)(*value);
+        },
+        [](const ZrDbObjectData& data, const FieldContext&) -> FieldValue { return (as<Light>(data).shadow.*Get)(); }};
+}
+
+template <auto Get, auto Set>
+constexpr Field shadowFlag(int code) {
+    return {
+        code,
+        [](ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+            (as<Light>(data).shadow.*Set)(tag.asInt().value_or(0) != 0);
+        },
+        [](const ZrDbObjectData& data, const FieldContext&) { return whole((as<Light>(data).shadow.*Get)() ? 1 : 0); }};
+}
+
+template <auto Member, auto Coordinate>
+constexpr Field coordinate(int code) {
+    return coordinateField<Light, Member, Coordinate>(code);
+}
+
+void readName(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext& context) {
+    as<Light>(data).name = exactText(tag, context);
+}
+
+void readType(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+    if (const auto type = ranged<1, 3>(tag))
+        as<Light>(data).type = static_cast<DrawableType>(*type);
+}
+
+FieldValue writeType(const ZrDbObjectData& data, const FieldContext&) {
+    // A web light has no number of its own: it is a point light whose photometric data name a web.
+    const DrawableType type = as<Light>(data).type;
+    return whole(static_cast<int>(type == DrawableType::kWebLight ? DrawableType::kPointLight : type));
+}
+
+void readColorIndex(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+    if (const auto index = ranged<0, 256>(tag))
+        (void)as<Light>(data).lightColor.setColorIndex(*index);
+}
+
+FieldValue writeColorIndex(const ZrDbObjectData& data, const FieldContext& context) {
+    return context.version <= kRawColorVersion ? none() : whole(as<Light>(data).lightColor.colorIndex());
+}
+
+void readTrueColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+    if (const auto rgb = tag.asInt())
+        as<Light>(data).lightColor.setRGB(static_cast<std::uint8_t>(*rgb >> 16), static_cast<std::uint8_t>(*rgb >> 8),
+                                          static_cast<std::uint8_t>(*rgb));
+}
+
+FieldValue writeTrueColor(const ZrDbObjectData& data, const FieldContext& context) {
+    const ZrCmColor& color = as<Light>(data).lightColor;
+    return context.version > kRawColorVersion && color.isByColor() ? whole(color.rgb()) : none();
+}
+
+void readBookColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext& context) {
+    const ZrString text = context.database.file().text(tag);
+    if (const auto dollar = text.rfind(L'$'); dollar != ZrString::npos)
+        (void)as<Light>(data).lightColor.setNames(text.substr(dollar + 1), text.substr(0, dollar));
+}
+
+FieldValue writeBookColor(const ZrDbObjectData& data, const FieldContext& context) {
+    const ZrCmColor& color = as<Light>(data).lightColor;
+    if (context.version <= kRawColorVersion || !color.hasColorName())
+        return none();
+    return color.bookName() + L"$" + color.colorName();
+}
+
+void readRawColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+    if (const auto raw = tag.asInt())
+        (void)as<Light>(data).lightColor.setRawColor(static_cast<std::uint32_t>(*raw));
+}
+
+FieldValue writeRawColor(const ZrDbObjectData& data, const FieldContext& context) {
+    if (context.version > kRawColorVersion)
+        return none();
+    return whole(static_cast<std::int32_t>(as<Light>(data).lightColor.rawColor()));
+}
+
+void readAttenuation(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+    using Type = ZrGiLightAttenuation::AttenuationType;
+    if (const auto type = ranged<0, 2>(tag))
+        (void)as<Light>(data).attenuation.setAttenuationType(static_cast<Type>(*type));
+}
+
+FieldValue writeAttenuation(const ZrDbObjectData& data, const FieldContext&) {
+    return whole(as<Light>(data).attenuation.attenuationType());
+}
+
+void readUseLimits(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+    as<Light>(data).attenuation.setUseLimits(tag.asInt().value_or(0) != 0);
+}
+
+FieldValue writeUseLimits(const ZrDbObjectData& data, const FieldContext&) {
+    return whole(as<Light>(data).attenuation.useLimits() ? 1 : 0);
+}
+
+void readStartLimit(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+    ZrGiLightAttenuation& attenuation = as<Light>(data).attenuation;
+    if (const auto limit = tag.asDouble())
+        (void)attenuation.setLimits(*limit, attenuation.endLimit());
+}
+
+FieldValue writeStartLimit(const ZrDbObjectData& data, const FieldContext&) {
+    return as<Light>(data).attenuation.startLimit();
+}
+
+void readEndLimit(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+    ZrGiLightAttenuation& attenuation = as<Light>(data).attenuation;
+    if (const auto limit = tag.asDouble())
+        (void)attenuation.setLimits(attenuation.startLimit(), *limit);
+}
+
+FieldValue writeEndLimit(const ZrDbObjectData& data, const FieldContext&) {
+    return as<Light>(data).attenuation.endLimit();
+}
+
+constexpr std::array kLightFields{
+    Field{90, readNothing, [](const ZrDbObjectData&, const FieldContext&) { return whole(kClassVersion); }},
+    Field{1, readName,
+          [](const ZrDbObjectData& data, const FieldContext&) -> FieldValue { return as<Light>(data).name; }},
+    Field{70, readType, writeType},
+    boolField<Light, &Light::on>(290),
+    Field{63, readColorIndex, writeColorIndex},
+    Field{421, readTrueColor, writeTrueColor},
+    Field{431, readBookColor, writeBookColor},
+    Field{90, readRawColor, writeRawColor},
+    boolField<Light, &Light::plotsGlyph>(291),
+    realField<Light, &Light::intensity>(40),
+    coordinate<&Light::position, &ZrGePoint3d::x>(10),
+    coordinate<&Light::position, &ZrGePoint3d::y>(20),
+    coordinate<&Light::position, &ZrGePoint3d::z>(30),
+    coordinate<&Light::target, &ZrGePoint3d::x>(11),
+    coordinate<&Light::target, &ZrGePoint3d::y>(21),
+    coordinate<&Light::target, &ZrGePoint3d::z>(31),
+    Field{72, readAttenuation, writeAttenuation},
+    Field{292, readUseLimits, writeUseLimits},
+    Field{41, readStartLimit, writeStartLimit},
+    Field{42, readEndLimit, writeEndLimit},
+    angle<&Light::hotspot>(50),
+    angle<&Light::falloff>(51),
+    shadowFlag<&Shadow::shadowsOn, &Shadow::setShadowsOn>(293),
+    shadowNumber<&Shadow::shadowType, &Shadow::setShadowType, Shadow::ShadowType>(73),
+    shadowNumber<&Shadow::shadowMapSize, &Shadow::setShadowMapSize, std::uint16_t>(91),
+    shadowNumber<&Shadow::shadowMapSoftness, &Shadow::setShadowMapSoftness, std::uint8_t>(280),
+};
+
+void readHasWeb(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
+    Light& light = as<Light>(data);
+    if (tag.asInt().value_or(0) != 0 && light.type == DrawableType::kPointLight)
+        light.type = DrawableType::kWebLight;
+}
+
+FieldValue writeHasWeb(const ZrDbObjectData& data, const FieldContext&) {
+    return whole(as<Light>(data).type == DrawableType::kWebLight ? 1 : 0);
+}
+
+void readWebFile(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext& context) {
+    as<Light>(data).webFile = exactText(tag, context);
+}
+
+FieldValue writeWebFile(const ZrDbObjectData& data, const FieldContext&) {
+    const Light& light = as<Light>(data);
+    if (light.type != DrawableType::kWebLight && light.webFile.empty())
+        return none();
+    return light.webFile;
+}
+
+constexpr std::array kPhotometryFields{
+    Field{290, readHasWeb, writeHasWeb},
+    Field{300, readWebFile, writeWebFile},
+    choice<&Light::method, 0, 2>(70),
+    realField<Light, &Light::physicalIntensity>(40),
+    realField<Light, &Light::illuminanceDistance>(41),
+    choice<&Light::lampType, 0, 1>(71),
+    realField<Light, &Light::lampTemperature>(42),
+    choice<&Light::lampPreset, 0, 14>(72),
+    coordinate<&Light::webRotation, &ZrGeVector3d::x>(43),
+    coordinate<&Light::webRotation, &ZrGeVector3d::y>(44),
+    coordinate<&Light::webRotation, &ZrGeVector3d::z>(45),
+    shadowNumber<&Shadow::extendedLightShape, &Shadow::setExtendedLightShape, Shadow::ExtendedLightShape>(73),
+    shadowSize<&Shadow::extendedLightLength, &Shadow::setExtendedLightLength>(46),
+    shadowSize<&Shadow::extendedLightWidth, &Shadow::setExtendedLightWidth>(47),
+    shadowSize<&Shadow::extendedLightRadius, &Shadow::setExtendedLightRadius>(48),
+    shadowNumber<&Shadow::shadowSamples, &Shadow::setShadowSamples, std::uint16_t>(74),
+    shadowFlag<&Shadow::shapeVisibility, &Shadow::setShapeVisibility>(75),
+    boolField<Light, &Light::hasTarget>(76),
+    realField<Light, &Light::webFlux>(49),
+    webAngle<0>(50),
+    webAngle<1>(51),
+    webAngle<2>(53),
+    webAngle<3>(54),
+    webAngle<4>(55),
+    choice<&Light::glyph, 0, 2>(77),
+};
+
+} // namespace
+
+std::span<const FieldGroup> lightGroups() {
+    static const std::array groups{FieldGroup{"AcDbEntity", entityFields()}, FieldGroup{"AcDbLight", kLightFields}};
+    return groups;
+}
+
+std::span<const FieldGroup> photometryGroups() {
+    static const std::array groups{FieldGroup{"AcDbXrecord", kPhotometryFields}};
+    return groups;
+}
+
+} // namespace quor::db

@@ -1,0 +1,28 @@
+// Makes objects of the records of a drawing file.
+#pragma once
+
+#include "host/db/object_entry.h"
+
+#include <memory>
+
+namespace quor::db {
+
+class Database;
+struct FieldGroup;
+
+// The object of an entry, its values read from its record where it has one.
+[[nodiscard]] std::unique_ptr<ZrDbObject> readObject(Database& database, ObjectEntry& entry);
+
+// The values of an entity, a light or a layer as they stand in the file.
+[[nodiscard]] std::unique_ptr<ZrDbObjectData> readData(Database& database, const ObjectEntry& entry);
+
+// Where the photometric data of a light stand: its extension dictionary and the record in it, null where there is none.
+struct PhotometryPlace {
+    ObjectEntry* dictionary = nullptr;
+    ObjectEntry* record = nullptr;
+};
+[[nodiscard]] PhotometryPlace findPhotometry(Database& database, const ObjectEntry& light);
+
+inline constexpr const char* kPhotometryName = "ADSK_XREC_PHOTOMETRICLIGHTINFO";
+
+} // namespace quor::db

@@ -1,0 +1,95 @@
+#include "host/db/save_settings.h"
+
+#include <algorithm>
+
+namespace quor::db {
+
+namespace {
+
+// The order in which sections stand in a drawing.
+constexpr std::array<std::string_view, 6> kSectionOrder{"HEADER", "CLASSES", "TABLES", "BLOCKS", "ENTITIES", "OBJECTS"};
+
+std::size_t orderOf(std::string_view section) {
+    const auto found = std::find(kSectionOrder.begin(), kSectionOrder.end(), section);
+    return static_cast<std::size_t>(found - kSectionOrder.begin());
+}
+
+constexpr int kFirstWithSubclasses = 1012;
+
+} // namespace
+
+void SectionAdditions::addLayer(const SymbolTable& layers, std::string tags) {
+    layers_ += tags;
+    layersAt_ = layers.insertAt;
+    layerTable_ = layers.entry;
+    ++layerCount_;
+}
+
+void SectionAdditions::addEntity(std::uint64_t at, const std::string& tags) {
+    (at == 0 ? entities_ : blockEntities_[at]) += tags;
+}
+
+std::string SectionAdditions::wholeSection(std::string_view name, const std::string& body) const {
+    dxf::TagWriter writer = file_.writer();
+    writer.text(0, "SECTION");
+    writer.text(2, name);
+    writer.raw(body);
+    writer.text(0, "ENDSEC");
+    return writer.take();
+}
+
+std::uint64_t SectionAdditions::placeFor(std::string_view section) const {
+    // Behind the last section that comes before it.
+    std::uint64_t place = file_.layout().firstTag;
+    for (const dxf::Section& each : file_.layout().sections)
+        if (orderOf(each.name) < orderOf(section))
+            place = std::max(place, each.end);
+    return place;
+}
+
+void SectionAdditions::put(dxf::PatchList& patches, std::string_view section, const std::string& tags) {
+    if (tags.empty())
+        return;
+    // A name may head several sections; what is new goes to the last of them.
+    const auto& sections = file_.layout().sections;
+    const auto last =
+        std::find_if(sections.rbegin(), sections.rend(), [&](const auto& s) { return s.name == section; });
+    if (last == sections.rend())
+        patches.insert(placeFor(section), wholeSection(section, tags));
+    else
+        patches.insert(last->bodyEnd, tags);
+}
+
+void SectionAdditions::finish(dxf::PatchList& patches, const DrawingFile& file) {
+    put(patches, "HEADER", header_);
+    put(patches, "CLASSES", classes_);
+    if (layersAt_ != 0) {
+        patches.insert(layersAt_, layers_);
+    } else if (!layers_.empty()) {
+        dxf::TagWriter table = file_.writer();
+        table.text(0, "TABLE");
+        table.text(2, "LAYER");
+        if (file_.version() >= kFirstWithSubclasses) {
+            table.handle(5, layerTable_->handle);
+            table.handle(330, 0);
+            table.text(100, "AcDbSymbolTable");
+        }
+        table.integer(70, static_cast<std::int64_t>(layerCount_));
+        table.raw(layers_);
+        table.text(0, "ENDTAB");
+        put(patches, "TABLES", table.take());
+    }
+    for (const auto& [at, tags] : blockEntities_)
+        patches.insert(at, tags);
+    put(patches, "ENTITIES", entities_);
+    put(patches, "OBJECTS", objects_);
+    if (patches.empty() || file.layout().hasEnd)
+        return;
+    dxf::TagWriter end = file_.writer();
+    if (!file.layout().sections.empty() && !file.layout().sections.back().closed)
+        end.text(0, "ENDSEC");
+    end.text(0, "EOF");
+    patches.insert(file.layout().endTag.begin, end.take());
+}
+
+} // namespace quor::db

@@ -1,0 +1,77 @@
+#include "host/db/variable_dictionary.h"
+
+#include "host/sys/utf8.h"
+
+namespace quor::db {
+
+namespace {
+
+constexpr bool isEntryHandle(int code) { return code == 350 || code == 360; }
+
+} // namespace
+
+ObjectEntry* dictionaryEntry(const DrawingFile& file, const ObjectTable& objects, const dxf::Record& dictionary,
+                             std::string_view name) {
+    dxf::TagReader reader = file.tags(dictionary);
+    dxf::Tag tag;
+    bool found = false;
+    while (reader.next(tag)) {
+        if (tag.code == 3)
+            found = tag.asTrimmed() == name;
+        else if (found && isEntryHandle(tag.code))
+            return objects.find(tag.asHandle().value_or(0));
+    }
+    return nullptr;
+}
+
+const ObjectEntry* VariableDictionary::dictionary() const {
+    const ObjectEntry* root = structure_.rootDictionary();
+    if (root == nullptr)
+        return nullptr;
+    const ObjectEntry* found = dictionaryEntry(file_, objects_, file_.record(root->record), kName);
+    return found != nullptr && found->isInFile() ? found : nullptr;
+}
+
+const dxf::Record* VariableDictionary::recordOf(const ZrString& name) const {
+    const ObjectEntry* variables = dictionary();
+    if (variables == nullptr)
+        return nullptr;
+    const ObjectEntry* found = dictionaryEntry(file_, objects_, file_.record(variables->record), toUtf8(name));
+    return found != nullptr && found->isInFile() ? &file_.record(found->record) : nullptr;
+}
+
+std::optional<ZrString> VariableDictionary::get(const ZrString& name) const {
+    if (const auto found = set_.find(name); found != set_.end())
+        return found->second.value;
+    dxf::Tag tag;
+    if (const dxf::Record* record = recordOf(name); record != nullptr && file_.findTag(*record, 1, tag))
+        return file_.text(tag);
+    return std::nullopt;
+}
+
+std::optional<ZrString> VariableDictionary::set(const ZrString& name, std::optional<ZrString> value) {
+    std::optional<ZrString> before;
+    if (const auto found = set_.find(name); found != set_.end()) {
+        before = std::move(found->second.value);
+        set_.erase(found);
+    }
+    if (value) {
+        std::uint64_t& handle = handles_[name];
+        if (handle == 0)
+            handle = objects_.takeHandles(1);
+        set_.emplace(name, Set{std::move(*value), handle});
+    }
+    return before;
+}
+
+std::uint64_t VariableDictionary::handleOnce(std::uint64_t& handle) {
+    if (handle == 0)
+        handle = objects_.takeHandles(1);
+    return handle;
+}
+
+std::uint64_t VariableDictionary::newDictionaryHandle() { return handleOnce(newDictionaryHandle_); }
+
+std::uint64_t VariableDictionary::newRootHandle() { return handleOnce(newRootHandle_); }
+
+} // namespace quor::db

@@ -1,0 +1,52 @@
+// The variables that a drawing keeps in its variable dictionary (LIGHTINGUNITS): a name and a text each.
+#pragma once
+
+#include "host/db/structure.h"
+
+#include <map>
+#include <optional>
+
+namespace quor::db {
+
+class VariableDictionary {
+public:
+    VariableDictionary(DrawingFile& file, ObjectTable& objects, Structure& structure)
+        : file_(file), objects_(objects), structure_(structure) {}
+
+    [[nodiscard]] std::optional<ZrString> get(const ZrString& name) const;
+    // Sets a variable (nothing: as the file has it) and answers what was set before.
+    std::optional<ZrString> set(const ZrString& name, std::optional<ZrString> value);
+
+    // What was set, with the handle that a variable new in the drawing gets.
+    struct Set {
+        ZrString value;
+        std::uint64_t newHandle = 0;
+    };
+    [[nodiscard]] const std::map<ZrString, Set>& allSet() const { return set_; }
+    // The record of a variable in the file, or null.
+    [[nodiscard]] const dxf::Record* recordOf(const ZrString& name) const;
+    // The dictionary in the file, or null; and the handle that a new one gets.
+    [[nodiscard]] const ObjectEntry* dictionary() const;
+    std::uint64_t newDictionaryHandle();
+    // The handle of a root dictionary, for a drawing that has none.
+    std::uint64_t newRootHandle();
+
+    static constexpr const char* kName = "AcDbVariableDictionary";
+
+private:
+    std::uint64_t handleOnce(std::uint64_t& handle);
+
+    DrawingFile& file_;
+    ObjectTable& objects_;
+    Structure& structure_;
+    std::map<ZrString, Set> set_;
+    std::map<ZrString, std::uint64_t> handles_; // given out before, so that redo gives the same again
+    std::uint64_t newDictionaryHandle_ = 0;
+    std::uint64_t newRootHandle_ = 0;
+};
+
+// The object that a dictionary names, or null.
+[[nodiscard]] ObjectEntry* dictionaryEntry(const DrawingFile& file, const ObjectTable& objects,
+                                           const dxf::Record& dictionary, std::string_view name);
+
+} // namespace quor::db
