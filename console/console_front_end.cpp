@@ -1,0 +1,75 @@
+#include "console/console_front_end.h"
+
+#include "host/ed/input_stack.h"
+#include "host/session.h"
+#include "host/texts/console.h"
+#include "host/ui/task_dialog_text.h"
+
+namespace quor::console {
+
+namespace {
+
+constexpr std::wstring_view kSpace = L" \t\r\n";
+
+Answer toAnswer(Line line) {
+    switch (line.kind) {
+    case Line::Kind::End:
+        return {Answer::Kind::End, {}, {}};
+    case Line::Kind::Cancel:
+        return {Answer::Kind::Cancel, {}, {}};
+    case Line::Kind::Text:
+        break;
+    }
+    if (line.text.empty())
+        return {Answer::Kind::Enter, {}, {}};
+    return {Answer::Kind::Text, std::move(line.text), {}};
+}
+
+} // namespace
+
+ZrString ConsoleFrontEnd::lastMessage() const {
+    const std::size_t last = lastText_.find_last_not_of(kSpace);
+    if (last == ZrString::npos)
+        return {};
+    const std::size_t lineBreak = lastText_.rfind(L'\n', last);
+    const std::size_t first = lastText_.find_first_not_of(kSpace, lineBreak == ZrString::npos ? 0 : lineBreak);
+    return lastText_.substr(first, last + 1 - first);
+}
+
+void ConsoleFrontEnd::print(std::wstring_view text) {
+    lastText_ = text;
+    output_.print(text);
+}
+
+Answer ConsoleFrontEnd::ask(const Question& question) {
+    return reader_ != nullptr ? toAnswer(reader_->read(question)) : Answer{Answer::Kind::End, {}, {}};
+}
+
+void ConsoleFrontEnd::echo(const Question& question, std::wstring_view answer) {
+    output_.print(question.prompt);
+    output_.answer(answer);
+}
+
+Answer ConsoleFrontEnd::drag(const Question& question, const std::function<void(const ZrGePoint3d&)>&) {
+    return ask(question);
+}
+
+TaskDialogAnswer ConsoleFrontEnd::showTaskDialog(const CZrUiTaskDialog& dialog) {
+    return ui::askTaskDialog(
+        dialog, [this](std::wstring_view text) { print(text); },
+        [](const Question& question) { return Session::current().input().ask(question); });
+}
+
+std::optional<ZrString> ConsoleFrontEnd::chooseFile(const FileQuestion& file) {
+    const ZrString prompt = fill(texts::console::kFilePrompt, file.caption, file.filterPattern);
+    Question question;
+    question.kind = Question::Kind::Text;
+    question.prompt = prompt;
+    question.acceptsBlanks = true;
+    const Answer answer = Session::current().input().ask(question);
+    if (answer.kind != Answer::Kind::Text)
+        return std::nullopt;
+    return answer.text;
+}
+
+} // namespace quor::console

@@ -1,0 +1,67 @@
+#include "console/output.h"
+
+#include "host/sys/utf8.h"
+
+namespace quor::console {
+
+namespace {
+constexpr std::size_t kBufferSize = std::size_t{1} << 16;
+} // namespace
+
+Output::Output(ByteSink sink, bool quiet) : sink_(std::move(sink)), quiet_(quiet) {
+    if (!quiet_)
+        buffer_.reserve(kBufferSize + kBufferSize / 4);
+}
+
+void Output::append(std::wstring_view text) {
+    for (const wchar_t c : text) {
+        if (c > 0 && c < 0x80)
+            buffer_.push_back(static_cast<char>(c));
+        else
+            appendUtf8(buffer_, c);
+    }
+    if (buffer_.size() >= kBufferSize)
+        flushLines();
+}
+
+void Output::print(std::wstring_view text) {
+    if (!quiet_)
+        append(screen_.put(text));
+}
+
+void Output::answer(std::wstring_view text) {
+    if (quiet_)
+        return;
+    append(text);
+    append(L"\n");
+    screen_.answered();
+}
+
+void Output::freshLine() {
+    if (quiet_ || screen_.atLineStart())
+        return;
+    append(L"\n");
+    screen_.answered();
+}
+
+void Output::write(std::size_t count) {
+    if (count > 0 && error_ == 0) {
+        if (beforeWriting_)
+            beforeWriting_();
+        error_ = sink_(std::string_view(buffer_).substr(0, count));
+        writtenLine_ = buffer_[count - 1] == '\n';
+    }
+    buffer_.erase(0, count);
+}
+
+void Output::flush() { write(buffer_.size()); }
+
+void Output::flushLines() {
+    const std::size_t end = buffer_.rfind('\n');
+    if (end != std::string::npos)
+        write(end + 1);
+    else if (buffer_.size() >= kBufferSize)
+        flush();
+}
+
+} // namespace quor::console

@@ -1,0 +1,104 @@
+#include "console/run_console.h"
+
+#include "console/console_front_end.h"
+#include "console/drawing_stage.h"
+#include "console/exit_status.h"
+#include "console/script_stage.h"
+#include "console/signals.h"
+#include "console/typing_stage.h"
+#include "host/rx/module_loader.h"
+#include "host/sys/utf8.h"
+#include "host/texts/console.h"
+
+#include <system_error>
+
+namespace quor::console {
+
+namespace {
+
+namespace words = texts::console;
+
+constexpr const wchar_t* kUsualModule = L"light";
+
+// One run; each stage answers kSuccess or the status with which the run ends.
+class Stages {
+public:
+    Stages(const Options& options, const Streams& streams, SessionOptions sessionOptions)
+        : options_(options), streams_(streams), output_(streams.out, options.quiet),
+          progress_(streams.showsProgress ? streams.err : ByteSink(), output_, streams.clock),
+          front_(output_, progress_), session_(front_, std::move(sessionOptions)), report_(streams.err, output_) {
+        output_.beforeWriting([this] { progress_.remove(); });
+    }
+
+    int run() {
+        std::vector<ScriptToRun> scripts;
+        int status = readScripts(options_.runs, report_, scripts);
+        if (status == kSuccess)
+            status = loadModules();
+        if (status == kSuccess)
+            status = openDrawing(session_, options_, report_);
+        if (status == kSuccess)
+            status = work(std::move(scripts));
+        output_.freshLine();
+        output_.flush();
+        return status == kSuccess ? outputStatus() : status;
+    }
+
+private:
+    int loadModules() {
+        std::vector<ZrString> modules;
+        for (const std::string& module : options_.modules)
+            modules.push_back(fromUtf8(module));
+        const bool isUsual = modules.empty();
+        if (isUsual)
+            modules.emplace_back(kUsualModule);
+        for (const ZrString& module : modules) {
+            if (session_.modules().loadModule(module) == Quor::eOk)
+                continue;
+            report_(session_.modules().lastError());
+            // The host is of use without its usual module; a module that was asked for is needed.
+            if (!isUsual)
+                return kCommandFailed;
+        }
+        return kSuccess;
+    }
+
+    int work(std::vector<ScriptToRun> scripts) {
+        int status = kSuccess;
+        if (options_.runs.empty())
+            status = typeCommands({session_, front_, output_, options_, streams_, report_});
+        else
+            status = runScripts({session_, front_, output_, options_.keepGoing, report_}, std::move(scripts));
+        const bool stopped = status != kSuccess && !(status == kCommandFailed && options_.keepGoing);
+        if (stopped || options_.output.empty())
+            return status;
+        const int saved = saveDrawing(session_, options_.output, report_);
+        return saved == kSuccess ? status : saved;
+    }
+
+    // A reader who went away has seen enough; a full disk is an error.
+    int outputStatus() {
+        if (output_.error() == 0 || output_.error() == EPIPE)
+            return kSuccess;
+        report_(fill(words::kOutputBroken, fromUtf8(std::generic_category().message(output_.error()))));
+        return kCommandFailed;
+    }
+
+    const Options& options_;
+    const Streams& streams_;
+    Output output_;
+    ProgressLine progress_;
+    ConsoleFrontEnd front_;
+    Session session_;
+    Report report_;
+};
+
+} // namespace
+
+int runConsole(const Options& options, const Streams& streams, SessionOptions session) {
+    if (session.language.empty())
+        session.language = options.language;
+    return Stages(options, streams, std::move(session)).run();
+}
+
+} // namespace quor::console

@@ -1,0 +1,56 @@
+// Lines from a person at a terminal: editing, history, completion.
+#pragma once
+
+#include "console/completion.h"
+#include "console/history.h"
+#include "console/line_reader.h"
+#include "console/output.h"
+#include "console/terminal_keys.h"
+
+#include <memory>
+
+struct editline;
+struct historyW;
+
+namespace quor::console {
+
+// At most one at a time, on standard input and output.
+class TerminalReader final : public LineReader {
+public:
+    // What Tab may offer at a question; asked when Tab is pressed.
+    using Source = std::function<CompletionSource(const Question&)>;
+
+    TerminalReader(Output& output, History history, Source source);
+    ~TerminalReader() override;
+    TerminalReader(const TerminalReader&) = delete;
+    TerminalReader& operator=(const TerminalReader&) = delete;
+
+    Line read(const Question& question) override;
+
+private:
+    struct EndEditor {
+        void operator()(editline* editor) const;
+    };
+    struct EndHistory {
+        void operator()(historyW* history) const;
+    };
+    // What the editing library calls back.
+    struct Calls;
+
+    void bindKeys();
+    void remember(const ZrString& line);
+    // Offers what fits at the caret; answers what the editing library is to do next.
+    unsigned char completeAtCaret();
+
+    Output& output_;
+    History history_;
+    Source source_;
+    TerminalKeys keys_;
+    std::unique_ptr<historyW, EndHistory> recalled_;
+    std::unique_ptr<editline, EndEditor> editor_;
+    ZrString prompt_;
+    const Question* question_ = nullptr;
+    bool cancelled_ = false;
+};
+
+} // namespace quor::console

@@ -1,0 +1,99 @@
+#include "console/typing_stage.h"
+
+#include "console/exit_status.h"
+#include "console/folder_names.h"
+#include "console/script_stage.h"
+#include "console/signals.h"
+#include "console/terminal_reader.h"
+#include "host/document.h"
+#include "host/ed/command_processor.h"
+#include "host/ed/input_stack.h"
+#include "host/sys/utf8.h"
+#include "host/texts/console.h"
+
+#include <algorithm>
+#include <cerrno>
+
+namespace quor::console {
+
+namespace {
+
+namespace words = texts::console;
+
+CompletionSource sourceFor(Session& session, const Question& question) {
+    CompletionSource source;
+    source.atCommandPrompt = question.kind == Question::Kind::Command;
+    source.acceptsBlanks = question.acceptsBlanks;
+    source.acceptsText = question.kind == Question::Kind::Text;
+    source.keywords = question.keywords;
+    source.files = folderNames;
+    for (const ed::Command* command : session.commands().all())
+        source.commands.push_back({command->globalName, command->localName});
+    return source;
+}
+
+// Asks for one command and runs it with all that it starts; nothing when the input has ended.
+std::optional<int> typeOne(const TypingRoom& room) {
+    if (!room.session.processor().step())
+        return std::nullopt;
+    if (!room.session.input().hasProgramInput())
+        return kSuccess;
+    return runWaiting({room.session, room.front, room.output, room.options.keepGoing, room.report});
+}
+
+int pipeStatus(const Output& output, int worst) {
+    if (signals::interrupted())
+        return kInterrupted;
+    return output.error() == EPIPE ? kReaderGone : worst;
+}
+
+int typeThroughPipe(const TypingRoom& room) {
+    PipeReader reader(room.streams.in, room.output);
+    room.front.setReader(&reader);
+    int worst = kSuccess;
+    while (!room.session.processor().quitRequested()) {
+        const std::optional<int> status = typeOne(room);
+        if (!status)
+            break;
+        worst = std::max(worst, *status);
+    }
+    room.front.setReader(nullptr);
+    room.output.flush();
+    return pipeStatus(room.output, worst);
+}
+
+bool hasUnsavedChanges(Session& session) {
+    const auto& documents = session.documents().all();
+    return std::any_of(documents.begin(), documents.end(), [](const auto& document) { return document->isModified(); });
+}
+
+// Ctrl+D with unsaved changes warns once; pressed again at once it ends the session. With -o the end saves.
+int typeOnTerminal(const TypingRoom& room) {
+    TerminalReader reader(room.output, History(History::defaultFile()),
+                          [&](const Question& question) { return sourceFor(room.session, question); });
+    room.front.setReader(&reader);
+    say(words::kBanner, fromUtf8(QUOR_VERSION));
+    bool warned = false;
+    while (!room.session.processor().quitRequested()) {
+        if (typeOne(room)) {
+            signals::forgetInterrupt();
+            warned = false;
+            continue;
+        }
+        if (warned || !room.options.output.empty() || !hasUnsavedChanges(room.session))
+            break;
+        say(words::kUnsavedEnd);
+        warned = true;
+    }
+    room.front.setReader(nullptr);
+    return kSuccess;
+}
+
+} // namespace
+
+int typeCommands(const TypingRoom& room) {
+    const bool edits = room.streams.editsLines && !room.options.quiet;
+    return edits ? typeOnTerminal(room) : typeThroughPipe(room);
+}
+
+} // namespace quor::console

@@ -1,0 +1,146 @@
+// What quorc itself says: its help, its errors, its progress.
+#pragma once
+
+#include "host/texts/text.h"
+
+namespace quor::texts::console {
+
+// "%s": the version.
+inline constexpr Text kVersion{L"quorc %s\n", L"quorc %s\n"};
+
+inline constexpr Text kHelp{LR"(用法: quorc [选项]... [图形]
+
+在终端、管道或脚本里打开、编辑和保存 DXF 图形。
+不给出图形时新建一个；不给出脚本和命令时从标准输入读取命令。
+
+执行什么(可重复，按命令行上的顺序执行)
+  -s, --script 文件       执行脚本
+  -c, --command 文本      执行一行命令；空格和行尾都结束一个回答
+
+图形
+  -o, --output 文件       最后把图形保存到这里；脚本中途停下时不保存
+      --recover           打开损坏的图形: 列出问题，保留其余部分
+      --set 名称=值       打开图形后设置系统变量(可重复)
+
+如何运行
+  -k, --keep-going        命令失败后继续执行脚本
+      --quiet             除错误外不显示任何内容
+      --lang zh|en        界面语言(默认: 用户设置 LANGUAGE，否则为中文)
+      --module 文件       加载模块(可重复)；默认加载程序旁的 light
+  -h, --help              显示本帮助
+      --version           显示版本
+
+在终端中
+  Tab 补全命令和选项，上下箭头取回输入过的内容，
+  Ctrl+C 取消(等于 Esc)，空行上 Ctrl+D 结束。
+
+示例
+  quorc                                             在新图形中交互工作
+  quorc 户型.dxf                                    打开图形，交互工作
+  quorc 户型.dxf -s 灯光.scr -o 户型-带灯.dxf       执行脚本，另存结果
+  quorc 户型.dxf -c "LIST ALL "                     列出所有对象
+  quorc --set LIGHTINGUNITS=1 -c "POINTLIGHT 0,0,0 " -o 灯.dxf
+  echo "LIST ALL" | quorc 户型.dxf                  从管道读取命令
+
+退出状态
+    0  一切正常
+    1  脚本中有命令失败，--module 指定的模块无法加载，或输出无法写入
+    2  命令行用法错误；脚本文件无法读取；--set 的变量或值无效
+    3  图形无法读取
+    4  图形无法保存(-o)
+  130  被 Ctrl+C 中断(脚本和管道)；不保存
+  141  读取管道时，接收输出的程序已退出；不保存
+  2、3 和加载失败的 --module 在执行任何命令之前结束程序。
+  之后命令失败为 1;-k 时仍会保存，保存失败则为 4。
+)",
+                            LR"(Usage: quorc [OPTIONS]... [DRAWING]
+
+Opens, edits and saves DXF drawings from a terminal, a pipe or a script.
+Without DRAWING a new one is started; without script or command, commands are read from standard input.
+
+What to run (repeatable, in the order of the command line)
+  -s, --script FILE       run a script
+  -c, --command TEXT      run one line of commands; a blank or the line's end ends an answer
+
+The drawing
+  -o, --output FILE       save the drawing here at the end, unless a script stopped half-way
+      --recover           open a damaged drawing: list what is wrong, keep the rest
+      --set NAME=VALUE    set a system variable once the drawing is open (repeatable)
+
+How to run
+  -k, --keep-going        go on with a script after a command has failed
+      --quiet             show nothing but errors
+      --lang zh|en        language (default: the user's setting LANGUAGE, else Chinese)
+      --module FILE       load a module (repeatable); default: light, beside the program
+  -h, --help              show this help
+      --version           show the version
+
+On a terminal
+  Tab completes commands and options, the arrow keys bring back what was typed,
+  Ctrl+C cancels (as Esc does), Ctrl+D on an empty line ends.
+
+Examples
+  quorc                                             work in a new drawing
+  quorc plan.dxf                                    open a drawing and work in it
+  quorc plan.dxf -s lights.scr -o plan-lit.dxf      run a script, save the result elsewhere
+  quorc plan.dxf -c "LIST ALL "                     list all objects
+  quorc --set LIGHTINGUNITS=1 -c "POINTLIGHT 0,0,0 " -o lamp.dxf
+  echo "LIST ALL" | quorc plan.dxf                  read commands from a pipe
+
+Exit status
+    0  all is well
+    1  a command of a script failed, a module named by --module was not loaded, or the output could not be written
+    2  wrong usage; a script cannot be read; a variable or value of --set is not valid
+    3  the drawing could not be read
+    4  the drawing could not be saved (-o)
+  130  interrupted by Ctrl+C (scripts and pipes); nothing is saved
+  141  the reader of the output went away while commands came from a pipe; nothing is saved
+  2, 3 and a failing --module end the program before any command runs.
+  After that a failed command gives 1; with -k the drawing is saved all the same, and a failed save gives 4.
+)"};
+
+// Wrong usage.
+inline constexpr Text kUsageHint{L"quorc: %s\n使用 quorc --help 查看用法。\n", L"quorc: %s\nSee quorc --help.\n"};
+inline constexpr Text kUnknownOption{L"没有选项“%s”。", L"There is no option \"%s\"."};
+inline constexpr Text kOneDrawing{L"只能打开一个图形，多余的参数是“%s”。",
+                                  L"Only one drawing can be opened; \"%s\" is one too many."};
+inline constexpr Text kOptionValue{L"选项 %s 需要且只能有一个值。", L"Option %s takes exactly one value."};
+inline constexpr Text kOptionFlag{L"选项 %s 不带值。", L"Option %s takes no value."};
+inline constexpr Text kOptionEmpty{L"选项 %s 的值不能为空。", L"The value of option %s must not be empty."};
+inline constexpr Text kBadLanguage{L"--lang 只能是 zh 或 en，不能是“%s”。", L"--lang is zh or en, not \"%s\"."};
+inline constexpr Text kBadSetting{L"--set 的格式是 名称=值，不能是“%s”。", L"--set takes NAME=VALUE, not \"%s\"."};
+inline constexpr Text kEmptyDrawingName{L"图形的文件名为空。", L"The name of the drawing is empty."};
+
+// Errors, one line each.
+inline constexpr Text kError{L"quorc: %s\n", L"quorc: %s\n"};
+inline constexpr Text kSettingRefused{L"--set %s=%s: %s", L"--set %s=%s: %s"};
+inline constexpr Text kCommandFailed{L"%s: 命令 %s 失败: %s", L"%s: command %s failed: %s"};
+inline constexpr Text kNothingToSave{L"没有打开的图形，%s 没有保存。", L"No drawing is open; %s was not saved."};
+inline constexpr Text kOutputBroken{L"无法写入标准输出: %s。", L"Standard output cannot be written: %s."};
+inline constexpr Text kInternalError{L"内部错误: %s", L"internal error: %s"};
+inline constexpr Text kOutOfMemory{L"内存不足。", L"There is not enough memory."};
+
+// Why a command failed; what it said itself stands above.
+inline constexpr Text kWhyFailed{L"命令报告了错误。", L"it reported an error."};
+inline constexpr Text kWhyUnknown{L"没有这个命令。", L"there is no such command."};
+inline constexpr Text kWhyEnded{L"回答在命令中途用完了。", L"the answers ran out in the middle of it."};
+
+// Where a command stood, for those that came from no script file.
+inline constexpr Text kCommandOption{L"第 %d 个 -c", L"-c number %d"};
+
+// Around a session.
+inline constexpr Text kBanner{L"Quor %s。输入 HELP 查看命令，QUIT 退出。\n",
+                              L"Quor %s. Type HELP for the commands, QUIT to leave.\n"};
+inline constexpr Text kUnsavedEnd{L"\n图形有未保存的更改: 用 SAVE 保存，或再按一次 Ctrl+D 放弃。\n",
+                                  L"\nThe drawing has unsaved changes: SAVE keeps them, Ctrl+D once more "
+                                  L"drops them.\n"};
+inline constexpr Text kRecovered{L"\n图形 %s 有 %d 个问题，其余部分已保留:\n",
+                                 L"\nThe drawing %s has %d problems; the rest was kept:\n"};
+inline constexpr Text kSaved{L"\n图形已保存到 %s。\n", L"\nThe drawing was saved to %s.\n"};
+inline constexpr Text kFilePrompt{L"\n%s(%s)，输入路径: ", L"\n%s (%s), path: "};
+
+// Progress.
+inline constexpr Text kProgressScript{L"正在执行 %s", L"Running %s"};
+inline constexpr Text kProgressOpen{L"正在打开 %s", L"Opening %s"};
+
+} // namespace quor::texts::console
