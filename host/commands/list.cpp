@@ -38,13 +38,13 @@ void listCommon(const db::Database& drawing, const ZrDbEntity& entity, Listing& 
     listing.row(texts::kListVisible, yesNoText(entity.visibility() == ZrDb::kVisible));
 }
 
-void listTags(const db::Database& drawing, ZrDbObjectId id, Listing& listing) {
+void listTags(db::Database& drawing, ZrDbObjectId id, Listing& listing) {
     listing.line(texts::kListContents.get());
     for (const auto& [code, value] : drawing.tags(id))
         listing.line(zrFormat(L"%6d  %s", {code, value}));
 }
 
-void listOne(const db::Database& drawing, ZrDbObjectId id) {
+void listOne(db::Database& drawing, ZrDbObjectId id) {
     const ZrDbObjectPointer<ZrDbEntity> entity(id, ZrDb::kForRead);
     if (!entity)
         return say(texts::kListUnreadable, handleText(id));
@@ -68,7 +68,7 @@ int list(Session& session) {
     ZrDbObjectIdArray ids;
     if (const int result = zredSelect(nullptr, ids); result != RTNORM)
         return result == RTNONE ? RTNORM : result;
-    const db::Database& drawing = session.documents().current()->drawing();
+    db::Database& drawing = session.documents().current()->drawing();
     if (!sameUcs(drawing.ucs(), db::Ucs()))
         say(texts::kListUcs);
     for (const ZrDbObjectId id : ids)
