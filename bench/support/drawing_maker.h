@@ -1,0 +1,30 @@
+// Drawings of any size for the benchmarks.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+
+namespace quor::bench {
+
+// A drawing (AC1027, ASCII, CRLF) with that many entities in model space on ten layers: lines, polylines of six
+// vertices, faces and circles in turn. The same count always gives the same bytes.
+[[nodiscard]] std::string makeDrawing(std::size_t entities);
+
+// A folder for files, there as long as the object.
+class ScratchFolder {
+public:
+    ScratchFolder();
+    ~ScratchFolder();
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+    // Writes a file and answers its path.
+    [[nodiscard]] std::filesystem::path write(const std::string& name, const std::string& bytes) const;
+
+private:
+    std::filesystem::path path_;
+};
+
+} // namespace quor::bench

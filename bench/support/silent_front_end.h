@@ -1,0 +1,18 @@
+// A front end that shows nothing and has no person behind it: what is left is the host's own cost.
+#pragma once
+
+#include "host/front.h"
+
+namespace quor::bench {
+
+class SilentFrontEnd final : public FrontEnd {
+public:
+    void print(std::wstring_view) override {}
+    Answer ask(const Question&) override { return {}; }
+    void echo(const Question&, std::wstring_view) override {}
+    Answer drag(const Question&, const std::function<void(const ZrGePoint3d&)>&) override { return {}; }
+    TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog&) override { return {}; }
+    std::optional<ZrString> chooseFile(const FileQuestion&) override { return std::nullopt; }
+};
+
+} // namespace quor::bench
