@@ -1,0 +1,105 @@
+#include "host/ed/command_table.h"
+#include "host/rx/module_loader.h"
+#include "light/app/command_rows.h"
+#include "sdk/rx/application.h"
+#include "sdk/rx/command.h"
+#include "tests/support/test_session.h"
+
+#include <gtest/gtest.h>
+
+extern "C" Zr::AppRetCode zrrxEntryPoint(unsigned message, void* applicationId);
+extern "C" unsigned zrrxGetApiVersion();
+
+namespace quor {
+namespace {
+
+using test::TestSession;
+
+const ed::Command* findCommand(TestSession& session, const ZrString& name) {
+    return session.session().commands().find(ed::CommandWord{.name = name});
+}
+
+TEST(Module, LoadingItRegistersItsCommandsAndUnloadingTakesThemAway) {
+    TestSession session;
+    EXPECT_EQ(findCommand(session, L"POINTLIGHT"), nullptr);
+
+    ASSERT_TRUE(session.loadLight(QUOR_BUILD_DIR));
+    EXPECT_NE(findCommand(session, L"POINTLIGHT"), nullptr);
+
+    EXPECT_EQ(session.session().modules().unloadModule(L"light"), Quor::eOk);
+    EXPECT_EQ(findCommand(session, L"POINTLIGHT"), nullptr);
+}
+
+TEST(Module, ItCanBeLoadedAgain) {
+    TestSession session;
+    ASSERT_TRUE(session.loadLight(QUOR_BUILD_DIR));
+    ASSERT_EQ(session.session().modules().unloadModule(L"light"), Quor::eOk);
+
+    EXPECT_TRUE(session.loadLight(QUOR_BUILD_DIR));
+
+    EXPECT_NE(findCommand(session, L"POINTLIGHT"), nullptr);
+}
+
+TEST(Module, ItWorksWithSeveralOpenDrawings) {
+    TestSession session;
+    ASSERT_TRUE(session.loadLight(QUOR_BUILD_DIR));
+
+    EXPECT_TRUE(session.session().modules().isMdiAware(L"light"));
+}
+
+TEST(Module, ItReportsTheVersionOfTheHostsInterface) { EXPECT_EQ(zrrxGetApiVersion(), zrrxHostApiVersion()); }
+
+TEST(Module, MessagesFromSixteenOnAnswerZeroAndChangeNothing) {
+    TestSession session;
+    const std::size_t before = session.session().commands().all().size();
+
+    EXPECT_EQ(zrrxEntryPoint(16, nullptr), 0);
+    EXPECT_EQ(zrrxEntryPoint(0xFFFFFFFFU, nullptr), 0);
+
+    EXPECT_EQ(session.session().commands().all().size(), before);
+}
+
+TEST(Module, MessagesWithoutAStepOfItsOwnAnswerZero) {
+    TestSession session;
+
+    for (const unsigned message : {Zr::kNullMsg, Zr::kLoadDwgMsg, Zr::kUnloadDwgMsg, Zr::kSaveMsg, Zr::kSuspendMsg})
+        EXPECT_EQ(zrrxEntryPoint(message, nullptr), 0) << message;
+}
+
+TEST(Module, CommandsStandInTheirGroupWithoutFlags) {
+    TestSession session;
+    ASSERT_TRUE(session.loadLight(QUOR_BUILD_DIR));
+
+    const ed::Command* command = findCommand(session, L"pointlight");
+
+    ASSERT_NE(command, nullptr);
+    EXPECT_EQ(command->group, L"QUOR_COMMAND_GROUP");
+    EXPECT_EQ(command->globalName, L"POINTLIGHT");
+    EXPECT_EQ(command->flags, 0);
+    EXPECT_FALSE(command->isHost);
+}
+
+TEST(Module, WithoutAKeywordModuleLocalNamesAreTheGlobalOnes) {
+    TestSession session;
+    ASSERT_TRUE(session.loadLight(QUOR_BUILD_DIR));
+
+    const ed::Command* command = findCommand(session, L"POINTLIGHT");
+
+    ASSERT_NE(command, nullptr);
+    EXPECT_EQ(command->localName, L"POINTLIGHT");
+}
+
+TEST(CommandRows, TheBuiltInLocalNameOfEachCommandIsItsGlobalName) {
+    for (const light::CommandRow& row : light::commandRows())
+        EXPECT_STREQ(row.localName.builtIn, row.globalName);
+}
+
+TEST(CommandRows, EachMakesACommandObject) {
+    for (const light::CommandRow& row : light::commandRows()) {
+        const std::unique_ptr<RxCommand> command(row.make());
+        EXPECT_NE(command, nullptr) << row.localName.number;
+    }
+}
+
+} // namespace
+} // namespace quor
