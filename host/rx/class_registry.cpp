@@ -1,6 +1,7 @@
 #include "sdk/rx/class.h"
 #include "sdk/rx/object.h"
 
+#include <algorithm>
 #include <cassert>
 #include <map>
 
@@ -40,6 +41,8 @@ ZrRxClass* findZrRxClass(std::wstring_view name) {
 // A class names its parent when it is made, so there are no links to set; what remains is to see that every tree ends
 // in the one root.
 void zrrxBuildClassHierarchy() {
-    for (const auto& [name, description] : registry())
-        assert(description->isDerivedFrom(ZrRxObject::desc()));
+    [[maybe_unused]] const bool rooted = std::all_of(registry().begin(), registry().end(), [](const auto& entry) {
+        return entry.second->isDerivedFrom(ZrRxObject::desc());
+    });
+    assert(rooted);
 }
