@@ -21,8 +21,12 @@ def keyed(drawing):
     """The records by a key that stays the same when others come or go: place, type, and handle, name or turn."""
     seen = Counter()
     found = {}
+    section = None
     for record in drawing.records:
-        base = (record.section, record.container, record.type, record.handle or record.name)
+        section = record.section or section
+        # The end of a section has no place of its own: it goes with the section that it ends.
+        place = section if record.type == "ENDSEC" else record.section
+        base = (place, record.container, record.type, record.handle or record.name)
         found[base + (seen[base],)] = record
         seen[base] += 1
     return found
