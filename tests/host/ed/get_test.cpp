@@ -164,14 +164,14 @@ TEST_F(Get, PointIsRememberedForRelativePoints) {
 }
 
 TEST_F(Get, PickedPointIsConvertedToTheUcs) {
-    test_.document().drawing().setUcs({.origin = {100, 0, 0}});
+    test_.document().drawing().setUcs(quor::db::Ucs{{100, 0, 0}, ZrGeVector3d::kXAxis, ZrGeVector3d::kYAxis, {}});
     test_.front().pick({101, 2, 3});
     EXPECT_EQ(zredGetPoint(nullptr, L"\nP: ", point_), RTNORM);
     EXPECT_EQ(point_, ZrGePoint3d(1, 2, 3));
 }
 
 TEST_F(Get, RubberBandStartsInWorldCoordinates) {
-    test_.document().drawing().setUcs({.origin = {100, 0, 0}});
+    test_.document().drawing().setUcs(quor::db::Ucs{{100, 0, 0}, ZrGeVector3d::kXAxis, ZrGeVector3d::kYAxis, {}});
     type({L"1,1"});
     const ZrGePoint3d base(5, 0, 0);
     zredGetPoint(&base, L"\nP: ", point_);

@@ -46,7 +46,7 @@ protected:
 };
 
 TEST_F(Jig, TypedPointIsAcceptedInWorldCoordinates) {
-    test_.document().drawing().setUcs({.origin = {100, 0, 0}});
+    test_.document().drawing().setUcs(quor::db::Ucs{{100, 0, 0}, ZrGeVector3d::kXAxis, ZrGeVector3d::kYAxis, {}});
     test_.front().type(L"1,2,3");
     EXPECT_EQ(jig_.drag(), ZrEdJig::kNormal);
     EXPECT_EQ(jig_.point, ZrGePoint3d(101, 2, 3));
