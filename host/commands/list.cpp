@@ -33,7 +33,7 @@ void listCommon(const db::Database& drawing, const ZrDbEntity& entity, Listing& 
     listing.row(texts::kListSpace, spaceText(drawing, *entity.database(), entity.blockId()));
     listing.row(texts::kListLayer, entity.layer());
     listing.row(texts::kListColor, colorText(entity.color()));
-    listing.row(texts::kListLinetype, entity.linetype());
+    listing.row(texts::kListLinetype, linetypeText(entity.linetype()));
     listing.row(texts::kListLineweight, lineweightText(entity.lineWeight()));
     listing.row(texts::kListVisible, yesNoText(entity.visibility() == ZrDb::kVisible));
 }

@@ -1,5 +1,6 @@
 #include "host/commands/listing.h"
 
+#include "host/sys/case_fold.h"
 #include "host/sys/text_width.h"
 #include "host/texts/list.h"
 #include "sdk/db/database.h"
@@ -55,6 +56,12 @@ ZrString colorText(const ZrCmColor& color) {
     if (color.isByLayer())
         return texts::kByLayer.get();
     return color.isByBlock() ? ZrString(texts::kByBlock.get()) : color.colorNameForDisplay();
+}
+
+ZrString linetypeText(const ZrString& name) {
+    if (equalFolded(name, L"ByLayer"))
+        return texts::kByLayer.get();
+    return equalFolded(name, L"ByBlock") ? ZrString(texts::kByBlock.get()) : name;
 }
 
 ZrString lineweightText(int weight) {

@@ -36,6 +36,7 @@ private:
 [[nodiscard]] ZrString numberText(double value);
 [[nodiscard]] ZrString degreesText(double radians);
 [[nodiscard]] ZrString colorText(const ZrCmColor& color);
+[[nodiscard]] ZrString linetypeText(const ZrString& name);
 [[nodiscard]] ZrString lineweightText(int weight);
 [[nodiscard]] ZrString yesNoText(bool yes);
 

@@ -63,7 +63,8 @@ inline constexpr Text kNoUcsPlane{
     L"\n这些点重合或在一条直线上，不能确定坐标系。UCS 未改变；请指定不共线的点。\n",
     L"\nThe points coincide or lie on one line and give no coordinate system. The UCS was not "
     L"changed; give points that are not in line.\n"};
-inline constexpr Text kNoPreviousUcs{L"\n没有上一个 UCS。\n", L"\nThere is no previous UCS.\n"};
+inline constexpr Text kNoPreviousUcs{L"\n没有上一个 UCS，UCS 未改变。\n",
+                                     L"\nThere is no previous UCS; the UCS was not changed.\n"};
 
 // LAYOUT, MODEL, PAPER, MSPACE, PSPACE.
 inline constexpr Text kAskLayout{L"\n输入布局选项 [列出(L)/设置(S)] <设置>: ", L"\nLayout option [List/Set] <Set>: "};

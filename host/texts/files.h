@@ -60,9 +60,9 @@ inline constexpr Text kOpenElsewhere{
     L"close that drawing first.\n"};
 inline constexpr Text kNotQuit{L"\n已取消退出: %s 有未保存的修改。用 SAVE 保存后再用 QUIT 退出。\n",
                                L"\nQUIT was cancelled: %s has unsaved changes. SAVE it, then QUIT.\n"};
-inline constexpr Text kNoSuchDocument{L"\n没有编号或名称为 “%s” 的图形。请输入列表中的编号或名称。\n",
+inline constexpr Text kNoSuchDocument{L"\n没有编号或名称为“%s”的图形。请输入列表中的编号或名称。\n",
                                       L"\nNo open drawing has the number or name \"%s\". Answer one from the list.\n"};
-inline constexpr Text kAmbiguousDocument{L"\n有多个图形名为 “%s”。请输入编号。\n",
+inline constexpr Text kAmbiguousDocument{L"\n有多个图形名为“%s”。请输入编号。\n",
                                          L"\nSeveral drawings are called \"%s\". Answer a number.\n"};
 
 // Releases of the drawing file format.

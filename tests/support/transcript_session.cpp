@@ -188,6 +188,8 @@ TranscriptResult runTranscript(const std::filesystem::path& path, std::string_vi
     result.file = recording.finish();
     replaceAll(result.file, folder.path().string() + "/", "");
     replaceAll(result.file, home.string() + "/", "");
+    if (const std::filesystem::path project = resourcesAbove(home).parent_path(); !project.empty())
+        replaceAll(result.file, project.string() + "/", "");
     return result;
 }
 

@@ -174,7 +174,7 @@ TEST_F(FileCommands, CloseWithYesSavesFirst) {
     host.run({L"CLOSE", L"Y"});
 
     EXPECT_TRUE(host.session().documents().all().empty());
-    EXPECT_NE(contentOf(file("a.dxf")).find("AcDbLine"), std::string::npos);
+    EXPECT_NE(contentOf(file("a.dxf")).find("AcDbLine\n"), std::string::npos);
 }
 
 TEST_F(FileCommands, CloseWithNoLeavesTheFile) {
@@ -184,7 +184,7 @@ TEST_F(FileCommands, CloseWithNoLeavesTheFile) {
     host.run({L"CLOSE", L"N"});
 
     EXPECT_TRUE(host.session().documents().all().empty());
-    EXPECT_EQ(contentOf(file("a.dxf")).find("AcDbLine"), std::string::npos);
+    EXPECT_EQ(contentOf(file("a.dxf")).find("AcDbLine\n"), std::string::npos);
 }
 
 TEST_F(FileCommands, CloseWithEscKeepsTheDrawing) {

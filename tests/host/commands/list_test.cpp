@@ -1,0 +1,99 @@
+#include "host/sys/system_variables.h"
+#include "sdk/db/light.h"
+#include "sdk/rx/command.h"
+#include "tests/support/test_session.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace quor {
+
+namespace {
+
+class ListOfALight : public ::testing::Test {
+protected:
+    // Lists a light after `change` was made to it.
+    template <class Change>
+    void list(Change&& change) {
+        auto light = std::make_unique<ZrDbLight>();
+        light->setName(L"lamp");
+        change(*light);
+        ASSERT_FALSE(RxCommand::postToDb(*light, nullptr, nullptr, true).isNull());
+        static_cast<void>(light.release()); // the drawing's now
+        host.run({L"LIST", L"ALL", L""});
+    }
+
+    static void illuminance(ZrDbLight& light) {
+        light.setPhysicalIntensityMethod(PhysicalIntensityMethod::kIlluminance);
+        light.setPhysicalIntensity(40);
+    }
+
+    test::TestSession host{{.language = L"en"}};
+};
+
+TEST_F(ListOfALight, ShowsIlluminanceInLux) {
+    list(illuminance);
+
+    EXPECT_TRUE(host.front().shows(L"40 lx (illuminance)"));
+}
+
+TEST_F(ListOfALight, ShowsIlluminanceInFootCandlesWithAmericanUnits) {
+    ASSERT_EQ(host.session().variables().set(L"LIGHTINGUNITS", short{1}), sys::SetResult::Ok);
+
+    list(illuminance);
+
+    EXPECT_TRUE(host.front().shows(L"40 fc (illuminance)"));
+}
+
+TEST_F(ListOfALight, ShowsFluxInLumen) {
+    list([](ZrDbLight& light) { light.setPhysicalIntensityMethod(PhysicalIntensityMethod::kFlux); });
+
+    EXPECT_TRUE(host.front().shows(L"1500 lm (flux)"));
+}
+
+TEST_F(ListOfALight, ShowsTheConeOfSpotLightsOnly) {
+    list([](ZrDbLight& light) { light.setLightType(DrawableType::kPointLight); });
+
+    EXPECT_TRUE(host.front().shows(L"point light"));
+    EXPECT_FALSE(host.front().shows(L"Hotspot"));
+}
+
+TEST_F(ListOfALight, ShowsTheWebOfWebLights) {
+    list([](ZrDbLight& light) {
+        light.setLightType(DrawableType::kWebLight);
+        light.setWebFile(L"lamps/down.ies");
+        light.setWebRotation({0, 90, 0});
+    });
+
+    EXPECT_TRUE(host.front().shows(L"web light"));
+    EXPECT_TRUE(host.front().shows(L"lamps/down.ies"));
+    EXPECT_TRUE(host.front().shows(L"X=0  Y=90  Z=0"));
+}
+
+TEST_F(ListOfALight, ShowsShadowsThatAreOffWithTheirKind) {
+    list([](ZrDbLight& light) {
+        ZrGiShadowParameters shadows;
+        shadows.setShadowsOn(false);
+        shadows.setShadowType(ZrGiShadowParameters::kShadowMaps);
+        light.setShadowParameters(shadows);
+    });
+
+    EXPECT_TRUE(host.front().shows(L"off (soft mapped)"));
+}
+
+TEST_F(ListOfALight, ShowsLampTemperatureAndPresetBoth) {
+    list([](ZrDbLight& light) {
+        light.setLampColorType(LampColorType::kKelvin);
+        light.setLampColorTemp(2700);
+        light.setLampColorPreset(LampColorPreset::kHalogen);
+    });
+
+    EXPECT_TRUE(host.front().shows(L"by temperature"));
+    EXPECT_TRUE(host.front().shows(L"halogen"));
+    EXPECT_TRUE(host.front().shows(L"2700 K"));
+}
+
+} // namespace
+
+} // namespace quor
