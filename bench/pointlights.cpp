@@ -18,10 +18,12 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+// Every light is given a name: default names end in a 16-bit number, so that a drawing has 65,536 of them at most.
 std::string lightScript(std::size_t first, std::size_t count) {
     std::string script;
     for (std::size_t i = first; i < first + count; ++i)
-        script += "POINTLIGHT " + std::to_string(i % 1000) + "," + std::to_string(i / 1000) + ",3 X\n";
+        script += "POINTLIGHT " + std::to_string(i % 1000) + "," + std::to_string(i / 1000) + ",3 N\nLamp " +
+                  std::to_string(i) + "\nX\n";
     return script;
 }
 
