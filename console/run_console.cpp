@@ -7,6 +7,7 @@
 #include "console/signals.h"
 #include "console/typing_stage.h"
 #include "host/rx/module_loader.h"
+#include "host/sys/system_error.h"
 #include "host/sys/utf8.h"
 #include "host/texts/console.h"
 
@@ -19,6 +20,13 @@ namespace {
 namespace words = texts::console;
 
 constexpr const wchar_t* kUsualModule = L"light";
+
+// A file as people name files, seen from where they are; other names are looked up in the module folders.
+ZrString moduleName(const std::string& given) {
+    std::error_code problem;
+    const bool isHere = std::filesystem::is_regular_file(given, problem);
+    return fromUtf8(isHere ? std::filesystem::absolute(given, problem).native() : given);
+}
 
 // One run; each stage answers kSuccess or the status with which the run ends.
 class Stages {
@@ -48,7 +56,7 @@ private:
     int loadModules() {
         std::vector<ZrString> modules;
         for (const std::string& module : options_.modules)
-            modules.push_back(fromUtf8(module));
+            modules.push_back(moduleName(module));
         const bool isUsual = modules.empty();
         if (isUsual)
             modules.emplace_back(kUsualModule);
@@ -80,7 +88,7 @@ private:
     int outputStatus() {
         if (output_.error() == 0 || output_.error() == EPIPE)
             return kSuccess;
-        report_(fill(words::kOutputBroken, fromUtf8(std::generic_category().message(output_.error()))));
+        report_(fill(words::kOutputBroken, systemErrorText(output_.error())));
         return kCommandFailed;
     }
 

@@ -33,7 +33,7 @@ Database::Database(dxf::Image image, dxf::Layout layout, bool isNew)
     for (const dxf::Error& problem : file_.layout().problems)
         problems_.push_back(describeProblem(problem));
     if (const std::size_t more = file_.layout().problemCount - file_.layout().problems.size(); more > 0)
-        problems_.push_back(fill(texts::moreProblems, more));
+        problems_.push_back(fill(texts::kMoreFileProblems, more));
 }
 
 Database::~Database() {

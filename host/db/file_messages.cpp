@@ -1,9 +1,8 @@
 #include "host/db/file_messages.h"
 
+#include "host/sys/system_error.h"
 #include "host/sys/utf8.h"
 #include "host/texts/drawing_files.h"
-
-#include <system_error>
 
 namespace quor::db {
 
@@ -12,72 +11,70 @@ namespace {
 using Kind = dxf::Error::Kind;
 
 ZrString place(const dxf::Error& error) {
-    return error.binary || error.line == 0 ? fill(texts::atOffset, error.offset) : fill(texts::atLine, error.line);
+    return error.binary || error.line == 0 ? fill(texts::kAtOffset, error.offset) : fill(texts::kAtLine, error.line);
 }
 
 } // namespace
 
 ZrString pathText(const std::filesystem::path& path) { return fromUtf8(path.native()); }
 
-ZrString systemMessage(int number) { return fromUtf8(std::generic_category().message(number)); }
-
 ZrString describe(const dxf::Error& error, const ZrString& file) {
     switch (error.kind) {
     case Kind::CannotOpen:
-        return fill(texts::cannotOpenDrawing, file, systemMessage(error.systemError));
+        return fill(texts::kCannotOpenDrawing, file, systemErrorText(error.systemError));
     case Kind::Unreadable:
-        return fill(texts::cannotReadDrawing, file, systemMessage(error.systemError));
+        return fill(texts::kCannotReadDrawing, file, systemErrorText(error.systemError));
     case Kind::Empty:
-        return fill(texts::emptyDrawing, file);
+        return fill(texts::kEmptyDrawing, file);
     case Kind::NotDxf:
-        return fill(texts::notADrawing, file, place(error));
+        return fill(texts::kNotADrawing, file, place(error));
     case Kind::BadGroupCode:
-        return fill(texts::badGroupCode, file, place(error), error.excerpt);
+        return fill(texts::kBadGroupCode, file, place(error), error.excerpt);
     case Kind::MissingValue:
-        return fill(texts::missingValue, file, place(error), error.excerpt);
+        return fill(texts::kMissingValue, file, place(error), error.excerpt);
     case Kind::SectionWithoutEnd:
-        return fill(texts::sectionWithoutEnd, file, place(error), error.excerpt);
+        return fill(texts::kSectionWithoutEnd, file, place(error), error.excerpt);
     case Kind::RecordTooLong:
-        return fill(texts::recordTooLong, file, place(error));
+        return fill(texts::kRecordTooLong, file, place(error));
     case Kind::NoEnd:
     case Kind::BinaryTruncated:
         break;
     }
-    return fill(texts::noEndOfFile, file, place(error));
+    return fill(texts::kNoEndOfFile, file, place(error));
 }
 
 ZrString describeProblem(const dxf::Error& error) {
     switch (error.kind) {
     case Kind::BadGroupCode:
-        return fill(texts::problemBadGroupCode, place(error), error.excerpt);
+        return fill(texts::kProblemBadGroupCode, place(error), error.excerpt);
     case Kind::MissingValue:
-        return fill(texts::problemMissingValue, place(error), error.excerpt);
+        return fill(texts::kProblemMissingValue, place(error), error.excerpt);
     case Kind::NoEnd:
     case Kind::BinaryTruncated:
-        return fill(texts::problemNoEnd, place(error));
+        return fill(texts::kProblemNoEnd, place(error));
     case Kind::SectionWithoutEnd:
-        return fill(texts::problemSectionWithoutEnd, place(error), error.excerpt);
+        return fill(texts::kProblemSectionWithoutEnd, place(error), error.excerpt);
     default:
-        return fill(texts::problemOther, place(error));
+        return fill(texts::kProblemOther, place(error));
     }
 }
 
 ZrString describe(const dxf::SaveError& error, const ZrString& file) {
-    const ZrString why = systemMessage(error.systemError);
+    const ZrString why = systemErrorText(error.systemError);
     switch (error.step) {
     case dxf::SaveStep::Target:
-        return fill(texts::cannotSaveTarget, file, why);
+        return fill(texts::kCannotSaveTarget, file, why);
     case dxf::SaveStep::CreateTemp:
-        return fill(texts::cannotSaveTemp, file, why);
+        return fill(texts::kCannotSaveTemp, file, why);
     case dxf::SaveStep::Backup:
-        return fill(texts::cannotSaveBackup, file, why);
+        return fill(texts::kCannotSaveBackup, file, why);
     case dxf::SaveStep::Replace:
-        return fill(texts::cannotSaveReplace, file, why);
+        return fill(texts::kCannotSaveReplace, file, why);
     case dxf::SaveStep::Write:
     case dxf::SaveStep::Sync:
         break;
     }
-    return fill(texts::cannotSaveWrite, file, why);
+    return fill(texts::kCannotSaveWrite, file, why);
 }
 
 } // namespace quor::db

@@ -14,7 +14,5 @@ namespace quor::db {
 // A lesser problem of a recovered drawing.
 [[nodiscard]] ZrString describeProblem(const dxf::Error& error);
 [[nodiscard]] ZrString pathText(const std::filesystem::path& path);
-// The system's own words for an error number.
-[[nodiscard]] ZrString systemMessage(int number);
 
 } // namespace quor::db

@@ -25,7 +25,7 @@ public:
         for (ObjectEntry* entry : database_.objects().touched())
             collect(*entry);
         if (lights_ > 0 && file_.version() < kFirstWithLights)
-            return fail(FileProblem{fill(texts::versionHoldsNoLights, name, file_.versionName())});
+            return fail(FileProblem{fill(texts::kVersionHoldsNoLights, name, file_.versionName())});
         SettingsToSave settings(database_, sections_);
         settings.collect(patches_, highestHandle_);
         settings.countLights(patches_, lightChange_);

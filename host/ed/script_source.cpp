@@ -1,5 +1,6 @@
 #include "host/ed/script_source.h"
 
+#include "host/sys/system_error.h"
 #include "host/sys/utf8.h"
 #include "host/texts/input.h"
 
@@ -42,7 +43,7 @@ Result<std::unique_ptr<ScriptSource>, ZrString> ScriptSource::open(const std::fi
     std::ifstream file(path, std::ios::binary);
     std::string text{std::istreambuf_iterator<char>(file), {}};
     if (!file.is_open() || file.bad())
-        return fail(fill(texts::kScriptUnreadable, name, fromUtf8(std::generic_category().message(errno))));
+        return fail(fill(texts::kScriptUnreadable, name, systemErrorText(errno)));
     return std::make_unique<ScriptSource>(std::move(text), fromUtf8(path.filename().string()));
 }
 

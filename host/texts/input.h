@@ -54,6 +54,7 @@ inline constexpr Text kFoundTotal{L"\n找到 %d 个，总计 %d 个\n", L"\n%d f
 inline constexpr Text kFoundDuplicates{L"\n找到 %d 个 (%d 个重复)，总计 %d 个\n",
                                        L"\n%d found (%d duplicate), %d total\n"};
 inline constexpr Text kFoundRemoved{L"\n找到 %d 个，删除 %d 个，总计 %d 个\n", L"\n%d found, %d removed, %d total\n"};
+inline constexpr Text kSelectionUndone{L"\n已放弃上一步，总计 %d 个\n", L"\nLast step undone, %d total\n"};
 inline constexpr Text kNothingToUndo{L"\n没有可放弃的选择。\n", L"\nNothing to undo.\n"};
 inline constexpr Text kBadSelection{
     L"\n选择无效。可输入点或 上一个(L)/前一个(P)/全部(ALL)/窗口(W)/添加(A)/删除(R)/"
