@@ -51,8 +51,9 @@ void Document::setPath(std::filesystem::path path) { path_ = std::move(path); }
 
 DocumentManager::DocumentManager() = default;
 
-// The last one that was opened goes first.
-DocumentManager::~DocumentManager() {
+DocumentManager::~DocumentManager() { closeAll(); }
+
+void DocumentManager::closeAll() {
     while (!documents_.empty())
         close(*documents_.back());
 }

@@ -56,6 +56,8 @@ public:
     void setCurrent(Document* document);
     // Closes without asking; the next document becomes current.
     void close(Document& document);
+    // The last one that was opened goes first.
+    void closeAll();
 
     [[nodiscard]] Document* current() const { return current_; }
     [[nodiscard]] const std::vector<std::unique_ptr<Document>>& all() const { return documents_; }

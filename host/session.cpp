@@ -60,9 +60,10 @@ Session::Session(FrontEnd& front, SessionOptions options) : front_(front) {
     registerHostCommands(*this);
 }
 
-// Modules go first and may use everything else while they do.
+// Modules go first, then the drawings; both may use everything else while they do.
 Session::~Session() {
     modules_.reset();
+    documents_->closeAll();
     processor_.reset();
     commands_.reset();
     inputState_.reset();

@@ -61,6 +61,7 @@ public:
             else if (members_.insert(id).second)
                 order_.push_back(id);
         dropStrangers();
+        say(texts::kSelectionUndone, order_.size());
     }
 
     [[nodiscard]] const ZrDbObjectIdArray& ids() const { return order_; }
