@@ -36,10 +36,7 @@ Database::Database(dxf::Image image, dxf::Layout layout, bool isNew)
         problems_.push_back(fill(texts::kMoreFileProblems, more));
 }
 
-Database::~Database() {
-    for (ZrDbDatabaseReactor* reactor : std::vector(journal_.reactors()))
-        reactor->goodbye(*interface_);
-}
+Database::~Database() { journal_.sayGoodbye(); }
 
 std::unique_ptr<Database> Database::makeNew() {
     dxf::Image image = dxf::Image::fromBytes(newDrawing());

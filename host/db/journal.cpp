@@ -57,17 +57,25 @@ void Journal::markSaved() { savedNumber_ = undo_.empty() ? 0 : undo_.back().numb
 
 void Journal::addReactor(ZrDbDatabaseReactor* reactor) { reactors_.push_back(reactor); }
 
-void Journal::removeReactor(ZrDbDatabaseReactor* reactor) { std::erase(reactors_, reactor); }
+void Journal::removeReactor(ZrDbDatabaseReactor* reactor) {
+    if (telling_ > 0)
+        std::replace(reactors_.begin(), reactors_.end(), reactor, static_cast<ZrDbDatabaseReactor*>(nullptr));
+    else
+        std::erase(reactors_, reactor);
+}
 
 template <class... Parameters, class... Arguments>
 void Journal::tell(void (ZrDbDatabaseReactor::*message)(Parameters...), Arguments&&... arguments) {
-    // A listener may leave while it is told.
-    if (reactors_.empty())
-        return;
-    for (ZrDbDatabaseReactor* reactor : std::vector(reactors_))
-        if (std::find(reactors_.begin(), reactors_.end(), reactor) != reactors_.end())
-            (reactor->*message)(database_.interface(), arguments...);
+    // Listeners may come and go while they are told.
+    ++telling_;
+    for (std::size_t i = 0; i < reactors_.size(); ++i)
+        if (reactors_[i] != nullptr)
+            (reactors_[i]->*message)(database_.interface(), arguments...);
+    if (--telling_ == 0)
+        std::erase(reactors_, nullptr);
 }
+
+void Journal::sayGoodbye() { tell(&ZrDbDatabaseReactor::goodbye); }
 
 void Journal::record(Change change) {
     const bool alone = !isOpen();

@@ -42,7 +42,8 @@ public:
 
     void addReactor(ZrDbDatabaseReactor* reactor);
     void removeReactor(ZrDbDatabaseReactor* reactor);
-    [[nodiscard]] const std::vector<ZrDbDatabaseReactor*>& reactors() const { return reactors_; }
+    // The drawing is about to go.
+    void sayGoodbye();
 
     // For host/db: records what is about to happen or happened. Listeners are told by announce(), when the object is
     // closed.
@@ -96,7 +97,8 @@ private:
     std::size_t nextNumber_ = 1;
     std::size_t savedNumber_ = 0; // number of the group on top when the drawing was saved
     std::uint32_t serial_ = 0;    // of the open group, to tell what it keeps already
-    std::vector<ZrDbDatabaseReactor*> reactors_;
+    std::vector<ZrDbDatabaseReactor*> reactors_; // null: left while listeners were being told
+    int telling_ = 0;
 };
 
 } // namespace quor::db

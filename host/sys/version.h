@@ -3,7 +3,7 @@
 
 namespace quor::sys {
 
-// The same as that of the project in CMakeLists.txt.
-inline constexpr const wchar_t* kVersion = L"0.1.0";
+// The version of the project as the build knows it.
+inline constexpr const wchar_t* kVersion = L"" QUOR_VERSION;
 
 } // namespace quor::sys
