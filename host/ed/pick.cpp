@@ -58,11 +58,12 @@ ZrDbObjectIdArray entitiesAt(const Document& document, const ZrGePoint3d& point)
 }
 
 ZrDbObjectIdArray entitiesInWindow(const Document& document, const ZrGePoint3d& a, const ZrGePoint3d& b) {
-    const auto [left, right] = std::minmax(a.x, b.x);
-    const auto [bottom, top] = std::minmax(a.y, b.y);
+    const auto between = [](double value, double one, double other) {
+        return value >= std::min(one, other) && value <= std::max(one, other);
+    };
     const auto inside = [&](const ZrGePoint3d& world) {
         const ZrGePoint3d p = zrdbWcs2Ucs(world);
-        return p.x >= left && p.x <= right && p.y >= bottom && p.y <= top;
+        return between(p.x, a.x, b.x) && between(p.y, a.y, b.y);
     };
     ZrDbObjectIdArray found;
     for (const ZrDbObjectId id : entitiesOfCurrentSpace(document)) {
