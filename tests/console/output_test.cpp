@@ -1,0 +1,81 @@
+#include "console/output.h"
+
+#include <cerrno>
+#include <gtest/gtest.h>
+
+namespace quor::console {
+namespace {
+
+class OutputTest : public testing::Test {
+protected:
+    Output make(bool quiet = false) {
+        return Output(
+            [this](std::string_view bytes) {
+                ++writes_;
+                screen_ += bytes;
+                return error_;
+            },
+            quiet);
+    }
+    std::string screen_;
+    int writes_ = 0;
+    int error_ = 0;
+};
+
+TEST_F(OutputTest, TextWithALeadingLineBreakStartsOnAFreshLine) {
+    Output output = make();
+    output.print(L"\n命令: ");
+    output.answer(L"LIST");
+    output.print(L"\n找到 1 个");
+    output.print(L"\n命令: ");
+    output.flush();
+    EXPECT_EQ(screen_, "命令: LIST\n找到 1 个\n命令: ");
+}
+
+TEST_F(OutputTest, NothingIsWrittenBeforeSomebodyWaits) {
+    Output output = make();
+    output.print(L"a\n");
+    EXPECT_EQ(writes_, 0);
+    output.flush();
+    EXPECT_EQ(writes_, 1);
+}
+
+TEST_F(OutputTest, FullBufferIsWrittenUpToItsLastWholeLine) {
+    Output output = make();
+    output.print(L"first line\n" + ZrString(70000, L'x'));
+    EXPECT_EQ(screen_, "first line\n");
+    EXPECT_TRUE(output.isAtLineStart());
+    output.flush();
+    EXPECT_EQ(screen_.size(), 11u + 70000u);
+    EXPECT_FALSE(output.isAtLineStart());
+}
+
+TEST_F(OutputTest, QuietOutputWritesNothing) {
+    Output output = make(true);
+    output.print(L"a");
+    output.answer(L"b");
+    output.freshLine();
+    output.flush();
+    EXPECT_EQ(writes_, 0);
+}
+
+TEST_F(OutputTest, AfterAnErrorNothingMoreIsWritten) {
+    Output output = make();
+    error_ = EPIPE;
+    output.print(L"a");
+    output.flush();
+    output.print(L"b");
+    output.flush();
+    EXPECT_EQ(output.error(), EPIPE);
+    EXPECT_EQ(writes_, 1);
+}
+
+TEST_F(OutputTest, InvalidBytesComeOutAsTheyWentIn) {
+    Output output = make();
+    output.print(L"a\xDCFF");
+    output.flush();
+    EXPECT_EQ(screen_, "a\xFF");
+}
+
+} // namespace
+} // namespace quor::console

@@ -1,0 +1,142 @@
+// A person at a real terminal: quorc on the other end of a pseudo-terminal.
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <poll.h>
+#include <pty.h>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kUp = "\x1b[A";
+constexpr const char* kCtrlC = "\x03";
+constexpr const char* kCtrlD = "\x04";
+
+class TerminalTest : public testing::Test {
+protected:
+    void SetUp() override {
+        fs::create_directories(home_);
+        winsize size{};
+        size.ws_row = 24;
+        size.ws_col = 80;
+        child_ = forkpty(&terminal_, nullptr, nullptr, &size);
+        ASSERT_GE(child_, 0);
+        if (child_ == 0)
+            becomeQuorc();
+    }
+    void TearDown() override {
+        if (child_ > 0)
+            kill(child_, SIGKILL);
+        if (child_ > 0 && !ended_)
+            waitpid(child_, nullptr, 0);
+        close(terminal_);
+        fs::remove_all(home_);
+    }
+
+    [[noreturn]] void becomeQuorc() const {
+        setenv("HOME", home_.c_str(), 1);
+        setenv("TERM", "xterm", 1);
+        unsetenv("XDG_STATE_HOME");
+        unsetenv("XDG_CONFIG_HOME");
+        execl(QUOR_BUILD_DIR "/bin/quorc", "quorc", "--lang", "zh", static_cast<char*>(nullptr));
+        _exit(127);
+    }
+
+    void type(const std::string& keys) { ASSERT_EQ(write(terminal_, keys.data(), keys.size()), ssize_t(keys.size())); }
+
+    // Waits until the screen has shown the text after what was seen before.
+    bool shows(const std::string& text) {
+        while (screen_.find(text, seen_) == std::string::npos)
+            if (!readMore())
+                return false;
+        seen_ = screen_.find(text, seen_) + text.size();
+        return true;
+    }
+
+    bool readMore() {
+        pollfd waiting{terminal_, POLLIN, 0};
+        if (poll(&waiting, 1, 20000) <= 0)
+            return false;
+        char bytes[4096];
+        const ssize_t count = read(terminal_, bytes, sizeof bytes);
+        screen_.append(bytes, count > 0 ? static_cast<std::size_t>(count) : 0);
+        return count > 0;
+    }
+
+    int exitStatus() {
+        while (readMore())
+            ;
+        int status = -1;
+        waitpid(child_, &status, 0);
+        ended_ = true;
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+    fs::path home_ = fs::temp_directory_path() / ("quor-terminal-" + std::to_string(getpid()));
+    pid_t child_ = -1;
+    int terminal_ = -1;
+    bool ended_ = false;
+    std::string screen_;
+    std::size_t seen_ = 0;
+};
+
+TEST_F(TerminalTest, TabCompletesACommandAndEnterRunsIt) {
+    ASSERT_TRUE(shows("命令: "));
+    type("LAYO\t\n");
+    EXPECT_TRUE(shows("LAYOUT")) << screen_;
+    type(kCtrlC);
+    EXPECT_TRUE(shows("*取消*")) << screen_;
+}
+
+TEST_F(TerminalTest, TabListsWhatIsPossible) {
+    ASSERT_TRUE(shows("命令: "));
+    type("SAV\t\t");
+    EXPECT_TRUE(shows("SAVEAS")) << screen_;
+}
+
+TEST_F(TerminalTest, CtrlCCancelsACommandAndTheSessionGoesOn) {
+    ASSERT_TRUE(shows("命令: "));
+    type("LINE 0,0\n");
+    ASSERT_TRUE(shows("指定下一点")) << screen_;
+    type(kCtrlC);
+    ASSERT_TRUE(shows("命令: ")) << screen_;
+    type("NOSUCH\n");
+    EXPECT_TRUE(shows("未知命令“NOSUCH”")) << screen_;
+}
+
+TEST_F(TerminalTest, UpArrowBringsBackTheLastLine) {
+    ASSERT_TRUE(shows("命令: "));
+    type("不存在\n");
+    ASSERT_TRUE(shows("未知命令“不存在”")) << screen_;
+    ASSERT_TRUE(shows("命令: "));
+    type(std::string(kUp) + "\n");
+    EXPECT_TRUE(shows("未知命令“不存在”")) << screen_;
+
+    std::ifstream file(home_ / ".local/state/quor/history");
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), "不存在\n");
+}
+
+TEST_F(TerminalTest, CtrlDEndsAnUnchangedDrawingAtOnce) {
+    ASSERT_TRUE(shows("命令: "));
+    type(kCtrlD);
+    EXPECT_EQ(exitStatus(), 0);
+}
+
+TEST_F(TerminalTest, CtrlDWithUnsavedChangesWarnsOnce) {
+    ASSERT_TRUE(shows("命令: "));
+    type("LINE 0,0 1,1 \n");
+    ASSERT_TRUE(shows("命令: ")) << screen_;
+    type(kCtrlD);
+    ASSERT_TRUE(shows("未保存的更改")) << screen_;
+    ASSERT_TRUE(shows("命令: ")) << screen_;
+    type(kCtrlD);
+    EXPECT_EQ(exitStatus(), 0);
+}
+
+} // namespace
