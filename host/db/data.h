@@ -25,8 +25,8 @@ struct Cloned : Base {
 
 struct ZrDbEntityData : quor::db::Cloned<ZrDbEntityData, ZrDbObjectData> {
     quor::db::ObjectEntry* layer = nullptr;
-    ZrString missingLayer; // the name in the file when the table has no such layer
-    ZrString linetype;     // empty: by layer
+    ZrString missingLayer = L"0"; // the name in the file when the table has no such layer
+    ZrString linetype;            // empty: by layer
     ZrCmColor color;
     int lineWeight = -1;
     bool visible = true;

@@ -111,12 +111,12 @@ Quor::ErrorStatus Database::openObject(ZrDbObject*& object, ObjectEntry& entry, 
 }
 
 void Database::closeObject(ObjectEntry& entry) {
-    if (!entry.writing) {
+    if (entry.writing) {
+        entry.writing = false;
+        journal_.announce(entry);
+    } else if (entry.readers > 0) {
         --entry.readers;
-        return;
     }
-    entry.writing = false;
-    journal_.announce(entry);
 }
 
 ObjectEntry& Database::adopt(std::unique_ptr<ZrDbObject> object, ObjectEntry& entry) {
@@ -150,6 +150,9 @@ ObjectEntry& Database::appendEntity(Block& block, std::unique_ptr<ZrDbEntity> en
 
 ObjectEntry& Database::addLayer(std::unique_ptr<ZrDbLayerTableRecord> layer) {
     SymbolTable& table = layers_.table();
+    // A table that is new in the drawing is written with its first layer.
+    if (table.entry->handle == 0)
+        table.entry->handle = objects_.takeHandles(1);
     ObjectEntry& entry = objects_.add(objects_.takeHandles(1), ObjectKind::TableRecord);
     entry.type = file_.typeNumber("LAYER");
     entry.owner = table.entry;

@@ -3,6 +3,7 @@
 
 #include "host/db/data.h"
 #include "host/db/saver.h"
+#include "host/db/versions.h"
 
 #include <utility>
 
@@ -11,7 +12,6 @@ namespace quor::db {
 namespace {
 
 constexpr int kDefaultLightingCode = 292;
-constexpr int kFirstWithDefaultLighting = 1021;
 
 struct UcsNames {
     const wchar_t* origin;
@@ -75,7 +75,8 @@ void Database::setDefaultLighting(bool on) {
 }
 
 std::optional<bool> Database::defaultLightingToSave() {
-    const bool hasPlace = file_.version() >= kFirstWithDefaultLighting && structure_.activeViewport() != nullptr;
+    const bool hasPlace =
+        file_.version() >= versions::kFirstWithDefaultLighting && structure_.activeViewport() != nullptr;
     return hasPlace && defaultLighting_ && *defaultLighting_ != defaultLightingInFile() ? defaultLighting_
                                                                                         : std::nullopt;
 }

@@ -1,18 +1,18 @@
 #include "host/db/drawing_file.h"
 
+#include "host/db/versions.h"
 #include "host/sys/utf8.h"
 
 namespace quor::db {
 
 namespace {
 
-constexpr int kOldestVersion = 1009;
 constexpr int kFirstExtendedData = 1000;
 
 int versionNumber(std::string_view name) {
     if (name.size() != 6 || !name.starts_with("AC"))
-        return kOldestVersion;
-    return static_cast<int>(dxf::parseInt(name.substr(2)).value_or(kOldestVersion));
+        return versions::kOldest;
+    return static_cast<int>(dxf::parseInt(name.substr(2)).value_or(versions::kOldest));
 }
 
 } // namespace

@@ -22,6 +22,8 @@ ZrDbObjectId ZrDbEntity::layerId() const { return ZrDbObjectId(entityData().laye
 Quor::ErrorStatus ZrDbEntity::setLayer(ZrDbObjectId layer, bool /*doSubents*/, bool allowHiddenLayer) {
     if (layer.isNull() || layer.isErased())
         return Quor::eInvalidLayer;
+    if (database() != nullptr && layer.database() != database())
+        return Quor::eWrongDatabase;
     const ZrDbObjectPointer<ZrDbLayerTableRecord> record(layer, ZrDb::kForRead);
     // A layer that is being made is open for write; its hidden flag can be read all the same.
     const auto* open = record ? record.object() : zrrxCast<ZrDbLayerTableRecord>(layer.entry()->object.get());

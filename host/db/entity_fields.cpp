@@ -15,6 +15,7 @@ namespace {
 using Entity = ZrDbEntityData;
 
 constexpr int kByLayerWeight = -1;
+constexpr int kFirstWithTrueColor = 1018; // older files keep the nearest numbered colour only
 
 // A colour-book colour as one text, the book before the last dollar sign.
 std::optional<std::wstring> bookText(const ZrCmColor& color) {
@@ -78,9 +79,10 @@ void readTrueColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext
                                       static_cast<std::uint8_t>(*rgb));
 }
 
-FieldValue writeTrueColor(const ZrDbObjectData& data, const FieldContext&) {
+FieldValue writeTrueColor(const ZrDbObjectData& data, const FieldContext& context) {
     const ZrCmColor& color = as<Entity>(data).color;
-    return color.isByColor() ? FieldValue(std::int64_t{color.rgb()}) : FieldValue();
+    return color.isByColor() && context.version >= kFirstWithTrueColor ? FieldValue(std::int64_t{color.rgb()})
+                                                                       : FieldValue();
 }
 
 void readBookColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext& context) {
@@ -89,9 +91,9 @@ void readBookColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext
         (void)as<Entity>(data).color.setNames(text.substr(dollar + 1), text.substr(0, dollar));
 }
 
-FieldValue writeBookColor(const ZrDbObjectData& data, const FieldContext&) {
+FieldValue writeBookColor(const ZrDbObjectData& data, const FieldContext& context) {
     const auto text = bookText(as<Entity>(data).color);
-    return text ? FieldValue(*text) : FieldValue();
+    return text && context.version >= kFirstWithTrueColor ? FieldValue(*text) : FieldValue();
 }
 
 constexpr std::array kEntityFields{

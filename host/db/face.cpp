@@ -1,8 +1,7 @@
 #include "sdk/db/face.h"
 
 #include "host/db/data.h"
-
-#include <cmath>
+#include "host/db/finite.h"
 
 namespace {
 
@@ -35,7 +34,7 @@ Quor::ErrorStatus ZrDbFace::getVertexAt(int index, ZrGePoint3d& vertex) const {
 Quor::ErrorStatus ZrDbFace::setVertexAt(int index, const ZrGePoint3d& vertex) {
     if (!isCorner(index))
         return Quor::eInvalidIndex;
-    if (!std::isfinite(vertex.x) || !std::isfinite(vertex.y) || !std::isfinite(vertex.z))
+    if (!quor::db::isFinite(vertex))
         return Quor::eInvalidInput;
     if (const Quor::ErrorStatus status = aboutToModify(); status != Quor::eOk)
         return status;

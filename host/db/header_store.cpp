@@ -20,9 +20,10 @@ std::optional<HeaderStore::Variable> readValue(const DrawingFile& file, const dx
         ZrGePoint3d point{first, 0, 0};
         if (reader.next(tag))
             point.y = tag.asDouble().value_or(0);
-        if (reader.next(tag))
+        const bool flat = !reader.next(tag);
+        if (!flat)
             point.z = tag.asDouble().value_or(0);
-        return HeaderStore::Variable{code, point};
+        return HeaderStore::Variable{code, point, flat};
     }
     case dxf::ValueKind::Int16:
     case dxf::ValueKind::Int32:
@@ -32,6 +33,16 @@ std::optional<HeaderStore::Variable> readValue(const DrawingFile& file, const dx
     default:
         return HeaderStore::Variable{code, file.text(tag)};
     }
+}
+
+void writePoint(dxf::TagWriter& writer, const HeaderStore::Variable& variable, const ZrGePoint3d& point) {
+    constexpr int kNextCoordinate = 10;
+    if (!variable.flat) {
+        writer.point(variable.code, point.x, point.y, point.z);
+        return;
+    }
+    writer.real(variable.code, point.x);
+    writer.real(variable.code + kNextCoordinate, point.y);
 }
 
 } // namespace
@@ -67,7 +78,7 @@ std::map<ZrString, HeaderStore::Variable> HeaderStore::changed() const {
     for (const auto& [name, variable] : set_) {
         const std::optional<Variable> original = inFile(name);
         if (!original || original->value != variable.value)
-            different.emplace(name, original ? Variable{original->code, variable.value} : variable);
+            different.emplace(name, original ? Variable{original->code, variable.value, original->flat} : variable);
     }
     return different;
 }
@@ -81,8 +92,8 @@ void HeaderStore::write(dxf::TagWriter& writer, const dxf::TextCodec& codec, con
         writer.real(variable.code, *real);
     else if (const auto* text = std::get_if<ZrString>(&variable.value))
         writer.text(variable.code, codec.encode(*text));
-    else if (const auto& point = std::get<ZrGePoint3d>(variable.value); true)
-        writer.point(variable.code, point.x, point.y, point.z);
+    else
+        writePoint(writer, variable, std::get<ZrGePoint3d>(variable.value));
 }
 
 } // namespace quor::db

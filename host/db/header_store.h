@@ -18,6 +18,7 @@ public:
     struct Variable {
         int code; // of the value, or of the first coordinate
         HeaderValue value;
+        bool flat = false; // a point without a third coordinate, as the limits of a drawing
         bool operator==(const Variable&) const = default;
     };
 

@@ -33,18 +33,21 @@ void Journal::rollback() {
 std::optional<ZrString> Journal::undo() {
     if (undo_.empty() || isOpen())
         return std::nullopt;
-    redo_.push_back(std::move(undo_.back()));
+    // A listener may change the drawing while it is told, which clears what could be restored.
+    Group group = std::move(undo_.back());
     undo_.pop_back();
-    apply(redo_.back(), true);
+    apply(group, true);
+    redo_.push_back(std::move(group));
     return redo_.back().name;
 }
 
 std::optional<ZrString> Journal::redo() {
     if (redo_.empty() || isOpen())
         return std::nullopt;
-    undo_.push_back(std::move(redo_.back()));
+    Group group = std::move(redo_.back());
     redo_.pop_back();
-    apply(undo_.back(), false);
+    apply(group, false);
+    undo_.push_back(std::move(group));
     return undo_.back().name;
 }
 
@@ -93,13 +96,15 @@ void Journal::appended(ObjectEntry& entry) {
 }
 
 void Journal::aboutToModify(ObjectEntry& entry) {
-    database_.objects().touch(entry);
-    if (!isOpen() || entry.keptInGroup != serial_) {
+    const bool first = !std::exchange(entry.modifiedInThisOpening, true);
+    if (entry.keptInGroup != serial_ || (first && !isOpen())) {
+        database_.objects().touch(entry);
         record(Modify{&entry, entry.object->hostData()->clone(), entry.changed});
         entry.keptInGroup = serial_;
     }
     entry.changed = true;
-    tell(&ZrDbDatabaseReactor::objectOpenedForModify, *entry.object);
+    if (first)
+        tell(&ZrDbDatabaseReactor::objectOpenedForModify, *entry.object);
 }
 
 void Journal::erased(ObjectEntry& entry, bool erasing) {
@@ -128,6 +133,8 @@ void Journal::settingChanged(const ZrString& name, std::function<void()> exchang
 void Journal::setErased(ObjectEntry& entry, bool erased) {
     entry.erased = erased;
     LightNames::entityErased(entry, erased);
+    if (!erased)
+        database_.layers().cameBack(entry);
 }
 
 void Journal::apply(Group& group, bool undoing) {
@@ -148,8 +155,10 @@ void Journal::applyChange(Append& change, bool undoing) {
 void Journal::applyChange(Modify& change, bool /*undoing*/) {
     ObjectEntry& entry = *change.entry;
     tell(&ZrDbDatabaseReactor::objectOpenedForModify, *entry.object);
-    const LightNames::Renaming renaming(entry);
-    entry.object->hostData().swap(change.other);
+    {
+        const LightNames::Renaming renaming(entry);
+        entry.object->hostData().swap(change.other);
+    }
     std::swap(entry.changed, change.otherChanged);
     tell(&ZrDbDatabaseReactor::objectModified, *entry.object);
 }

@@ -46,7 +46,8 @@ public:
     void sayGoodbye();
 
     // For host/db: records what is about to happen or happened. Listeners are told by announce(), when the object is
-    // closed.
+    // closed. Every change of an object's values calls aboutToModify(): a group may begin, or be rolled back, while the
+    // object is open.
     void appended(ObjectEntry& entry);
     void aboutToModify(ObjectEntry& entry);
     void erased(ObjectEntry& entry, bool erasing);
@@ -95,8 +96,8 @@ private:
     Group open_;
     int depth_ = 0;
     std::size_t nextNumber_ = 1;
-    std::size_t savedNumber_ = 0; // number of the group on top when the drawing was saved
-    std::uint32_t serial_ = 0;    // of the open group, to tell what it keeps already
+    std::size_t savedNumber_ = 0;                // number of the group on top when the drawing was saved
+    std::uint32_t serial_ = 0;                   // of the open group, to tell what it keeps already
     std::vector<ZrDbDatabaseReactor*> reactors_; // null: left while listeners were being told
     int telling_ = 0;
 };

@@ -4,6 +4,7 @@
 #include "host/db/data.h"
 #include "host/db/database.h"
 #include "host/db/layers.h"
+#include "host/db/versions.h"
 
 #include <algorithm>
 #include <array>
@@ -84,9 +85,8 @@ void readTrueColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext
 
 FieldValue writeTrueColor(const ZrDbObjectData& data, const FieldContext& context) {
     const ZrCmColor& color = as<Layer>(data).color;
-    constexpr int kFirstWithTrueColor = 1018;
-    return color.isByColor() && context.version >= kFirstWithTrueColor ? FieldValue(std::int64_t{color.rgb()})
-                                                                       : FieldValue();
+    return color.isByColor() && context.version >= versions::kFirstWithTrueColor ? FieldValue(std::int64_t{color.rgb()})
+                                                                                 : FieldValue();
 }
 
 FieldValue writePlottable(const ZrDbObjectData& data, const FieldContext&) {

@@ -22,6 +22,14 @@ ObjectEntry* Layers::find(std::wstring_view name) const {
     return found == table_.byName.end() || found->second->erased ? nullptr : found->second;
 }
 
+void Layers::cameBack(ObjectEntry& entry) {
+    if (entry.owner != table_.entry)
+        return;
+    ObjectEntry*& named = table_.byName[dataOf(entry).name];
+    if (named == nullptr || named->erased)
+        named = &entry;
+}
+
 ZrString Layers::outsideName(const ObjectEntry& layer) const {
     const ZrDbLayerTableRecordData& data = dataOf(layer);
     return data.hidden ? L"*" + data.name : data.name;

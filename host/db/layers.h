@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/db/structure.h"
+#include "host/db/versions.h"
 #include "sdk/sys/string.h"
 
 namespace quor::db {
@@ -17,6 +18,9 @@ public:
     // The name for group 8 and for the record: files up to AC1018 keep hidden layers without the asterisk.
     [[nodiscard]] ZrString nameInFile(const ObjectEntry& layer) const;
     [[nodiscard]] SymbolTable& table() const { return table_; }
+    // A layer that was erased is there again: its name finds it, unless another layer took the name meanwhile. Other
+    // objects are left alone.
+    void cameBack(ObjectEntry& entry);
 
 private:
     SymbolTable& table_;
@@ -24,6 +28,6 @@ private:
 };
 
 // Whether files of this version mark a hidden layer by an asterisk (AC1021 on), or by being frozen and locked.
-[[nodiscard]] constexpr bool marksHiddenLayers(int version) { return version >= 1021; }
+[[nodiscard]] constexpr bool marksHiddenLayers(int version) { return version >= versions::kFirstWithHiddenLayers; }
 
 } // namespace quor::db

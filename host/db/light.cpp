@@ -2,6 +2,7 @@
 
 #include "host/db/data.h"
 #include "host/db/database.h"
+#include "host/db/finite.h"
 #include "host/db/light_names.h"
 
 #include <algorithm>
@@ -16,8 +17,6 @@ constexpr double kConeTolerance = 1e-9;
 constexpr double kColdestLamp = 1000; // Kelvin
 constexpr double kHottestLamp = 20000;
 
-bool isFinite(const ZrGePoint3d& p) { return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z); }
-bool isFinite(const ZrGeVector3d& v) { return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z); }
 bool isNotNegative(double value) { return std::isfinite(value) && value >= 0; }
 
 bool isKnown(DrawableType type) {
@@ -62,8 +61,9 @@ const ZrString& ZrDbLight::name() const { return data().name; }
 Quor::ErrorStatus ZrDbLight::setName(const ZrString& name) {
     if (!isLightName(name))
         return Quor::eInvalidName;
-    if (objectId().isNull())
-        return change(true, &ZrDbLightData::name, name);
+    // Listeners are told of the coming change before the names are counted anew.
+    if (const Quor::ErrorStatus status = aboutToModify(); status != Quor::eOk || objectId().isNull())
+        return status == Quor::eOk ? change(true, &ZrDbLightData::name, name) : status;
     const quor::db::LightNames::Renaming renaming(*objectId().entry());
     return change(true, &ZrDbLightData::name, name);
 }
@@ -93,13 +93,13 @@ Quor::ErrorStatus ZrDbLight::setLightColor(const ZrCmColor& color) {
 ZrGePoint3d ZrDbLight::position() const { return data().position; }
 
 Quor::ErrorStatus ZrDbLight::setPosition(const ZrGePoint3d& position) {
-    return change(isFinite(position), &ZrDbLightData::position, position);
+    return change(quor::db::isFinite(position), &ZrDbLightData::position, position);
 }
 
 ZrGePoint3d ZrDbLight::targetLocation() const { return data().target; }
 
 Quor::ErrorStatus ZrDbLight::setTargetLocation(const ZrGePoint3d& target) {
-    return change(isFinite(target), &ZrDbLightData::target, target);
+    return change(quor::db::isFinite(target), &ZrDbLightData::target, target);
 }
 
 ZrGeVector3d ZrDbLight::lightDirection() const {
@@ -108,7 +108,7 @@ ZrGeVector3d ZrDbLight::lightDirection() const {
 }
 
 Quor::ErrorStatus ZrDbLight::setLightDirection(const ZrGeVector3d& direction) {
-    if (!isFinite(direction) || direction.isZeroLength())
+    if (!quor::db::isFinite(direction) || direction.isZeroLength())
         return Quor::eInvalidInput;
     const double distance = data().position.distanceTo(data().target);
     return setTargetLocation(data().position + direction.normal() * (distance > 0 ? distance : 1));
@@ -201,5 +201,5 @@ Quor::ErrorStatus ZrDbLight::webRotation(ZrGeVector3d& rotation) const {
 }
 
 Quor::ErrorStatus ZrDbLight::setWebRotation(const ZrGeVector3d& rotation) {
-    return change(isFinite(rotation), &ZrDbLightData::webRotation, rotation);
+    return change(quor::db::isFinite(rotation), &ZrDbLightData::webRotation, rotation);
 }

@@ -3,8 +3,12 @@
 
 #include "host/db/data.h"
 #include "host/db/database.h"
+#include "host/db/versions.h"
 
+#include <algorithm>
 #include <array>
+#include <limits>
+#include <type_traits>
 
 namespace quor::db {
 
@@ -14,7 +18,6 @@ using Light = ZrDbLightData;
 using Shadow = ZrGiShadowParameters;
 
 constexpr std::int64_t kClassVersion = 1;
-constexpr int kRawColorVersion = 1015; // this version alone keeps the light's colour as one word
 
 FieldValue none() { return std::nullopt; }
 FieldValue whole(std::int64_t value) { return value; }
@@ -70,12 +73,19 @@ constexpr Field choice(int code) {
             }};
 }
 
+// The largest number that goes into a value without losing anything.
+template <class Value>
+constexpr int kLargest = std::min<std::int64_t>(std::numeric_limits<Value>::max(), std::numeric_limits<int>::max());
+template <class Value>
+requires std::is_enum_v<Value>
+constexpr int kLargest<Value> = std::numeric_limits<std::int16_t>::max();
+
 // A value of the shadow record, by its getter and setter; the setter refuses what it cannot hold.
 template <auto Get, auto Set, class Value>
 constexpr Field shadowNumber(int code) {
     return {code,
             [](ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
-                if (const auto value = ranged<0, 65535>(tag))
+                if (const auto value = ranged<0, kLargest<Value>>(tag))
                     (void)(as<Light>(data).shadow.*Set)(static_cast<Value>(*value));
             },
             [](const ZrDbObjectData& data, const FieldContext&) {
@@ -130,7 +140,8 @@ void readColorIndex(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContex
 }
 
 FieldValue writeColorIndex(const ZrDbObjectData& data, const FieldContext& context) {
-    return context.version <= kRawColorVersion ? none() : whole(as<Light>(data).lightColor.colorIndex());
+    return context.version <= versions::kOnlyWithRawLightColor ? none()
+                                                               : whole(as<Light>(data).lightColor.colorIndex());
 }
 
 void readTrueColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
@@ -141,7 +152,7 @@ void readTrueColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext
 
 FieldValue writeTrueColor(const ZrDbObjectData& data, const FieldContext& context) {
     const ZrCmColor& color = as<Light>(data).lightColor;
-    return context.version > kRawColorVersion && color.isByColor() ? whole(color.rgb()) : none();
+    return context.version > versions::kOnlyWithRawLightColor && color.isByColor() ? whole(color.rgb()) : none();
 }
 
 void readBookColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext& context) {
@@ -152,7 +163,7 @@ void readBookColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext
 
 FieldValue writeBookColor(const ZrDbObjectData& data, const FieldContext& context) {
     const ZrCmColor& color = as<Light>(data).lightColor;
-    if (context.version <= kRawColorVersion || !color.hasColorName())
+    if (context.version <= versions::kOnlyWithRawLightColor || !color.hasColorName())
         return none();
     return color.bookName() + L"$" + color.colorName();
 }
@@ -163,7 +174,7 @@ void readRawColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&
 }
 
 FieldValue writeRawColor(const ZrDbObjectData& data, const FieldContext& context) {
-    if (context.version > kRawColorVersion)
+    if (context.version > versions::kOnlyWithRawLightColor)
         return none();
     return whole(static_cast<std::int32_t>(as<Light>(data).lightColor.rawColor()));
 }

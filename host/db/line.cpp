@@ -1,12 +1,9 @@
 #include "sdk/db/line.h"
 
 #include "host/db/data.h"
-
-#include <cmath>
+#include "host/db/finite.h"
 
 namespace {
-
-bool isFinite(const ZrGePoint3d& p) { return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z); }
 
 const ZrDbLineData& dataOf(const ZrDbLine& line) { return static_cast<const ZrDbLineData&>(*line.hostData()); }
 
@@ -28,7 +25,7 @@ ZrGePoint3d ZrDbLine::startPoint() const { return dataOf(*this).start; }
 ZrGePoint3d ZrDbLine::endPoint() const { return dataOf(*this).end; }
 
 Quor::ErrorStatus ZrDbLine::setStartPoint(const ZrGePoint3d& point) {
-    if (!isFinite(point))
+    if (!quor::db::isFinite(point))
         return Quor::eInvalidInput;
     if (const Quor::ErrorStatus status = aboutToModify(); status != Quor::eOk)
         return status;
@@ -37,7 +34,7 @@ Quor::ErrorStatus ZrDbLine::setStartPoint(const ZrGePoint3d& point) {
 }
 
 Quor::ErrorStatus ZrDbLine::setEndPoint(const ZrGePoint3d& point) {
-    if (!isFinite(point))
+    if (!quor::db::isFinite(point))
         return Quor::eInvalidInput;
     if (const Quor::ErrorStatus status = aboutToModify(); status != Quor::eOk)
         return status;

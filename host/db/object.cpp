@@ -4,6 +4,19 @@
 
 using quor::db::ObjectEntry;
 
+namespace {
+
+// Entities, and the layers that a drawing can do without: what else there is holds the drawing together.
+bool canBeErased(const ObjectEntry& entry) {
+    if (entry.kind == quor::db::ObjectKind::Entity)
+        return true;
+    quor::db::Database& database = *entry.database;
+    return entry.owner != nullptr && entry.owner == database.layers().table().entry &&
+           &entry != database.layers().find(L"0") && &entry != database.currentLayer();
+}
+
+} // namespace
+
 bool ZrDbObjectId::isErased() const { return entry_ != nullptr && entry_->erased; }
 
 ZrDbHandle ZrDbObjectId::handle() const { return ZrDbHandle(entry_ == nullptr ? 0 : entry_->handle); }
@@ -35,10 +48,7 @@ Quor::ErrorStatus ZrDbObject::aboutToModify() {
     ObjectEntry& entry = *id_.entry();
     if (!entry.writing)
         return Quor::eNotOpenForWrite;
-    if (!entry.modifiedInThisOpening) {
-        entry.modifiedInThisOpening = true;
-        entry.database->journal().aboutToModify(entry);
-    }
+    entry.database->journal().aboutToModify(entry);
     return Quor::eOk;
 }
 
@@ -48,6 +58,8 @@ Quor::ErrorStatus ZrDbObject::erase(bool erasing) {
     ObjectEntry& entry = *id_.entry();
     if (!entry.writing)
         return Quor::eNotOpenForWrite;
+    if (!canBeErased(entry))
+        return Quor::eNotAllowed;
     if (entry.erased == erasing)
         return Quor::eOk;
     entry.eraseToAnnounce = !entry.eraseToAnnounce;

@@ -2,15 +2,13 @@
 
 #include "host/db/entity_fields.h"
 #include "host/db/object_reader.h"
+#include "host/db/versions.h"
 #include "host/sys/utf8.h"
 
 namespace quor::db {
 
 namespace {
 
-constexpr int kFirstWithSubclasses = 1012;
-constexpr int kFirstWithPlotStyles = 1015;
-constexpr int kFirstWithMaterials = 1021;
 constexpr int kPlotStyleCode = 390;
 constexpr int kMaterialCode = 347;
 
@@ -28,7 +26,7 @@ std::span<const FieldGroup> groupsOf(std::string_view type) {
 
 ObjectWriter::ObjectWriter(Database& database)
     : database_(database), file_(database.file()), context_{database, file_.version()},
-      hasSubclasses_(file_.version() >= kFirstWithSubclasses) {}
+      hasSubclasses_(file_.version() >= versions::kFirstWithSubclasses) {}
 
 std::string ObjectWriter::changedEntity(const ObjectEntry& entry) const {
     const std::unique_ptr<ZrDbObjectData> original = readData(database_, entry);
@@ -86,16 +84,18 @@ std::string ObjectWriter::newLayer(const ObjectEntry& entry) const {
     }
     for (const FieldGroup& group : layerGroups())
         for (const Field& field : group.fields)
-            if (file_.version() >= kFirstWithPlotStyles || field.code < 100)
+            if (file_.version() >= versions::kFirstWithPlotStyles || field.code < 100)
                 writeFields(writer, file_.codec(), {&field, 1}, *entry.object->hostData(), context_);
     // The plot style and the material are those of layer 0.
     const ObjectEntry* zero = database_.layers().find(L"0");
     if (zero == nullptr || !zero->isInFile())
         return writer.take();
     dxf::Tag tag;
-    if (file_.version() >= kFirstWithPlotStyles && file_.findTag(file_.record(zero->record), kPlotStyleCode, tag))
+    if (file_.version() >= versions::kFirstWithPlotStyles &&
+        file_.findTag(file_.record(zero->record), kPlotStyleCode, tag))
         writer.handle(kPlotStyleCode, tag.asHandle().value_or(0));
-    if (file_.version() >= kFirstWithMaterials && file_.findTag(file_.record(zero->record), kMaterialCode, tag))
+    if (file_.version() >= versions::kFirstWithMaterials &&
+        file_.findTag(file_.record(zero->record), kMaterialCode, tag))
         writer.handle(kMaterialCode, tag.asHandle().value_or(0));
     return writer.take();
 }

@@ -1,5 +1,6 @@
 #include "host/db/save_settings.h"
 
+#include "host/db/versions.h"
 #include "host/sys/utf8.h"
 
 #include <algorithm>
@@ -8,7 +9,7 @@ namespace quor::db {
 
 namespace {
 
-constexpr int kFirstWithClassCounts = 1018;
+constexpr int kFirstWithDictionaries = 1012;
 constexpr int kDefaultLightingCode = 292;
 constexpr int kInstanceCountCode = 91;
 constexpr int kFirstExtendedData = 1000;
@@ -18,7 +19,9 @@ constexpr int kLightProxyFlags = 1025;
 
 void SettingsToSave::collect(dxf::PatchList& patches, std::uint64_t& highestHandle) {
     collectHeaders(patches);
-    collectVariables(patches, highestHandle);
+    // Older drawings have no dictionaries: such variables last for the session.
+    if (file_.version() >= kFirstWithDictionaries)
+        collectVariables(patches, highestHandle);
     collectDefaultLighting(patches);
 }
 
@@ -152,16 +155,19 @@ void SettingsToSave::countLights(dxf::PatchList& patches, std::int64_t change) {
         raiseCount(patches, *known, change);
         return;
     }
-    const auto& lights =
-        database_.structure().entitiesOf(database_.structure().modelSpace(), file_.typeNumber("LIGHT"));
-    const auto count = std::count_if(lights.begin(), lights.end(), [](const ObjectEntry* e) { return !e->erased; });
+    Structure& structure = database_.structure();
+    std::int64_t count = 0;
+    for (const auto& block : structure.blocks()) {
+        const auto& lights = structure.entitiesOf(*block, file_.typeNumber("LIGHT"));
+        count += std::count_if(lights.begin(), lights.end(), [](const ObjectEntry* e) { return !e->erased; });
+    }
     if (count > 0)
         addClass("LIGHT", "AcDbLight", "SCENEOE", kLightProxyFlags, true, count);
 }
 
 void SettingsToSave::raiseCount(dxf::PatchList& patches, const dxf::Record& classRecord, std::int64_t change) const {
     dxf::Tag tag;
-    if (file_.version() < kFirstWithClassCounts || !file_.findTag(classRecord, kInstanceCountCode, tag))
+    if (file_.version() < versions::kFirstWithClassCounts || !file_.findTag(classRecord, kInstanceCountCode, tag))
         return;
     dxf::TagWriter writer = file_.writer();
     writer.integer(kInstanceCountCode, std::max<std::int64_t>(tag.asInt().value_or(0) + change, 0));
@@ -176,7 +182,7 @@ void SettingsToSave::addClass(std::string_view name, std::string_view className,
     writer.text(2, className);
     writer.text(3, application);
     writer.integer(90, flags);
-    if (file_.version() >= kFirstWithClassCounts)
+    if (file_.version() >= versions::kFirstWithClassCounts)
         writer.integer(kInstanceCountCode, count);
     writer.integer(280, 0);
     writer.integer(281, isEntity ? 1 : 0);

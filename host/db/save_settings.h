@@ -27,10 +27,13 @@ public:
     [[nodiscard]] bool hasObjects() const { return !objects_.empty(); }
 
     // Puts everything into its place. A broken-off file that gets something new is also given its end.
-    void finish(dxf::PatchList& patches, const DrawingFile& file);
+    void finish(dxf::PatchList& patches);
 
 private:
     void put(dxf::PatchList& patches, std::string_view section, const std::string& tags);
+    void putLayers(dxf::PatchList& patches);
+    // Whether the file breaks off inside the section.
+    [[nodiscard]] bool breaksOffIn(std::string_view section) const;
     [[nodiscard]] std::string wholeSection(std::string_view name, const std::string& body) const;
     [[nodiscard]] std::uint64_t placeFor(std::string_view section) const;
 

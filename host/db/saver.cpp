@@ -4,16 +4,16 @@
 #include "host/db/object_reader.h"
 #include "host/db/object_writer.h"
 #include "host/db/save_settings.h"
+#include "host/db/versions.h"
 #include "host/sys/utf8.h"
 #include "host/texts/drawing_files.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace quor::db {
 
 namespace {
-
-constexpr int kFirstWithLights = 1015;
 
 // Collects what a save changes, section by section.
 class Collector {
@@ -24,13 +24,13 @@ public:
     Result<dxf::PatchList, FileProblem> run(const ZrString& name) {
         for (ObjectEntry* entry : database_.objects().touched())
             collect(*entry);
-        if (lights_ > 0 && file_.version() < kFirstWithLights)
+        if (lights_ > 0 && file_.version() < versions::kFirstWithLights)
             return fail(FileProblem{fill(texts::kVersionHoldsNoLights, name, file_.versionName())});
         SettingsToSave settings(database_, sections_);
         settings.collect(patches_, highestHandle_);
         settings.countLights(patches_, lightChange_);
         settings.raiseSeed(patches_, highestHandle_);
-        sections_.finish(patches_, file_);
+        sections_.finish(patches_);
         return std::move(patches_);
     }
 
@@ -57,7 +57,7 @@ private:
             return;
         const PhotometryPlace place = findPhotometry(database_, entry);
         for (const ObjectEntry* part : {place.dictionary, place.record})
-            if (part != nullptr)
+            if (part != nullptr && isOwn(*part))
                 patches_.remove(file_.record(part->record).begin, file_.record(part->record).end());
     }
 
@@ -81,6 +81,8 @@ private:
         if (!fieldsDiffer(photometryGroups().front().fields, *original, light, {database_, file_.version()}))
             return;
         const PhotometryPlace place = findPhotometry(database_, entry);
+        if (place.record != nullptr && !isOwn(*place.record))
+            return;
         if (place.record != nullptr) {
             const dxf::Record& record = file_.record(place.record->record);
             patches_.replace(record.begin, record.end(), writer_.changedPhotometry(*place.record, *original, light));
@@ -133,6 +135,9 @@ private:
         noteHandle(light.photometryHandle);
     }
 
+    // Lights of a faulty drawing may share their photometric data: only the first to need a change of them gets it.
+    bool isOwn(const ObjectEntry& part) { return patchedParts_.insert(&part).second; }
+
     void noteHandle(std::uint64_t handle) { highestHandle_ = std::max(highestHandle_, handle); }
 
     [[nodiscard]] const dxf::Record& lastRecord(const ObjectEntry& entry) const {
@@ -144,6 +149,7 @@ private:
     ObjectWriter writer_;
     SectionAdditions sections_;
     dxf::PatchList patches_;
+    std::unordered_set<const ObjectEntry*> patchedParts_;
     std::uint64_t highestHandle_ = 0;
     std::int64_t lights_ = 0;      // touched ones that the drawing has
     std::int64_t lightChange_ = 0; // more or fewer than in the file

@@ -1,4 +1,5 @@
 #include "host/db/save_settings.h"
+#include "host/db/versions.h"
 
 #include <algorithm>
 
@@ -13,8 +14,6 @@ std::size_t orderOf(std::string_view section) {
     const auto found = std::find(kSectionOrder.begin(), kSectionOrder.end(), section);
     return static_cast<std::size_t>(found - kSectionOrder.begin());
 }
-
-constexpr int kFirstWithSubclasses = 1012;
 
 } // namespace
 
@@ -60,36 +59,63 @@ void SectionAdditions::put(dxf::PatchList& patches, std::string_view section, co
         patches.insert(last->bodyEnd, tags);
 }
 
-void SectionAdditions::finish(dxf::PatchList& patches, const DrawingFile& file) {
-    put(patches, "HEADER", header_);
-    put(patches, "CLASSES", classes_);
+void SectionAdditions::putLayers(dxf::PatchList& patches) {
     if (layersAt_ != 0) {
         patches.insert(layersAt_, layers_);
-    } else if (!layers_.empty()) {
-        dxf::TagWriter table = file_.writer();
-        table.text(0, "TABLE");
-        table.text(2, "LAYER");
-        if (file_.version() >= kFirstWithSubclasses) {
-            table.handle(5, layerTable_->handle);
-            table.handle(330, 0);
-            table.text(100, "AcDbSymbolTable");
+        return;
+    }
+    if (layers_.empty())
+        return;
+    dxf::TagWriter table = file_.writer();
+    table.text(0, "TABLE");
+    table.text(2, "LAYER");
+    if (file_.version() >= versions::kFirstWithSubclasses) {
+        table.handle(5, layerTable_->handle);
+        table.handle(330, 0);
+        table.text(100, "AcDbSymbolTable");
+    }
+    table.integer(70, static_cast<std::int64_t>(layerCount_));
+    table.raw(layers_);
+    table.text(0, "ENDTAB");
+    put(patches, "TABLES", table.take());
+}
+
+bool SectionAdditions::breaksOffIn(std::string_view section) const {
+    const auto& sections = file_.layout().sections;
+    return !sections.empty() && !sections.back().closed && sections.back().name == section;
+}
+
+void SectionAdditions::finish(dxf::PatchList& patches) {
+    const std::array<const std::string*, kSectionOrder.size()> additions{&header_, &classes_,  nullptr,
+                                                                         nullptr,  &entities_, &objects_};
+    bool somethingNew = !patches.empty() || !layers_.empty() || !blockEntities_.empty();
+    for (const std::string* tags : additions)
+        somethingNew = somethingNew || (tags != nullptr && !tags->empty());
+    if (!somethingNew)
+        return;
+    dxf::TagWriter endOfSection = file_.writer();
+    endOfSection.text(0, "ENDSEC");
+    bool open = !file_.layout().sections.empty() && !file_.layout().sections.back().closed;
+    for (std::size_t i = 0; i < kSectionOrder.size(); ++i) {
+        if (kSectionOrder[i] == "TABLES")
+            putLayers(patches);
+        else if (additions[i] != nullptr)
+            put(patches, kSectionOrder[i], *additions[i]);
+        // The section in which the file breaks off ends before the next one begins.
+        if (open && breaksOffIn(kSectionOrder[i])) {
+            patches.insert(file_.layout().sections.back().bodyEnd, endOfSection.str());
+            open = false;
         }
-        table.integer(70, static_cast<std::int64_t>(layerCount_));
-        table.raw(layers_);
-        table.text(0, "ENDTAB");
-        put(patches, "TABLES", table.take());
     }
     for (const auto& [at, tags] : blockEntities_)
         patches.insert(at, tags);
-    put(patches, "ENTITIES", entities_);
-    put(patches, "OBJECTS", objects_);
-    if (patches.empty() || file.layout().hasEnd)
+    if (file_.layout().hasEnd)
         return;
     dxf::TagWriter end = file_.writer();
-    if (!file.layout().sections.empty() && !file.layout().sections.back().closed)
-        end.text(0, "ENDSEC");
+    if (open)
+        end.raw(endOfSection.str());
     end.text(0, "EOF");
-    patches.insert(file.layout().endTag.begin, end.take());
+    patches.insert(file_.layout().endTag.begin, end.take());
 }
 
 } // namespace quor::db

@@ -43,6 +43,7 @@ public:
     // Ends this opening. Listeners are told of a change now. eOk also for an object outside a drawing.
     Quor::ErrorStatus close();
     // Erases or unerases; needs the object open for write (eNotOpenForWrite) and in a drawing (eNotInDatabase).
+    // eNotAllowed for what is neither an entity nor a layer, for layer 0 and the current layer.
     virtual Quor::ErrorStatus erase(bool erasing = true);
     [[nodiscard]] bool isErased() const { return id_.isErased(); }
     [[nodiscard]] bool isWriteEnabled() const;
