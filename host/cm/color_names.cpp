@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "host/sys/case_fold.h"
+#include "host/texts/text.h"
 
 namespace quor::cm {
 namespace {
@@ -35,7 +36,10 @@ std::wstring localColorName(int index) {
     if (!isNamed(index))
         return {};
     std::wstring name = nameSource() ? nameSource()(index) : std::wstring();
-    return name.empty() ? std::wstring(nameRows[index - 1].builtIn) : name;
+    if (!name.empty())
+        return name;
+    const NameRow& row = nameRows[index - 1];
+    return std::wstring(language() == Language::English ? row.english : row.builtIn);
 }
 
 void setColorNameSource(ColorNameSource source) { nameSource() = std::move(source); }

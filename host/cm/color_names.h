@@ -13,8 +13,8 @@ constexpr int namedColorCount = 7;
 [[nodiscard]] std::wstring_view englishColorName(int index);
 [[nodiscard]] std::wstring localColorName(int index);
 
-// The name of an index 1 to 7 in the language in use; without a source, or where it gives an empty text, the
-// built-in Chinese name counts.
+// The name of an index 1 to 7 as a language pack has it; without a source, or where it gives an empty text, the name
+// in the host's language counts.
 using ColorNameSource = std::function<std::wstring(int index)>;
 void setColorNameSource(ColorNameSource source);
 
