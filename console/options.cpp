@@ -63,13 +63,16 @@ void declare(CLI::App& app, Raw& raw) {
     for (const TextRow& row : kTexts)
         app.add_option(row.names, raw.*row.value);
     for (const FlagRow& row : kFlags)
-        app.add_flag(row.names, raw.*row.value);
+        app.add_flag(row.names, raw.*row.value)->disable_flag_override();
 }
 
-// The library's own words begin with the option's name.
+// The library's own words begin with the option's name; that of a flag stands without its dashes.
 ZrString optionOf(const CLI::ParseError& error) {
     const std::string message = error.what();
-    return fromUtf8(message.substr(0, message.find_first_of(": ")));
+    const ZrString name = fromUtf8(message.substr(0, message.find_first_of(": ")));
+    if (name.starts_with(L"-"))
+        return name;
+    return (name.size() == 1 ? L"-" : L"--") + name;
 }
 
 Notice wrongValue(const CLI::ParseError& error, const CLI::App& app) {
@@ -110,14 +113,22 @@ std::optional<Setting> toSetting(const std::string& text) {
     return Setting{fromUtf8(text.substr(0, at)), fromUtf8(text.substr(at + 1))};
 }
 
+// The first argument that no option and no place takes. The mark behind which everything is a name is none.
+std::optional<std::string> superfluous(const CLI::App& app) {
+    for (const std::string& argument : app.remaining())
+        if (argument != "--")
+            return argument;
+    return std::nullopt;
+}
+
 std::variant<Options, Notice> check(const CLI::App& app, Raw& raw) {
     if (raw.help)
         return Notice{kSuccess, words::kHelp.get()};
     if (raw.version)
         return Notice{kSuccess, fill(words::kVersion, fromUtf8(QUOR_VERSION))};
-    if (const std::vector<std::string> extra = app.remaining(); !extra.empty()) {
-        const bool isOption = extra.front().size() > 1 && extra.front().front() == '-';
-        return wrong(fill(isOption ? words::kUnknownOption : words::kOneDrawing, fromUtf8(extra.front())));
+    if (const std::optional<std::string> extra = superfluous(app)) {
+        const bool isOption = extra->size() > 1 && extra->front() == '-';
+        return wrong(fill(isOption ? words::kUnknownOption : words::kOneDrawing, fromUtf8(*extra)));
     }
     if (const char* option = emptyOption(app))
         return wrong(fill(words::kOptionEmpty, fromUtf8(option)));

@@ -102,6 +102,8 @@ Line TerminalReader::read(const Question& question) {
     question_ = &question;
     cancelled_ = false;
 
+    // Before the prompt is seen, so that a Ctrl+D typed at once is not taken by the terminal itself.
+    el_wset(editor_.get(), EL_PREP_TERM, 1);
     int count = 0;
     const wchar_t* typed = el_wgets(editor_.get(), &count);
     ZrString line = typed != nullptr && count > 0 ? ZrString(typed, static_cast<std::size_t>(count)) : ZrString();

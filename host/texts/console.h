@@ -40,7 +40,7 @@ inline constexpr Text kHelp{LR"(用法: quorc [选项]... [图形]
   quorc 户型.dxf -s 灯光.scr -o 户型-带灯.dxf       执行脚本，另存结果
   quorc 户型.dxf -c "LIST ALL "                     列出所有对象
   quorc --set LIGHTINGUNITS=1 -c "POINTLIGHT 0,0,0 " -o 灯.dxf
-  echo "LIST ALL" | quorc 户型.dxf                  从管道读取命令
+  printf 'LIST\nALL\n\n' | quorc 户型.dxf           从管道读取命令
 
 退出状态
     0  一切正常
@@ -85,7 +85,7 @@ Examples
   quorc plan.dxf -s lights.scr -o plan-lit.dxf      run a script, save the result elsewhere
   quorc plan.dxf -c "LIST ALL "                     list all objects
   quorc --set LIGHTINGUNITS=1 -c "POINTLIGHT 0,0,0 " -o lamp.dxf
-  echo "LIST ALL" | quorc plan.dxf                  read commands from a pipe
+  printf 'LIST\nALL\n\n' | quorc plan.dxf           read commands from a pipe
 
 Exit status
     0  all is well

@@ -48,7 +48,9 @@ TEST(OptionsTest, CommandTextIsTakenCharacterByCharacter) {
     EXPECT_EQ(given.runs[3].text, "");
 }
 
-TEST(OptionsTest, EverythingBehindTwoDashesIsTheDrawing) { EXPECT_EQ(options({"--", "-odd.dxf"}).drawing, "-odd.dxf"); }
+TEST(OptionsTest, EverythingBehindTwoDashesIsTheDrawing) {
+    EXPECT_EQ(options({"-k", "--", "-odd.dxf"}).drawing, "-odd.dxf");
+}
 
 TEST(OptionsTest, SettingIsCutAtItsFirstEqualSign) {
     const Options given = options({"--set", "LIGHTINGUNITS=1", "--set", "PROJECTNAME=a=b", "--set", "EMPTY="});

@@ -73,9 +73,11 @@ protected:
         while (readMore())
             ;
         int status = -1;
-        waitpid(child_, &status, 0);
-        ended_ = true;
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        for (int tries = 0; !ended_ && tries < 500; ++tries) {
+            ended_ = waitpid(child_, &status, WNOHANG) == child_;
+            usleep(ended_ ? 0 : 10000);
+        }
+        return ended_ && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
 
     fs::path home_ = fs::temp_directory_path() / ("quor-terminal-" + std::to_string(getpid()));
@@ -89,7 +91,7 @@ protected:
 TEST_F(TerminalTest, TabCompletesACommandAndEnterRunsIt) {
     ASSERT_TRUE(shows("命令: "));
     type("LAYO\t\n");
-    EXPECT_TRUE(shows("LAYOUT")) << screen_;
+    ASSERT_TRUE(shows("输入布局选项")) << screen_;
     type(kCtrlC);
     EXPECT_TRUE(shows("*取消*")) << screen_;
 }
@@ -125,18 +127,20 @@ TEST_F(TerminalTest, UpArrowBringsBackTheLastLine) {
 TEST_F(TerminalTest, CtrlDEndsAnUnchangedDrawingAtOnce) {
     ASSERT_TRUE(shows("命令: "));
     type(kCtrlD);
-    EXPECT_EQ(exitStatus(), 0);
+    EXPECT_EQ(exitStatus(), 0) << screen_;
 }
 
 TEST_F(TerminalTest, CtrlDWithUnsavedChangesWarnsOnce) {
     ASSERT_TRUE(shows("命令: "));
-    type("LINE 0,0 1,1 \n");
+    type("LINE 0,0 1,1\n");
+    ASSERT_TRUE(shows("1,1\r\n指定下一点或 [放弃(U)]: ")) << screen_;
+    type("\n");
     ASSERT_TRUE(shows("命令: ")) << screen_;
     type(kCtrlD);
     ASSERT_TRUE(shows("未保存的更改")) << screen_;
     ASSERT_TRUE(shows("命令: ")) << screen_;
     type(kCtrlD);
-    EXPECT_EQ(exitStatus(), 0);
+    EXPECT_EQ(exitStatus(), 0) << screen_;
 }
 
 } // namespace
