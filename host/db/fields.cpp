@@ -72,8 +72,7 @@ private:
 
     Match matchIn(std::size_t group, int code) {
         const auto& fields = groups_[group].fields;
-        // Once the last field has passed, the rest of the subclass is the writer's own.
-        if (next_[group] == fields.size() && hasMarkers_ && groups_[group].subclass != "AcDbEntity")
+        if (groups_[group].endsWithLastField && next_[group] == fields.size() && hasMarkers_)
             return {};
         for (std::size_t i = 0; i < fields.size(); ++i)
             if (fields[i].code == code && !seen_[group][i]) {

@@ -30,11 +30,13 @@ struct Field {
     FieldValue (*write)(const ZrDbObjectData& data, const FieldContext& context);
 };
 
-// The fields of one subclass of a record, in file order. A code may occur more than once: the first tag belongs to the
-// first field of that code, and so on. Tags behind the last field's are not looked at.
+// The fields of one subclass of a record, in the order in which they are written. A code may occur more than once: the
+// first tag belongs to the first field of that code, and so on.
 struct FieldGroup {
     std::string_view subclass; // "AcDbLight"
     std::span<const Field> fields;
+    // What stands behind the last field's tag is the writer's own, whatever its codes.
+    bool endsWithLastField = false;
 };
 
 // Takes the values of a record's tags over.

@@ -299,7 +299,8 @@ constexpr std::array kPhotometryFields{
 } // namespace
 
 std::span<const FieldGroup> lightGroups() {
-    static const std::array groups{FieldGroup{"AcDbEntity", entityFields()}, FieldGroup{"AcDbLight", kLightFields}};
+    static const std::array groups{FieldGroup{"AcDbEntity", entityFields()},
+                                   FieldGroup{"AcDbLight", kLightFields, true}};
     return groups;
 }
 
