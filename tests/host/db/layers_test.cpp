@@ -208,9 +208,9 @@ TEST(HiddenLayers, AreWrittenFrozenAndLockedBefore2007) {
     const std::string bytes = bytesOf(*database);
     EXPECT_THAT(recordOf(bytes, "LAYER", "2|ADSK_CONSTRAINTS"), Contains("70|5"));
     EXPECT_THAT(recordOf(bytes, "LIGHT", "8|ADSK_CONSTRAINTS"), Not(IsEmpty()));
-    EXPECT_TRUE(ZrDbObjectPointer<ZrDbLayerTableRecord>(
-                    ZrDbObjectId(parsed(bytes)->layers().find(L"*ADSK_CONSTRAINTS")), ZrDb::kForRead)
-                    .openStatus() == Quor::eOk);
+    const auto again = parsed(bytes);
+    const ZrDbObjectId read(again->layers().find(L"*ADSK_CONSTRAINTS"));
+    EXPECT_TRUE(ZrDbObjectPointer<ZrDbLayerTableRecord>(read, ZrDb::kForRead)->isHidden());
 }
 
 TEST(Layers, EntityOnALayerThatIsMissingKeepsItsName) {

@@ -146,7 +146,6 @@ TEST(LightSaving, WebLightIsAPointLightWithAWeb) {
     EXPECT_THAT(recordOf(bytes, "LIGHT", "5|30"), Contains("70|2"));
     EXPECT_THAT(record, Contains("290|1"));
     EXPECT_THAT(record, Contains("300|"));
-    EXPECT_EQ(ZrDbObjectPointer<ZrDbLight>(lightOf(*parsed(bytes)), ZrDb::kForRead).openStatus(), Quor::eOk);
     const auto again = parsed(bytes);
     EXPECT_EQ(ZrDbObjectPointer<ZrDbLight>(lightOf(*again), ZrDb::kForRead)->lightType(), DrawableType::kWebLight);
 }
@@ -189,7 +188,8 @@ TEST(LightSaving, FirstLightBringsItsClassAndRaisesTheSeed) {
     EXPECT_THAT(recordOf(bytes, "CLASS", "1|LIGHT"),
                 ElementsAre("0|CLASS", "1|LIGHT", "2|AcDbLight", "3|SCENEOE", "90|1025", "91|2", "280|0", "281|1"));
     EXPECT_TRUE(holds(bytes, "5|36")); // $HANDSEED: six handles from 30 on
-    EXPECT_EQ(addLine(*parsed(bytes)).isNull(), false);
+    const auto again = parsed(bytes);
+    EXPECT_EQ(addLine(*again).handle(), ZrDbHandle(0x36));
 }
 
 TEST(LightSaving, ClassCountsTheLightsOfPaperSpaceToo) {
@@ -321,7 +321,6 @@ TEST(LightSaving, DrawingWithoutClassesTablesAndObjectsGetsWhatALightNeeds) {
     EXPECT_EQ(ZrDbObjectPointer<ZrDbLight>(lightOf(*again), ZrDb::kForRead)->name(), L"Light");
     EXPECT_LT(bytes.find("CLASSES"), bytes.find("ENTITIES"));
     EXPECT_LT(bytes.find("ENTITIES"), bytes.find("OBJECTS"));
-    EXPECT_EQ(tagsOf(bytes.substr(bytes.find("OBJECTS"))).size() > 1, true);
     ASSERT_NE(again->structure().rootDictionary(), nullptr);
     EXPECT_EQ(again->file().record(again->structure().rootDictionary()->record).owner, 0U);
     EXPECT_EQ(bytesOf(*again), bytes);
