@@ -72,6 +72,12 @@ void showModuleCommands(const ed::CommandTable& commands) {
     }
 }
 
+void showModuleCommand(const ed::Command& command) {
+    if (command.help.empty())
+        return say(texts::kHelpModulePage, command.globalName, command.group);
+    printText(ZrString(L"\n") + command.globalName + L"\n" + indented(command.help) + L"\n");
+}
+
 int showCommand(Session& session, const ZrString& name) {
     const ed::Command* command = session.commands().find(ed::parseCommandWord(name));
     if (command == nullptr && session.variables().has(name)) {
@@ -81,7 +87,7 @@ int showCommand(Session& session, const ZrString& name) {
     if (command == nullptr)
         return failWith(texts::kNoHelp, name);
     if (!command->isHost) {
-        say(texts::kHelpModulePage, command->globalName, command->localName, command->group);
+        showModuleCommand(*command);
         return RTNORM;
     }
     const auto pages = texts::helpPages();

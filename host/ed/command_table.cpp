@@ -60,6 +60,15 @@ bool CommandTable::add(Command command) {
     return true;
 }
 
+bool CommandTable::setHelp(const ZrString& group, const ZrString& globalName, const ZrString& page) {
+    for (const std::unique_ptr<Command>& command : commands_)
+        if (command->group == group && equalFolded(command->globalName, globalName)) {
+            command->help = page;
+            return true;
+        }
+    return false;
+}
+
 bool CommandTable::remove(const ZrString& group, const ZrString& globalName) {
     const auto at = std::find_if(commands_.begin(), commands_.end(), [&](const auto& known) {
         return known->group == group && equalFolded(known->globalName, globalName);

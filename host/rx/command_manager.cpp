@@ -79,6 +79,10 @@ bool RxCmdManager::registerCmd2(RxCommandFactory, RxCommandEntry entry, const wc
     return true;
 }
 
+bool RxCmdManager::setHelp(const wchar_t* group, const wchar_t* globalName, const wchar_t* page) {
+    return quor::Session::exists() && quor::Session::current().commands().setHelp(group, globalName, page);
+}
+
 void RxCmdManager::cmdEntryPoint(RxCommandFactory factory) {
     auto& processor = quor::Session::current().processor();
     try {

@@ -141,8 +141,8 @@ inline constexpr Text kHelpHow{L"\n输入 HELP 和命令名可查看该命令的
 inline constexpr Text kHelpModuleCommands{L"模块 %s", L"Module %s"};
 inline constexpr Text kHelpAliases{L"别名: %s", L"Also: %s"};
 inline constexpr Text kHelpExample{L"例: %s", L"Example: %s"};
-inline constexpr Text kHelpModulePage{L"\n%s (%s) 是模块 %s 的命令；按其提示回答即可。\n",
-                                      L"\n%s (%s) is a command of the module %s; answer its questions.\n"};
+inline constexpr Text kHelpModulePage{L"\n%s 是模块 %s 的命令；按其提示回答即可。\n",
+                                      L"\n%s is a command of the module %s; answer its questions.\n"};
 inline constexpr Text kHelpVariable{L"\n%s 是系统变量。输入其名称可查看或更改它的值。\n",
                                     L"\n%s is a system variable. Type its name to see or change its value.\n"};
 inline constexpr Text kNoHelp{L"\n没有名为“%s”的命令。输入 HELP 可列出所有命令。\n",

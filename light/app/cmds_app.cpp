@@ -11,6 +11,7 @@ Zr::AppRetCode CQUORCmdsApp::onInitAppMsg(void* applicationId) {
     for (const quor::light::CommandRow& row : quor::light::commandRows()) {
         const quor::light::LoadedText localName(row.localName);
         manager->registerCmd2(row.make, row.run, quor::light::commandGroup, row.globalName, localName.c_str(), 0);
+        manager->setHelp(quor::light::commandGroup, row.globalName, quor::light::LoadedText(row.help).c_str());
     }
     return result;
 }

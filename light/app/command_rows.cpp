@@ -19,12 +19,12 @@ void run() {
 }
 
 template <class Command>
-constexpr CommandRow row(const wchar_t* globalName, const Text& localName) {
-    return {globalName, localName, &make<Command>, &run<Command>};
+constexpr CommandRow row(const wchar_t* globalName, const Text& localName, const Text& help) {
+    return {globalName, localName, help, &make<Command>, &run<Command>};
 }
 
 constexpr CommandRow rows[] = {
-    row<CZrPointLightCmd>(L"POINTLIGHT", texts.pointLightCommand),
+    row<CZrPointLightCmd>(L"POINTLIGHT", texts.pointLightCommand, texts.pointLightHelp),
 };
 
 } // namespace

@@ -13,6 +13,7 @@ inline constexpr const wchar_t* commandGroup = L"QUOR_COMMAND_GROUP";
 struct CommandRow {
     const wchar_t* globalName; // matched without regard to case; kept as it is spelled here
     const Text& localName;
+    const Text& help;
     RxCommandFactory make; // a new command object, null when there is no memory for it
     RxCommandEntry run;    // has the command library make, execute and delete one
 };

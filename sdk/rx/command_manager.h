@@ -18,6 +18,9 @@ public:
     // False when the group has a command of that global name already.
     bool registerCmd2(RxCommandFactory factory, RxCommandEntry entry, const wchar_t* group, const wchar_t* globalName,
                       const wchar_t* localName, int flags);
+    // The page that HELP shows for a registered command: what it does, what it asks, an example. Without one HELP tells
+    // only where the command comes from. False when there is no such command in the group.
+    bool setHelp(const wchar_t* group, const wchar_t* globalName, const wchar_t* page);
     // Makes the command object, runs it once and deletes it; the command processor receives its result code.
     static void cmdEntryPoint(RxCommandFactory factory);
 

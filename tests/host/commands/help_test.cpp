@@ -86,7 +86,17 @@ TEST(Help, SaysWhichModuleACommandBelongsTo) {
     const ed::Verdict verdict = host.run({L"HELP", L"glow"});
 
     EXPECT_EQ(verdict.kind, ed::Verdict::Kind::Done);
-    EXPECT_TRUE(host.front().shows(L"GLOW (GLOW) 是模块 TEST 的命令"));
+    EXPECT_TRUE(host.front().shows(L"GLOW 是模块 TEST 的命令"));
+}
+
+TEST(Help, ShowsThePageThatAModuleGaveForItsCommand) {
+    test::TestSession host;
+    host.addCommand(L"GLOW", [] { return 5100; });
+    host.session().commands().setHelp(L"TEST", L"glow", L"发光。\n例: GLOW");
+
+    host.run({L"HELP", L"glow"});
+
+    EXPECT_TRUE(host.front().shows(L"GLOW\n  发光。\n  例: GLOW\n"));
 }
 
 TEST(Help, OfNoCommandFails) {

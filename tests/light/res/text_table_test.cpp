@@ -49,8 +49,8 @@ TEST(TextTable, TheRowsAreTheFieldsInTheirOrder) {
     const auto all = allTexts();
 
     EXPECT_EQ(all.front().number, texts.modelSpaceOnly.number);
-    EXPECT_EQ(all.back().number, texts.lightCommand.number);
-    EXPECT_EQ(all.back().builtIn, texts.lightCommand.builtIn);
+    EXPECT_EQ(all.back().number, texts.pointLightHelp.number);
+    EXPECT_EQ(all.back().builtIn, texts.pointLightHelp.builtIn);
 }
 
 TEST(TextTable, EveryKeywordListRepeatsItsWordsAsGlobalOnes) {
