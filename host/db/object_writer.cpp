@@ -59,6 +59,11 @@ void ObjectWriter::commonHead(dxf::TagWriter& writer, const ObjectEntry& entry, 
         writer.handle(330, entry.owner->handle);
 }
 
+bool ObjectWriter::isOnSheet(const ObjectEntry& entry) const {
+    const Block* block = database_.structure().blockOf(entry.owner);
+    return block != nullptr && block->isLayout && block != &database_.structure().modelSpace();
+}
+
 std::string ObjectWriter::newEntity(const ObjectEntry& entry) const {
     const std::string_view type = file_.typeName(entry.type);
     const ZrDbObjectData& data = *entry.object->hostData();
@@ -68,7 +73,7 @@ std::string ObjectWriter::newEntity(const ObjectEntry& entry) const {
     for (const FieldGroup& group : groupsOf(type)) {
         if (hasSubclasses_)
             writer.text(100, group.subclass);
-        if (group.subclass == "AcDbEntity" && entry.owner == database_.structure().paperSpace().record)
+        if (group.subclass == "AcDbEntity" && isOnSheet(entry))
             writer.integer(67, 1);
         writeFields(writer, file_.codec(), group.fields, data, context_);
     }

@@ -27,6 +27,8 @@ public:
                                                 const ZrDbLightData& light) const;
 
 private:
+    // Whether the entity stands in the paper space of a layout.
+    [[nodiscard]] bool isOnSheet(const ObjectEntry& entry) const;
     void commonHead(dxf::TagWriter& writer, const ObjectEntry& entry, std::string_view type,
                     std::uint64_t dictionary) const;
 
