@@ -34,7 +34,8 @@ Streams ownStreams() {
     streams.in = [](char* buffer, std::size_t size) { return ::read(STDIN_FILENO, buffer, size); };
     streams.out = [](std::string_view bytes) { return writeAll(STDOUT_FILENO, bytes); };
     streams.err = [](std::string_view bytes) { return writeAll(STDERR_FILENO, bytes); };
-    streams.editsLines = ::isatty(STDIN_FILENO) == 1 && ::isatty(STDOUT_FILENO) == 1;
+    streams.outputIsScreen = ::isatty(STDOUT_FILENO) == 1;
+    streams.editsLines = ::isatty(STDIN_FILENO) == 1 && streams.outputIsScreen;
     streams.showsProgress = ::isatty(STDERR_FILENO) == 1;
     return streams;
 }

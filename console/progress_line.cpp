@@ -14,8 +14,11 @@ constexpr std::size_t kLongestText = 34;
 constexpr std::string_view kClear = "\r\x1b[K";
 } // namespace
 
-ProgressLine::ProgressLine(ByteSink sink, Output& output, ProgressMeter::Clock clock)
-    : sink_(std::move(sink)), output_(output), meter_(std::move(clock)) {}
+ProgressLine::ProgressLine(ByteSink sink, Output* shared, ProgressMeter::Clock clock)
+    : sink_(std::move(sink)), shared_(shared), meter_(std::move(clock)) {
+    if (shared_ != nullptr)
+        shared_->beforeWriting([this] { remove(); });
+}
 
 void ProgressLine::update(std::wstring_view what, double fraction) {
     if (!sink_)
@@ -33,8 +36,9 @@ void ProgressLine::update(std::wstring_view what, double fraction) {
 }
 
 void ProgressLine::draw(std::wstring_view what, double fraction) {
-    output_.flushLines();
-    if (!output_.isAtLineStart())
+    if (shared_ != nullptr)
+        shared_->flushLines();
+    if (shared_ != nullptr && !shared_->isAtLineStart())
         return;
     ZrString text(what.substr(0, kLongestText));
     if (what.size() > kLongestText)

@@ -6,12 +6,12 @@
 
 namespace quor::console {
 
-// Shares the screen with the output: it is drawn where the cursor stands at the start of a line, and taken away before
-// anything else is written.
+// Where it shares its screen with the output it is drawn only while the cursor stands at the start of a line, and is
+// taken away before anything else is written.
 class ProgressLine {
 public:
-    // `sink` empty: nothing is ever shown.
-    ProgressLine(ByteSink sink, Output& output, ProgressMeter::Clock clock);
+    // `sink` empty: nothing is ever shown. `shared`: the output on the same screen, or null.
+    ProgressLine(ByteSink sink, Output* shared, ProgressMeter::Clock clock);
     ~ProgressLine() { remove(); }
     ProgressLine(const ProgressLine&) = delete;
     ProgressLine& operator=(const ProgressLine&) = delete;
@@ -23,7 +23,7 @@ private:
     void draw(std::wstring_view what, double fraction);
 
     ByteSink sink_;
-    Output& output_;
+    Output* shared_;
     ProgressMeter meter_;
     bool drawn_ = false;
 };

@@ -8,6 +8,7 @@ namespace quor::console {
 void Report::operator()(std::wstring_view message) const {
     output_.freshLine();
     output_.flush();
+    progress_.remove();
     sink_(toUtf8(fill(texts::console::kError, message)));
 }
 

@@ -33,10 +33,10 @@ class Stages {
 public:
     Stages(const Options& options, const Streams& streams, SessionOptions sessionOptions)
         : options_(options), streams_(streams), output_(streams.out, options.quiet),
-          progress_(streams.showsProgress ? streams.err : ByteSink(), output_, streams.clock),
-          front_(output_, progress_), session_(front_, std::move(sessionOptions)), report_(streams.err, output_) {
-        output_.beforeWriting([this] { progress_.remove(); });
-    }
+          progress_(streams.showsProgress ? streams.err : ByteSink(), streams.outputIsScreen ? &output_ : nullptr,
+                    streams.clock),
+          front_(output_, progress_), session_(front_, std::move(sessionOptions)),
+          report_(streams.err, output_, progress_) {}
 
     int run() {
         std::vector<ScriptToRun> scripts;

@@ -15,6 +15,7 @@ struct Streams {
     ByteSink err;
     bool editsLines = false;    // input and output are a terminal
     bool showsProgress = false; // the error output is a terminal
+    bool outputIsScreen = true; // the output is a terminal, so that progress must keep out of its way
     ProgressMeter::Clock clock = std::chrono::steady_clock::now;
 };
 

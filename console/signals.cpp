@@ -27,6 +27,7 @@ void install() {
     handle(SIGWINCH, onTerminal);
     handle(SIGCONT, onTerminal);
     handle(SIGPIPE, SIG_IGN);
+    handle(SIGXFSZ, SIG_IGN);
 }
 
 bool interrupted() { return interruptMark != 0; }

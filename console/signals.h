@@ -3,7 +3,7 @@
 
 namespace quor::console::signals {
 
-// SIGINT, SIGWINCH and SIGCONT are noted from now on, SIGPIPE is left to the result of writing.
+// SIGINT, SIGWINCH and SIGCONT are noted from now on; SIGPIPE and SIGXFSZ are left to the result of writing.
 void install();
 // Whether Ctrl+C was pressed since it was last forgotten.
 [[nodiscard]] bool interrupted();

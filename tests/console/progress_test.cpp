@@ -53,8 +53,7 @@ TEST_F(ProgressTest, LineIsClearedBeforeOutputIsWritten) {
         return 0;
     };
     Output output(sink);
-    ProgressLine line(sink, output, clock());
-    output.beforeWriting([&] { line.remove(); });
+    ProgressLine line(sink, &output, clock());
 
     line.update(L"灯光.scr", 0.1);
     now_ += 1000ms;
@@ -72,7 +71,7 @@ TEST_F(ProgressTest, LineIsNotDrawnBehindHalfALineOfOutput) {
         return 0;
     };
     Output output(sink);
-    ProgressLine line(sink, output, clock());
+    ProgressLine line(sink, &output, clock());
     output.print(L"命令: ");
     output.flush();
 
