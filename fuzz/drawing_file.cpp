@@ -1,6 +1,7 @@
 // Any bytes as a drawing file: opening must end, saving without a change must give the same bytes back, and looking at
 // every object must not fail.
 #include "host/db/database.h"
+#include "sdk/db/entity.h"
 
 #include <cstdint>
 #include <cstdlib>
