@@ -82,7 +82,7 @@ TEST(TextTable, TheListOfCharactersThatNamesMayNotHoldStandsBehindThirteenBlanks
 TEST(LoadedText, WithoutAResourceModuleTheBuiltInTextIsReferredTo) {
     const LoadedText loaded(texts.pointOptions);
 
-    EXPECT_EQ(loaded.c_str(), texts.pointOptions.builtIn);
+    EXPECT_STREQ(loaded.c_str(), texts.pointOptions.builtIn);
 }
 
 TEST(LoadedText, ATextThatIsBuiltInEmptyIsEmpty) {
