@@ -8,6 +8,10 @@ if(QUOR_SANITIZE)
   target_compile_options(quor_options INTERFACE -fsanitize=${QUOR_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(quor_options INTERFACE -fsanitize=${QUOR_SANITIZE})
 endif()
+if(QUOR_FUZZ)
+  # Coverage of the library and the module guides the fuzzers.
+  target_compile_options(quor_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # quor_sources(OUT [FOLDER…]): every .cpp below the folders (default: the current one).
 function(quor_sources out)
