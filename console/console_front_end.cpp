@@ -15,6 +15,8 @@ Answer toAnswer(Line line) {
     switch (line.kind) {
     case Line::Kind::End:
         return {Answer::Kind::End, {}, {}};
+    case Line::Kind::Broken:
+        return {Answer::Kind::Broken, {}, {}};
     case Line::Kind::Cancel:
         return {Answer::Kind::Cancel, {}, {}};
     case Line::Kind::Text:

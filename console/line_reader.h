@@ -6,7 +6,7 @@
 namespace quor::console {
 
 struct Line {
-    enum class Kind { Text, Cancel, End };
+    enum class Kind { Text, Cancel, End, Broken };
     Kind kind = Kind::End;
     ZrString text;
 };

@@ -22,6 +22,7 @@ bool PipeReader::readMore() {
     const std::ptrdiff_t count = source_(buffer_.data() + before, kChunk);
     buffer_.resize(before + (count > 0 ? static_cast<std::size_t>(count) : 0));
     ended_ = count <= 0;
+    broken_ = count < 0;
     if (isFirst && std::string_view(buffer_).starts_with(kByteOrderMark))
         at_ = kByteOrderMark.size();
     return !ended_;
@@ -49,9 +50,10 @@ bool PipeReader::nextLine(std::string& line) {
 Line PipeReader::read(const Question& question) {
     output_.print(question.prompt);
     std::string line;
-    if (signals::interrupted() || output_.error() != 0 || !nextLine(line) || signals::interrupted()) {
+    const bool stopped = signals::interrupted() || output_.error() != 0;
+    if (stopped || !nextLine(line) || signals::interrupted()) {
         output_.freshLine();
-        return {Line::Kind::End, {}};
+        return {broken_ && !signals::interrupted() ? Line::Kind::Broken : Line::Kind::End, {}};
     }
     ZrString text = fromUtf8(line);
     output_.answer(text);

@@ -12,7 +12,8 @@ using ByteSource = std::function<std::ptrdiff_t(char*, std::size_t)>;
 class PipeReader final : public LineReader {
 public:
     PipeReader(ByteSource source, Output& output) : source_(std::move(source)), output_(output) {}
-    // The end also comes when the output's reader is gone or the program is interrupted.
+    // A read error is the broken end. The end also comes when the output's reader is gone or the program is
+    // interrupted.
     Line read(const Question& question) override;
 
 private:
@@ -25,6 +26,7 @@ private:
     std::string buffer_;
     std::size_t at_ = 0;
     bool ended_ = false;
+    bool broken_ = false; // ended by a read error
 };
 
 } // namespace quor::console

@@ -27,9 +27,10 @@ struct Question {
     bool acceptsBlanks = false;
 };
 
-// What came back: typed text, a picked point (world coordinates), Enter alone, Esc, or the end of all input.
+// What came back: typed text, a picked point (world coordinates), Enter alone, Esc, the end of all input, or that the
+// input broke (a read error); nobody is asked any more after that.
 struct Answer {
-    enum class Kind { Text, Point, Enter, Cancel, End };
+    enum class Kind { Text, Point, Enter, Cancel, End, Broken };
     Kind kind = Kind::End;
     ZrString text;
     ZrGePoint3d point;

@@ -64,6 +64,9 @@ std::optional<Outcome> Asking::read(const Answer& answer) {
     case Answer::Kind::End:
         session_.processor().reportEndOfInput();
         return Escape{};
+    case Answer::Kind::Broken:
+        session_.processor().reportEndOfInput();
+        return Broken{};
     case Answer::Kind::Cancel:
         session_.processor().reportEscape();
         return Escape{};
@@ -90,11 +93,9 @@ Outcome Asking::accept(Reading reading) {
     return reading;
 }
 
-// A text question takes what names no command as text: an apostrophe is a character like any other there.
+// At a text question an apostrophe is a character like any other: whoever asks decides what a text may hold.
 bool Asking::ranTransparently(const ZrString& typed) {
-    if (typed.size() < 2 || typed.front() != L'\'')
-        return false;
-    if (rules_.wanted == Wanted::Text && !session_.processor().isTransparentCall(typed))
+    if (rules_.wanted == Wanted::Text || typed.size() < 2 || typed.front() != L'\'')
         return false;
     session_.processor().runTransparent(typed);
     return true;

@@ -11,10 +11,11 @@ class Session;
 
 namespace quor::ed {
 
-// What a question ended with: Enter, Esc (or the end of the input), or an answer.
+// What a question ended with: Enter, Esc (or the end of the input), input that broke, or an answer.
 struct Enter {};
 struct Escape {};
-using Outcome = std::variant<Enter, Escape, Reading>;
+struct Broken {};
+using Outcome = std::variant<Enter, Escape, Broken, Reading>;
 
 // The rules of the current drawing; without one, those of a new drawing.
 [[nodiscard]] DrawingRules currentDrawingRules(Session& session);

@@ -38,6 +38,7 @@ std::optional<Verdict> CommandProcessor::step() {
     const bool byProgram = session_.input().lastWasProgram();
     switch (answer.kind) {
     case Answer::Kind::End:
+    case Answer::Kind::Broken:
         return std::nullopt;
     case Answer::Kind::Cancel:
         session_.input().dropTypedAhead();
@@ -65,10 +66,6 @@ CommandProcessor::Call CommandProcessor::resolve(const CommandWord& word) const 
 
 Verdict CommandProcessor::run(const ZrString& typed, bool byProgram) {
     return runCall(resolve(parseCommandWord(typed)), typed, byProgram, false);
-}
-
-bool CommandProcessor::isTransparentCall(std::wstring_view typed) const {
-    return typed.size() > 1 && typed.front() == L'\'' && resolve(parseCommandWord(typed)).command != nullptr;
 }
 
 Verdict CommandProcessor::runTransparent(std::wstring_view typed) {

@@ -45,8 +45,6 @@ public:
     Verdict run(const ZrString& word, bool byProgram);
     // Runs "'NAME", which was typed at a question of the running command.
     Verdict runTransparent(std::wstring_view typed);
-    // Whether the typed text begins with "'" and names a command or a system variable.
-    [[nodiscard]] bool isTransparentCall(std::wstring_view typed) const;
 
     // The command library tells the result of the command object that it ran.
     void reportResult(int result);

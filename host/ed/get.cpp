@@ -34,12 +34,14 @@ public:
 
     [[nodiscard]] Asking asking(const wchar_t* prompt) const { return {Session::current(), rules_, textOf(prompt)}; }
 
-    // RTNONE, RTCAN or RTKWORD; RTNORM with the value in `reading`.
+    // RTNONE, RTCAN, RTERROR or RTKWORD; RTNORM with the value in `reading`.
     [[nodiscard]] int finish(Outcome outcome, Reading& reading) const {
         if (std::holds_alternative<Enter>(outcome))
             return RTNONE;
         if (std::holds_alternative<Escape>(outcome))
             return RTCAN;
+        if (std::holds_alternative<Broken>(outcome))
+            return RTERROR;
         reading = std::get<Reading>(std::move(outcome));
         const ZrString* word = nullptr;
         if (const auto* keyword = std::get_if<KeywordAnswer>(&reading))
@@ -143,6 +145,8 @@ int zredGetString(int cronly, const wchar_t* prompt, ZrString& answer) {
     Outcome outcome = call.asking(prompt).acceptBlanks(cronly != 0).run();
     if (std::holds_alternative<Escape>(outcome))
         return RTCAN;
+    if (std::holds_alternative<Broken>(outcome))
+        return RTERROR;
     if (std::holds_alternative<Enter>(outcome))
         answer.clear();
     else

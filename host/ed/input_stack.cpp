@@ -17,6 +17,7 @@ std::wstring_view shown(const Answer& answer) {
         return L"^C";
     case Answer::Kind::Point:
     case Answer::Kind::Enter:
+    case Answer::Kind::Broken:
         break;
     }
     return {};
@@ -99,16 +100,26 @@ Answer InputStack::cutTyped(const Question& question, Answer answer) {
     return first ? std::move(*first) : Answer{Answer::Kind::Enter, {}, {}};
 }
 
+// Callers that ask again after an error come to an end: a front end that broke is not asked again.
+template <class Ask>
+Answer InputStack::fromPerson(const Question& question, const Ask& ask) {
+    if (isBroken_)
+        return Answer{Answer::Kind::End, {}, {}};
+    Answer answer = ask();
+    isBroken_ = answer.kind == Answer::Kind::Broken;
+    return cutTyped(question, std::move(answer));
+}
+
 Answer InputStack::ask(const Question& question) {
     if (std::optional<Answer> answer = fromSources(question))
         return std::move(*answer);
-    return cutTyped(question, front_.ask(question));
+    return fromPerson(question, [&] { return front_.ask(question); });
 }
 
 Answer InputStack::drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) {
     if (std::optional<Answer> answer = fromSources(question))
         return std::move(*answer);
-    return cutTyped(question, front_.drag(question, sample));
+    return fromPerson(question, [&] { return front_.drag(question, sample); });
 }
 
 } // namespace quor::ed

@@ -72,6 +72,8 @@ public:
 private:
     [[nodiscard]] std::optional<Answer> fromSources(const Question& question);
     [[nodiscard]] Answer take(InputSource& source, const Question& question, Answer answer);
+    template <class Ask>
+    [[nodiscard]] Answer fromPerson(const Question& question, const Ask& ask);
     [[nodiscard]] Answer cutTyped(const Question& question, Answer answer);
 
     FrontEnd& front_;
@@ -80,6 +82,7 @@ private:
     std::unique_ptr<InputSource> typedLine_;
     Origin commandOrigin_;
     bool lastWasProgram_ = false;
+    bool isBroken_ = false; // the front end's input broke
 };
 
 } // namespace quor::ed

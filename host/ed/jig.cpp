@@ -48,7 +48,7 @@ ZrEdJig::DragStatus ZrEdJig::drag() {
                                 .run();
     if (std::holds_alternative<Enter>(outcome))
         return kNull;
-    if (std::holds_alternative<Escape>(outcome))
+    if (!std::holds_alternative<Reading>(outcome))
         return kCancel;
     ZrGePoint3d point = std::get<ZrGePoint3d>(std::get<Reading>(outcome));
     if ((controls_ & kAccept3dCoordinates) == 0)

@@ -102,6 +102,8 @@ public:
             const Outcome outcome = Asking(session_, rules, prompt).as(Question::Kind::Selection).run();
             if (std::holds_alternative<Escape>(outcome))
                 return RTCAN;
+            if (std::holds_alternative<Broken>(outcome))
+                return RTERROR;
             if (std::holds_alternative<Enter>(outcome))
                 break;
             if (!act(std::get<Reading>(outcome)))

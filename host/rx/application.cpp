@@ -3,6 +3,8 @@
 #include "host/rx/lisp_functions.h"
 #include "sdk/rx/dynamic_linker.h"
 
+#include <algorithm>
+
 ZrRxDbxApp::ZrRxDbxApp() = default;
 
 Zr::AppRetCode ZrRxDbxApp::zrrxEntryPoint(unsigned message, void* applicationId) {
@@ -24,9 +26,11 @@ Zr::AppRetCode ZrRxDbxApp::onInitAppMsg(void* applicationId) {
         if (mdiAware_)
             linker->registerAppMdiAware(applicationId);
     }
-    for (ZrRxClass* description : classMap_)
-        if (newZrRxClass(description) != Quor::eOk)
+    for (std::size_t i = 0; i < classMap_.size(); ++i)
+        if (newZrRxClass(classMap_[i]) != Quor::eOk) {
+            std::for_each_n(classMap_.begin(), i, deleteZrRxClass);
             return Zr::kRetError;
+        }
     zrrxBuildClassHierarchy();
     return Zr::kRetOK;
 }
@@ -67,4 +71,4 @@ Zr::AppRetCode ZrRxZpxApp::onUnloadDwgMsg(void* applicationId) {
     return ZrRxDbxApp::onUnloadDwgMsg(applicationId);
 }
 
-unsigned zrrxHostApiVersion() { return 1; }
+unsigned Zr::zrrxGetApiVersion() { return 1; }

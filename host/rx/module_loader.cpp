@@ -109,14 +109,15 @@ Quor::ErrorStatus ModuleLoader::loadModule(const ZrString& fileName) {
     if (version == nullptr || entry == nullptr)
         return refuse(Quor::eInvalidInput, fill(texts::moduleWithoutEntry, fileName,
                                                 fromUtf8(version == nullptr ? versionName : entryName)));
-    if (const unsigned theirs = version(); theirs != zrrxHostApiVersion())
-        return refuse(Quor::eInvalidInput, fill(texts::moduleOtherVersion, fileName, theirs, zrrxHostApiVersion()));
+    if (const unsigned theirs = version(); theirs != Zr::zrrxGetApiVersion())
+        return refuse(Quor::eInvalidInput, fill(texts::moduleOtherVersion, fileName, theirs, Zr::zrrxGetApiVersion()));
     modules_.push_back(std::make_unique<LoadedModule>(LoadedModule{*file, std::move(library).value(), entry}));
     return initialise(*modules_.back());
 }
 
 Quor::ErrorStatus ModuleLoader::initialise(LoadedModule& module) {
     if (!send(module, Zr::kInitAppMsg)) {
+        send(module, Zr::kUnloadAppMsg); // what it had registered by then must not outlive its code
         const ZrString name = fromUtf8(module.file.stem().string());
         std::erase_if(modules_, [&](const auto& held) { return held.get() == &module; });
         return refuse(Quor::eNotApplicable, fill(texts::moduleInitFailed, name));

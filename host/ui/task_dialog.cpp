@@ -8,6 +8,18 @@
 
 #include <algorithm>
 
+namespace {
+
+// An answer that is there already is used as on a console, so that a script never waits for a person.
+quor::TaskDialogAnswer show(quor::Session& session, const CZrUiTaskDialog& dialog) {
+    if (!session.input().hasAnswer())
+        return session.front().showTaskDialog(dialog);
+    return quor::ui::askTaskDialog(dialog, quor::printText,
+                                   [&](const quor::Question& question) { return session.input().ask(question); });
+}
+
+} // namespace
+
 void CZrUiTaskDialog::SetCommandControlExtend(int id, const ZrString& explanation) {
     const auto command =
         std::find_if(commands_.begin(), commands_.end(), [id](const Command& c) { return c.id == id; });
@@ -20,12 +32,9 @@ int CZrUiTaskDialog::DoModal() {
     if (!quor::Session::exists())
         return kTaskDialogCancelled;
     quor::Session& session = quor::Session::current();
-    // An answer that is there already is used as on a console, so that a script never waits for a person.
-    const quor::TaskDialogAnswer answer =
-        session.input().hasAnswer()
-            ? quor::ui::askTaskDialog(*this, quor::printText,
-                                      [&](const quor::Question& question) { return session.input().ask(question); })
-            : session.front().showTaskDialog(*this);
+    quor::TaskDialogAnswer answer = show(session, *this);
+    while (!answer.command && !answer.inputEnded && !isCancellable())
+        answer = show(session, *this);
     if (answer.inputEnded)
         session.processor().reportEndOfInput();
     else if (!answer.command)

@@ -45,8 +45,9 @@ std::optional<TaskDialogAnswer> readTaskDialogAnswer(const CZrUiTaskDialog& dial
     const auto chosen = [&](std::size_t number, bool checked) {
         return TaskDialogAnswer{commands[number - 1].id, checked && !dialog.checkbox().empty(), false};
     };
-    if (answer.kind == Answer::Kind::Cancel || answer.kind == Answer::Kind::End)
-        return TaskDialogAnswer{std::nullopt, false, answer.kind == Answer::Kind::End};
+    const bool inputEnded = answer.kind == Answer::Kind::End || answer.kind == Answer::Kind::Broken;
+    if (inputEnded || (answer.kind == Answer::Kind::Cancel && dialog.isCancellable()))
+        return TaskDialogAnswer{std::nullopt, false, inputEnded};
     if (answer.kind == Answer::Kind::Enter && !commands.empty())
         return chosen(1, false);
     if (answer.kind != Answer::Kind::Text)

@@ -4,15 +4,24 @@
 #include "light/res/load_text.h"
 #include "sdk/rx/command_manager.h"
 
+namespace {
+
+void addHelp(RxCmdManager& manager) {
+    quor::light::checkTranslations();
+    for (const quor::light::CommandRow& row : quor::light::commandRows())
+        manager.setHelp(quor::light::commandGroup, row.globalName, quor::light::LoadedText(row.help).c_str());
+}
+
+} // namespace
+
 Zr::AppRetCode CQUORCmdsApp::onInitAppMsg(void* applicationId) {
     const Zr::AppRetCode result = ZrRxZpxApp::onInitAppMsg(applicationId);
-    quor::light::checkTranslations();
     RxCmdManager* manager = RxCmdManager::initInstance();
     for (const quor::light::CommandRow& row : quor::light::commandRows()) {
         const quor::light::LoadedText localName(row.localName);
         manager->registerCmd2(row.make, row.run, quor::light::commandGroup, row.globalName, localName.c_str(), 0);
-        manager->setHelp(quor::light::commandGroup, row.globalName, quor::light::LoadedText(row.help).c_str());
     }
+    addHelp(*manager);
     return result;
 }
 

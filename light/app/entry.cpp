@@ -9,4 +9,4 @@ extern "C" [[gnu::visibility("default")]] Zr::AppRetCode zrrxEntryPoint(unsigned
     return application.zrrxEntryPoint(message, applicationId);
 }
 
-extern "C" [[gnu::visibility("default")]] unsigned zrrxGetApiVersion() { return zrrxHostApiVersion(); }
+extern "C" [[gnu::visibility("default")]] unsigned zrrxGetApiVersion() { return Zr::zrrxGetApiVersion(); }

@@ -20,7 +20,7 @@ ZrGePoint3d belowInWorld(const ZrGePoint3d& point) { return {point.x, point.y, p
 
 ZrGePoint3d belowInUcs(const ZrGePoint3d& point) { return point - targetOffset * ucsNormalVector(); }
 
-// The same by way of the coordinates that the user sees.
+// Goes through the user's coordinates and back, as a target that is typed there does.
 ZrGePoint3d belowInUcsCoordinates(const ZrGePoint3d& point) { return zrdbUcs2Wcs(belowInWorld(zrdbWcs2Ucs(point))); }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "light/lightcmd/multi_light.h"
 
-#include "light/lightcmd/default_name.h"
 #include "light/res/load_text.h"
 #include "sdk/db/database.h"
 #include "sdk/rx/result_codes.h"
@@ -9,6 +8,7 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <new>
 
 using quor::light::printText;
 using quor::light::texts;
@@ -69,7 +69,7 @@ int CZrMultiLight::execute() {
 
 int CZrMultiLight::optionLoop() { return RTNORM; }
 
-// Only kinds of light with photometric data have something to ask here.
+// Nothing is asked for a light whose command has no photometry menu.
 int CZrMultiLight::promptPhotometricIntensity() { return RTNONE; }
 
 ZrString& CZrMultiLight::defaultNamePrefix(ZrString& out) {
@@ -100,7 +100,9 @@ bool CZrMultiLight::checkLightingUnits(short& value) {
 bool CZrMultiLight::createLight() {
     if (!askDefaultLighting(m_defaultLighting))
         return false;
-    auto light = std::make_unique<ZrDbLight>();
+    std::unique_ptr<ZrDbLight> light(new (std::nothrow) ZrDbLight);
+    if (!light)
+        return false;
     const Quor::ErrorStatus onLayer = light->setLayer(systemLightsLayerId(), true, true);
     light->setGlyphDisplay(GlyphDisplay::kOn);
     m_lightOn = light->isOn();
@@ -112,11 +114,16 @@ bool CZrMultiLight::createLight() {
         return false;
     }
     m_pLight->setGlyphDisplay(GlyphDisplay::kOff);
-    return m_pLight->setVisibility(ZrDb::kInvisible, true) == Quor::eOk;
+    if (m_pLight->setVisibility(ZrDb::kInvisible, true) == Quor::eOk)
+        return true;
+    eraseLight();
+    return false;
 }
 
+// A light that cannot be posted goes with its pointer.
 bool CZrMultiLight::postLight(std::unique_ptr<ZrDbLight> light) {
     const ZrDbObjectId id = postToDb(*light, nullptr, nullptr, true);
+    m_pLight = nullptr;
     if (!id.isValid())
         return false;
     static_cast<void>(light.release()); // it is the drawing's now
@@ -150,24 +157,27 @@ void CZrMultiLight::resetSpotShadows() {
 // Whatever the option loop answered, the light is shown again; the counter of default names goes on also where the
 // light is thrown away.
 int CZrMultiLight::keepOrErase(int result, ZrGlobalVarManager& globals) {
-    globals.set(lastNumberVariable, m_lightNumber);
-    if (m_pLight == nullptr)
-        return result;
-    m_pLight->setVisibility(ZrDb::kVisible, true);
-    m_pLight->setGlyphDisplay(GlyphDisplay::kAutomatic);
-    m_pLight->setOn(m_lightOn);
-    if (result != RTNORM) {
-        eraseLight();
-        return result;
+    if (m_pLight != nullptr) {
+        m_pLight->setVisibility(ZrDb::kVisible, true);
+        m_pLight->setGlyphDisplay(GlyphDisplay::kAutomatic);
+        m_pLight->setOn(m_lightOn);
     }
-    zwutads::setVar(L"DEFAULTLIGHTING", m_defaultLighting);
-    m_pLight->close();
+    globals.set(lastNumberVariable, m_lightNumber);
+    if (result == RTNORM)
+        zwutads::setVar(L"DEFAULTLIGHTING", m_defaultLighting);
+    else if (m_pLight != nullptr)
+        m_pLight->erase();
+    closeLight();
+    return result;
+}
+
+void CZrMultiLight::closeLight() {
+    if (m_pLight != nullptr)
+        m_pLight->close();
     m_pLight = nullptr;
-    return RTNORM;
 }
 
 void CZrMultiLight::eraseLight() {
     m_pLight->erase();
-    m_pLight->close();
-    m_pLight = nullptr;
+    closeLight();
 }

@@ -66,7 +66,7 @@ protected:
 
     ZrDbLight* m_pLight = nullptr; // open for write during the option loop
     ZrString m_name;               // as typed at the Name option, or the default that it showed
-    ZrString m_webFile;            // the photometric web file last accepted
+    ZrString m_webFile;            // the photometric web file as it was typed or chosen
     ZrString m_prevName;           // the default name last offered
     bool m_nameEntered = false;    // the Name option was used
     std::int16_t m_defaultLighting = 1;
@@ -89,6 +89,7 @@ private:
     void resetSpotShadows();
     int keepOrErase(int result, ZrGlobalVarManager& globals);
     void eraseLight();
+    void closeLight();
     [[nodiscard]] ZrString defaultName();
     void offerDefaultName();
 };

@@ -31,7 +31,8 @@ int CZrMultiLight::runOptionLoop(const OptionLoop& loop) {
     const LoadedText photometricPrompt(loop.photometricPrompt);
     const LoadedText keywords(loop.keywords);
     short units = 0;
-    zwutads::getVar(L"LIGHTINGUNITS", units);
+    if (loop.unitsRead == UnitsRead::OnceAtTheStart)
+        zwutads::getVar(L"LIGHTINGUNITS", units);
     for (;;) {
         zredInitGet(0, keywords.c_str());
         if (loop.unitsRead == UnitsRead::OnEveryPass)

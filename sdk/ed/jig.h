@@ -24,8 +24,9 @@ public:
     static ZrRxClass* desc();
     [[nodiscard]] ZrRxClass* isA() const override { return desc(); }
 
-    // Runs the drag. kNormal: a point was accepted; kNull: Enter; kCancel: Esc. Enter is refused with the host's
-    // message when the sampler did not set kNullResponseAccepted. Without 3D coordinates a typed z is dropped.
+    // Runs the drag. kNormal: a point was accepted; kNull: Enter; kCancel: Esc, or the input broke. Enter is refused
+    // with the host's message when the sampler did not set kNullResponseAccepted. Without 3D coordinates a typed z is
+    // dropped.
     DragStatus drag();
 
     void setDispPrompt(const wchar_t* prompt) { prompt_ = prompt; }

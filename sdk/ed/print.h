@@ -1,6 +1,7 @@
 // Output on the command line. `format` is the caller's own text; what comes from people or files goes into arguments.
 #pragma once
 
+#include "sdk/rx/result_codes.h"
 #include "sdk/sys/format.h"
 
 namespace quor {
@@ -12,7 +13,7 @@ void printText(std::wstring_view text);
 template <class... Args>
 int zrutPrintf(const wchar_t* format, const Args&... arguments) {
     quor::printText(zrFormat(format, {ZrFormatArg(arguments)...}));
-    return 5100;
+    return RTNORM;
 }
 
 // The same for texts that belong to the prompt area (lists that a question shows on request).

@@ -87,5 +87,10 @@ protected:
     std::vector<ZrRxLispFunction> lispFunctionMap_;
 };
 
-// The version of the host's interface; a module exports a function zrrxGetApiVersion that forwards to it.
-[[nodiscard]] unsigned zrrxHostApiVersion();
+namespace Zr {
+
+// The version of the host's interface. A module exports a C function of the same name that forwards to this one; the
+// namespace keeps the two apart for the loader, which would else find the host's in a module that has none.
+[[nodiscard]] unsigned zrrxGetApiVersion();
+
+} // namespace Zr

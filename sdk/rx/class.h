@@ -37,5 +37,6 @@ Quor::ErrorStatus newZrRxClass(ZrRxClass* description);
 Quor::ErrorStatus deleteZrRxClass(ZrRxClass* description);
 // The registered class of that name, or null. Case matters.
 [[nodiscard]] ZrRxClass* findZrRxClass(std::wstring_view name);
-// Links the registered classes into their tree; called after a module has registered its own.
+// Called after a module has registered its classes. Each class names its parent when it is made, so that the tree
+// stands by itself; the call takes classes out of the registry whose ancestors do not end in ZrRxObject.
 void zrrxBuildClassHierarchy();

@@ -10,7 +10,8 @@ public:
 
     // Loads a module by file name (a bare name is searched in the module folders) and sends it kInitAppMsg.
     // A module that is loaded already is not loaded again. eFileNotFound, eInvalidInput (no module, or one for another
-    // version of the interface), eNotApplicable (its initialisation failed); lastError() tells why in words.
+    // version of the interface), eNotApplicable (its initialisation failed: it is sent kUnloadAppMsg at once, to take
+    // back what it had begun); lastError() tells why in words.
     virtual Quor::ErrorStatus loadModule(const ZrString& fileName) = 0;
     // Sends kUnloadAppMsg and unloads. eKeyNotFound, eNotAllowed when the module did not unlock itself.
     virtual Quor::ErrorStatus unloadModule(const ZrString& fileName) = 0;

@@ -36,7 +36,8 @@ public:
     // The command that is marked as the recommended one.
     void SetEnableBtn(int id) { recommended_ = id; }
 
-    // Shows the dialog over the active window and waits: the id of the chosen command, or kTaskDialogCancelled.
+    // Shows the dialog over the active window and waits: the id of the chosen command, or kTaskDialogCancelled. Where
+    // it cannot be cancelled, only the end of all input answers that.
     int DoModal();
     [[nodiscard]] bool GetVerificationCheckboxState() const { return checked_; }
 
@@ -47,6 +48,10 @@ public:
     [[nodiscard]] const ZrString& checkbox() const { return checkbox_; }
     [[nodiscard]] int options() const { return options_; }
     [[nodiscard]] int buttons() const { return buttons_; }
+    // Whether Esc is an answer: the option allows it, or there is a Cancel button.
+    [[nodiscard]] bool isCancellable() const {
+        return (options_ & kTaskDialogAllowCancellation) != 0 || (buttons_ & kTaskDialogCancelButton) != 0;
+    }
     [[nodiscard]] int recommended() const { return recommended_; }
 
 private:

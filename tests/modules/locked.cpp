@@ -18,4 +18,4 @@ App app;
 extern "C" [[gnu::visibility("default")]] Zr::AppRetCode zrrxEntryPoint(unsigned message, void* id) {
     return app.zrrxEntryPoint(message, id);
 }
-extern "C" [[gnu::visibility("default")]] unsigned zrrxGetApiVersion() { return zrrxHostApiVersion(); }
+extern "C" [[gnu::visibility("default")]] unsigned zrrxGetApiVersion() { return Zr::zrrxGetApiVersion(); }

@@ -1,4 +1,4 @@
 // A module that names its version but exports no entry point.
 #include "sdk/rx/application.h"
 
-extern "C" [[gnu::visibility("default")]] unsigned zrrxGetApiVersion() { return zrrxHostApiVersion(); }
+extern "C" [[gnu::visibility("default")]] unsigned zrrxGetApiVersion() { return Zr::zrrxGetApiVersion(); }

@@ -4,4 +4,4 @@
 #include <cstdlib>
 
 extern "C" [[gnu::visibility("default")]] Zr::AppRetCode zrrxEntryPoint(unsigned, void*) { std::abort(); }
-extern "C" [[gnu::visibility("default")]] unsigned zrrxGetApiVersion() { return zrrxHostApiVersion() + 41; }
+extern "C" [[gnu::visibility("default")]] unsigned zrrxGetApiVersion() { return Zr::zrrxGetApiVersion() + 41; }

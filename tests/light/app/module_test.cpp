@@ -47,7 +47,7 @@ TEST(Module, ItWorksWithSeveralOpenDrawings) {
     EXPECT_TRUE(session.session().modules().isMdiAware(L"light"));
 }
 
-TEST(Module, ItReportsTheVersionOfTheHostsInterface) { EXPECT_EQ(zrrxGetApiVersion(), zrrxHostApiVersion()); }
+TEST(Module, ItReportsTheVersionOfTheHostsInterface) { EXPECT_EQ(zrrxGetApiVersion(), Zr::zrrxGetApiVersion()); }
 
 TEST(Module, MessagesFromSixteenOnAnswerZeroAndChangeNothing) {
     TestSession session;

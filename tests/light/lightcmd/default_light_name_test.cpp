@@ -1,4 +1,4 @@
-#include "light/lightcmd/default_name.h"
+#include "light/lightcmd/light_name.h"
 
 #include "sdk/sys/case_fold.h"
 

@@ -1,4 +1,4 @@
-#include "light/lightcmd/default_name.h"
+#include "light/lightcmd/light_name.h"
 
 namespace quor::light {
 

@@ -1,5 +1,5 @@
 // Names of lights against those that the current space has.
-#include "light/lightcmd/default_name.h"
+#include "light/lightcmd/light_name.h"
 #include "light/lightcmd/multi_light.h"
 #include "sdk/db/database.h"
 
