@@ -84,12 +84,16 @@ std::size_t ZrDbBlockTableRecord::entityCount(const ZrRxClass* entityClass) cons
 }
 
 bool ZrDbBlockTableRecord::hasLightNamed(const ZrString& name, ZrDbObjectId except) const {
-    std::uint32_t count = quor::db::LightNames::count(database()->host(), blockOf(*this), name);
+    std::uint32_t count = quor::db::LightNames::of(database()->host(), blockOf(*this)).count(name);
     const auto* light =
         except.isNull() || except.isErased() ? nullptr : zrrxCast<ZrDbLight>(except.entry()->object.get());
     if (light != nullptr && except.entry()->owner == blockOf(*this).record && quor::equalFolded(light->name(), name))
         --count;
     return count > 0;
+}
+
+short ZrDbBlockTableRecord::freeLightNumber(const ZrString& prefix, short start) const {
+    return quor::db::LightNames::of(database()->host(), blockOf(*this)).nextFree(prefix, start);
 }
 
 Quor::ErrorStatus ZrDbBlockTableRecord::appendZrDbEntity(ZrDbObjectId& id, ZrDbEntity* entity) {

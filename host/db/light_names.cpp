@@ -13,53 +13,44 @@ const ZrString& nameOf(const ObjectEntry& light) {
 
 } // namespace
 
-std::uint32_t LightNames::count(Database& database, Block& block, const ZrString& name) {
+LightNameIndex& LightNames::of(Database& database, Block& block) {
     if (block.lightNames == nullptr) {
-        block.lightNames = std::make_unique<NameCounts>();
+        block.lightNames = std::make_unique<LightNameIndex>();
         for (ObjectEntry* light : database.structure().entitiesOf(block, database.file().typeNumber("LIGHT"))) {
             if (light->erased)
                 continue;
             database.materialise(*light);
-            add(*block.lightNames, *light);
+            block.lightNames->add(nameOf(*light));
         }
     }
-    const auto found = block.lightNames->find(name);
-    return found == block.lightNames->end() ? 0 : found->second;
+    return *block.lightNames;
 }
 
-NameCounts* LightNames::countsOf(const ObjectEntry& entry) {
+LightNameIndex* LightNames::indexOf(const ObjectEntry& entry) {
     if (entry.kind != ObjectKind::Entity || entry.object == nullptr || !entry.object->isKindOf(ZrDbLight::desc()))
         return nullptr;
     Block* block = entry.database->structure().blockOf(entry.owner);
     return block == nullptr ? nullptr : block->lightNames.get();
 }
 
-void LightNames::add(NameCounts& counts, const ObjectEntry& entry) { ++counts[nameOf(entry)]; }
-
-void LightNames::remove(NameCounts& counts, const ObjectEntry& entry) {
-    const auto found = counts.find(nameOf(entry));
-    if (found != counts.end() && --found->second == 0)
-        counts.erase(found);
-}
-
 void LightNames::entityErased(ObjectEntry& entry, bool erased) {
-    NameCounts* counts = countsOf(entry);
-    if (counts == nullptr)
+    LightNameIndex* index = indexOf(entry);
+    if (index == nullptr)
         return;
     if (erased)
-        remove(*counts, entry);
+        index->remove(nameOf(entry));
     else
-        add(*counts, entry);
+        index->add(nameOf(entry));
 }
 
 LightNames::Renaming::Renaming(ObjectEntry& entry) : entry_(entry) {
-    if (NameCounts* counts = entry.erased ? nullptr : countsOf(entry))
-        remove(*counts, entry);
+    if (LightNameIndex* index = entry.erased ? nullptr : indexOf(entry))
+        index->remove(nameOf(entry));
 }
 
 LightNames::Renaming::~Renaming() {
-    if (NameCounts* counts = entry_.erased ? nullptr : countsOf(entry_))
-        add(*counts, entry_);
+    if (LightNameIndex* index = entry_.erased ? nullptr : indexOf(entry_))
+        index->add(nameOf(entry_));
 }
 
 } // namespace quor::db

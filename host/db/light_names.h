@@ -1,5 +1,4 @@
-// How many lights of a block have a name: kept beside each block once somebody asked, so that finding a free name costs
-// the same however many lights there are.
+// The names of the lights of a block: an index kept beside each block once somebody asked, and up to date from then on.
 #pragma once
 
 #include "host/db/structure.h"
@@ -8,8 +7,8 @@ namespace quor::db {
 
 class LightNames {
 public:
-    // How many lights of the block that are not erased have the name, without regard to case.
-    [[nodiscard]] static std::uint32_t count(Database& database, Block& block, const ZrString& name);
+    // The names of the lights of the block that are not erased.
+    [[nodiscard]] static LightNameIndex& of(Database& database, Block& block);
 
     // A light was appended, erased or came back.
     static void entityErased(ObjectEntry& entry, bool erased);
@@ -27,10 +26,8 @@ public:
     };
 
 private:
-    // The counts of the light's block; null for what is no light, and while nobody has asked for them.
-    [[nodiscard]] static NameCounts* countsOf(const ObjectEntry& entry);
-    static void add(NameCounts& counts, const ObjectEntry& entry);
-    static void remove(NameCounts& counts, const ObjectEntry& entry);
+    // The index of the light's block; null for what is no light, and while nobody has asked for it.
+    [[nodiscard]] static LightNameIndex* indexOf(const ObjectEntry& entry);
 };
 
 } // namespace quor::db

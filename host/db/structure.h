@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/db/drawing_file.h"
+#include "host/db/light_name_index.h"
 #include "host/db/object_table.h"
 #include "host/sys/case_fold.h"
 #include "sdk/sys/string.h"
@@ -24,9 +25,6 @@ struct SymbolTable {
     std::uint64_t insertAt = 0;
 };
 
-// How many entities of a block have a name, without regard to case.
-using NameCounts = std::unordered_map<ZrString, std::uint32_t, FoldedHash, FoldedEqual>;
-
 // A block record with what it holds.
 struct Block {
     ObjectEntry* record = nullptr;
@@ -37,7 +35,7 @@ struct Block {
     std::uint64_t insertAt = 0;
     // Entities of one type, made when first asked for.
     std::unordered_map<dxf::NameId, std::vector<ObjectEntry*>> byType;
-    std::unique_ptr<NameCounts> lightNames;
+    std::unique_ptr<LightNameIndex> lightNames;
 };
 
 struct LayoutRecord {

@@ -5,7 +5,6 @@
 #include "sdk/sys/string.h"
 
 #include <cstdint>
-#include <functional>
 #include <string_view>
 
 namespace quor::light {
@@ -20,9 +19,9 @@ inline constexpr std::size_t maxNameLength = 255;
 // The word followed by the number in decimal.
 [[nodiscard]] ZrString defaultLightName(const ZrString& prefix, std::int16_t number);
 
-// The first number behind `last` whose name is not taken. Numbers have 16 bits: 32767 is followed by -32768. When all
-// of them are taken, the search ends where it began, with a name that is taken.
-[[nodiscard]] std::int16_t nextFreeNumber(std::int16_t last, const ZrString& prefix,
-                                          const std::function<bool(const ZrString&)>& isTaken);
+// The number behind this one. Numbers have 16 bits: -32768 follows 32767.
+[[nodiscard]] constexpr std::int16_t followingNumber(std::int16_t number) {
+    return static_cast<std::int16_t>(static_cast<std::uint16_t>(number) + 1U);
+}
 
 } // namespace quor::light

@@ -3,16 +3,16 @@
 #include "light/lightcmd/multi_light.h"
 #include "sdk/db/database.h"
 
+// The light that is being created has no name yet and so takes no number.
 void CZrMultiLight::nextDefaultNumber(short& number) {
     ZrDbDatabase* database = zrdbWorkingDatabase();
     if (database == nullptr)
         return;
     const ZrDbObjectPointer<ZrDbBlockTableRecord> space(database->currentSpaceId(), ZrDb::kForRead);
-    const ZrDbObjectId own = m_pLight->objectId();
+    number = quor::light::followingNumber(number);
     ZrString prefix;
-    number = quor::light::nextFreeNumber(number, defaultNamePrefix(prefix), [&](const ZrString& name) {
-        return space && space->hasLightNamed(name, own);
-    });
+    if (space)
+        number = space->freeLightNumber(defaultNamePrefix(prefix), number);
 }
 
 // A light that is being created counts too: its name is written only when its command ends.

@@ -37,6 +37,10 @@ public:
     // Costs the same however many lights there are.
     [[nodiscard]] bool hasLightNamed(const ZrString& name, ZrDbObjectId except = {}) const;
 
+    // The first of start, start + 1, … (-32768 follows 32767) that makes no light's name behind the prefix, without
+    // regard to case; `start` when all 65,536 are taken. Costs the same however many lights there are.
+    [[nodiscard]] short freeLightNumber(const ZrString& prefix, short start) const;
+
     // Appends an entity, which from then on belongs to the drawing and is open for write. Needs the block open for
     // write.
     Quor::ErrorStatus appendZrDbEntity(ZrDbObjectId& id, ZrDbEntity* entity);

@@ -1,0 +1,86 @@
+#include "host/db/light_name_index.h"
+
+#include <bit>
+#include <charconv>
+
+namespace quor::db {
+
+namespace {
+
+constexpr std::size_t kWordBits = 64;
+
+// The number behind the prefix, when the rest of the name is written as a number is.
+std::optional<std::int16_t> numberBehind(const ZrString& prefix, const ZrString& name) {
+    if (name.size() == prefix.size() || !startsWithFolded(name, prefix))
+        return std::nullopt;
+    const std::wstring_view digits = std::wstring_view(name).substr(prefix.size());
+    std::array<char, 6> text{}; // "-32768"
+    if (digits.size() > text.size())
+        return std::nullopt;
+    for (std::size_t i = 0; i < digits.size(); ++i)
+        text[i] = digits[i] > 0 && digits[i] < 0x80 ? static_cast<char>(digits[i]) : '?';
+    std::int16_t number = 0;
+    const char* const end = text.data() + digits.size();
+    const auto [stopped, error] = std::from_chars(text.data(), end, number);
+    if (error != std::errc() || stopped != end || std::to_wstring(number) != digits)
+        return std::nullopt;
+    return number;
+}
+
+} // namespace
+
+void LightNameIndex::NumberSet::set(std::int16_t number, bool taken) {
+    const auto index = static_cast<std::uint16_t>(number);
+    const std::uint64_t bit = std::uint64_t{1} << (index % kWordBits);
+    std::uint64_t& word = taken_[index / kWordBits];
+    word = taken ? word | bit : word & ~bit;
+}
+
+std::optional<std::int16_t> LightNameIndex::NumberSet::firstFreeFrom(std::int16_t start) const {
+    const auto first = static_cast<std::uint16_t>(start);
+    std::size_t word = first / kWordBits;
+    // The bits before the start count at the end, when the search comes round to their word again.
+    std::uint64_t free = ~taken_[word] & (~std::uint64_t{0} << (first % kWordBits));
+    for (std::size_t tried = 0; tried <= taken_.size(); ++tried) {
+        if (free != 0)
+            return static_cast<std::int16_t>(word * kWordBits + static_cast<std::size_t>(std::countr_zero(free)));
+        word = (word + 1) % taken_.size();
+        free = ~taken_[word];
+    }
+    return std::nullopt;
+}
+
+void LightNameIndex::mark(const ZrString& name, bool taken) {
+    for (auto& [prefix, numbers] : numbers_)
+        if (const auto number = numberBehind(prefix, name))
+            numbers.set(*number, taken);
+}
+
+void LightNameIndex::add(const ZrString& name) {
+    if (++counts_[name] == 1)
+        mark(name, true);
+}
+
+void LightNameIndex::remove(const ZrString& name) {
+    const auto found = counts_.find(name);
+    if (found == counts_.end() || --found->second > 0)
+        return;
+    counts_.erase(found);
+    mark(name, false);
+}
+
+std::uint32_t LightNameIndex::count(const ZrString& name) const {
+    const auto found = counts_.find(name);
+    return found == counts_.end() ? 0 : found->second;
+}
+
+std::int16_t LightNameIndex::nextFree(const ZrString& prefix, std::int16_t start) {
+    const auto [found, isNew] = numbers_.try_emplace(prefix);
+    if (isNew)
+        for (const auto& [name, count] : counts_)
+            if (const auto number = numberBehind(prefix, name))
+                found->second.set(*number, true);
+    return found->second.firstFreeFrom(start).value_or(start);
+}
+
+} // namespace quor::db
