@@ -3,6 +3,7 @@
 
 #include <array>
 #include <bit>
+#include <type_traits>
 
 namespace quor::light {
 
@@ -219,7 +220,11 @@ inline constexpr TextTable texts{};
 
 inline constexpr std::size_t textCount = sizeof(TextTable) / sizeof(Text);
 
-// The same rows one after the other.
+// The table is its rows one after the other, and nothing else.
+static_assert(sizeof(TextTable) % sizeof(Text) == 0 && alignof(TextTable) == alignof(Text));
+static_assert(std::is_standard_layout_v<TextTable> && std::is_trivially_copyable_v<TextTable>);
+
+// The same rows as an array.
 [[nodiscard]] inline std::array<Text, textCount> allTexts() {
     return std::bit_cast<std::array<Text, textCount>>(texts);
 }

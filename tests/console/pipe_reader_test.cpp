@@ -55,6 +55,11 @@ TEST_F(PipeReaderTest, ByteOrderMarkAtTheStartIsSkipped) {
     EXPECT_EQ(readFrom(100).text, L"\xFEFFX");
 }
 
+TEST_F(PipeReaderTest, AReadErrorIsTheBrokenEnd) {
+    PipeReader reader([](char*, std::size_t) { return std::ptrdiff_t{-1}; }, output_);
+    EXPECT_EQ(reader.read({}).kind, Line::Kind::Broken);
+}
+
 TEST_F(PipeReaderTest, InvalidBytesSurvive) {
     input_ = "a\xFF\n";
     EXPECT_EQ(readFrom(100).text, L"a\xDCFF");

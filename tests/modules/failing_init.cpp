@@ -1,4 +1,5 @@
-// A module whose initialisation fails after it has begun: the messages it heard are in FAILINGHEARD until it is unloaded.
+// A module whose initialisation fails after it has begun: the messages it heard are in FAILINGHEARD until it is
+// unloaded.
 #include "tests/modules/recorder.h"
 
 namespace {

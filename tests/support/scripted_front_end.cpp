@@ -45,6 +45,10 @@ Answer ScriptedFrontEnd::nextAnswer(const Question& question) {
         showAnswer({});
         return {Answer::Kind::End, {}, {}};
     }
+    if (std::holds_alternative<Break>(*next)) {
+        showAnswer({});
+        return {Answer::Kind::Broken, {}, {}};
+    }
     if (const auto* picked = std::get_if<Pick>(&*next)) {
         samples_ = picked->samples;
         showAnswer({});
@@ -73,6 +77,7 @@ Answer ScriptedFrontEnd::drag(const Question& question, const std::function<void
 }
 
 TaskDialogAnswer ScriptedFrontEnd::showTaskDialog(const CZrUiTaskDialog& dialog) {
+    lastDialog_ = dialog;
     if (const std::optional<TaskDialogAnswer> ready = takeFirst(dialogAnswers_))
         return *ready;
     return ui::askTaskDialog(

@@ -3,6 +3,7 @@
 
 #include "host/ed/screen_text.h"
 #include "host/front.h"
+#include "sdk/ui/task_dialog.h"
 
 #include <deque>
 #include <functional>
@@ -18,6 +19,8 @@ public:
     void type(ZrString line) { lines_.push_back(std::move(line)); }
     // A point that is picked next, in world coordinates; during a drag the cursor passes the samples first.
     void pick(const ZrGePoint3d& point, std::vector<ZrGePoint3d> samples = {});
+    // The input breaks at this place.
+    void breakInput() { lines_.emplace_back(Break{}); }
     // Answers the next task dialog directly; without one it is answered by what is typed.
     void answerDialog(const TaskDialogAnswer& answer) { dialogAnswers_.push_back(answer); }
     // The file that is chosen next.
@@ -32,6 +35,8 @@ public:
     [[nodiscard]] const std::vector<ZrString>& echoed() const { return echoed_; }
     [[nodiscard]] const std::vector<ZrString>& lastKeywords() const { return lastKeywords_; }
     [[nodiscard]] std::optional<ZrGePoint3d> lastBase() const { return lastBase_; }
+    // The task dialog that was shown last, as it was asked for.
+    [[nodiscard]] const std::optional<CZrUiTaskDialog>& lastDialog() const { return lastDialog_; }
     [[nodiscard]] std::size_t linesLeft() const { return lines_.size(); }
 
     void print(std::wstring_view text) override;
@@ -42,6 +47,7 @@ public:
     std::optional<ZrString> chooseFile(const FileQuestion& question) override;
 
 private:
+    struct Break {};
     struct Pick {
         ZrGePoint3d point;
         std::vector<ZrGePoint3d> samples;
@@ -50,7 +56,8 @@ private:
     [[nodiscard]] Answer nextAnswer(const Question& question);
     void showAnswer(std::wstring_view answer);
 
-    std::deque<std::variant<ZrString, Pick>> lines_;
+    std::deque<std::variant<ZrString, Pick, Break>> lines_;
+    std::optional<CZrUiTaskDialog> lastDialog_;
     std::deque<TaskDialogAnswer> dialogAnswers_;
     std::deque<std::optional<ZrString>> files_;
     ZrString screen_;

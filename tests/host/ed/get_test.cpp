@@ -1,6 +1,7 @@
 #include "sdk/ed/get.h"
 
 #include "host/texts/text.h"
+#include "sdk/ed/selection.h"
 #include "tests/support/test_session.h"
 
 #include <gtest/gtest.h>
@@ -250,10 +251,56 @@ TEST_F(Get, CommandThatIsNotTransparentIsRefused) {
     EXPECT_TRUE(shows(L"命令 DRAW 不能透明使用。"));
 }
 
-TEST_F(Get, ApostropheThatNamesNoCommandIsTextForAString) {
-    type({L"'t Hooft"});
+TEST_F(Get, ApostropheIsTextForAString) {
+    int runs = 0;
+    test_.addCommand(
+        L"LOOK", [&] { return ++runs, RTNORM; }, quor::ed::kTransparent);
+    type({L"'t Hooft", L"'LOOK"});
     EXPECT_EQ(zredGetString(1, L"\nName: ", text_), RTNORM);
     EXPECT_EQ(text_, L"'t Hooft");
+    EXPECT_EQ(zredGetString(0, L"\nName: ", text_), RTNORM);
+    EXPECT_EQ(text_, L"'LOOK");
+    EXPECT_EQ(runs, 0);
+}
+
+class BrokenInput : public Get {
+protected:
+    BrokenInput() { test_.front().breakInput(); }
+};
+
+TEST_F(BrokenInput, IsAnErrorForATextThatStaysAsItWas) {
+    EXPECT_EQ(zredGetString(1, L"\nName: ", text_), RTERROR);
+    EXPECT_EQ(text_, L"before");
+}
+
+TEST_F(BrokenInput, IsAnErrorForAKeyword) {
+    zredInitGet(0, L"eXit _eXit");
+    EXPECT_EQ(zredGetKword(L"\nOption: ", text_), RTERROR);
+}
+
+TEST_F(BrokenInput, IsAnErrorForNumbers) {
+    EXPECT_EQ(zredGetReal(L"\nN: ", number_), RTERROR);
+    EXPECT_EQ(number_, -7);
+}
+
+TEST_F(BrokenInput, IsAnErrorForWholeNumbers) { EXPECT_EQ(zredGetInt(L"\nN: ", whole_), RTERROR); }
+
+TEST_F(BrokenInput, IsAnErrorForDistances) { EXPECT_EQ(zredGetDist(nullptr, L"\nD: ", number_), RTERROR); }
+
+TEST_F(BrokenInput, IsAnErrorForAngles) { EXPECT_EQ(zredGetAngle(nullptr, L"\nA: ", number_), RTERROR); }
+
+TEST_F(BrokenInput, IsAnErrorForPoints) { EXPECT_EQ(zredGetPoint(nullptr, L"\nP: ", point_), RTERROR); }
+
+TEST_F(BrokenInput, IsAnErrorForSelections) {
+    ZrDbObjectIdArray ids;
+    EXPECT_EQ(zredSelect(nullptr, ids), RTERROR);
+}
+
+TEST_F(BrokenInput, EndsForTheQuestionsThatFollow) {
+    type({L"1"});
+    EXPECT_EQ(zredGetReal(L"\nN: ", number_), RTERROR);
+    EXPECT_EQ(zredGetReal(L"\nN: ", number_), RTCAN);
+    EXPECT_EQ(asked(), 1U);
 }
 
 TEST_F(Get, EnglishRefusalsAreSpokenInEnglish) {

@@ -64,13 +64,16 @@ TEST(Application, ClassMapIsRegisteredOnInitialisationAndTakenOutOnUnload) {
     EXPECT_EQ(findZrRxClass(L"ApplicationTestLamp"), nullptr);
 }
 
-TEST(Application, InitialisationFailsWhenAClassNameIsTaken) {
+TEST(Application, InitialisationThatMeetsATakenClassNameLeavesNothingBehind) {
     ZrRxClass mine(L"ApplicationTestLamp", ZrRxObject::desc());
     ZrRxClass other(L"ApplicationTestLamp", ZrRxObject::desc());
     ASSERT_EQ(newZrRxClass(&other), Quor::eOk);
     RecordingApp app;
-    app.classMap_ = {&mine};
+    ZrRxClass first(L"ApplicationTestShade", ZrRxObject::desc());
+    app.classMap_ = {&first, &mine};
     EXPECT_EQ(app.zrrxEntryPoint(Zr::kInitAppMsg, nullptr), Zr::kRetError);
+    EXPECT_EQ(findZrRxClass(L"ApplicationTestShade"), nullptr);
+    EXPECT_EQ(findZrRxClass(L"ApplicationTestLamp"), &other);
     EXPECT_EQ(deleteZrRxClass(&other), Quor::eOk);
 }
 

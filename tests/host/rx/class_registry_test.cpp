@@ -41,6 +41,18 @@ TEST(ClassRegistry, NameOfAnotherClassIsRefused) {
     EXPECT_EQ(deleteZrRxClass(Lamp::desc()), Quor::eOk);
 }
 
+TEST(ClassRegistry, ClassesOutsideTheTreeAreTakenOutWhenItIsBuilt) {
+    ZrRxClass orphan(L"Orphan", nullptr);
+    ASSERT_EQ(newZrRxClass(&orphan), Quor::eOk);
+    ASSERT_EQ(newZrRxClass(Lamp::desc()), Quor::eOk);
+
+    zrrxBuildClassHierarchy();
+
+    EXPECT_EQ(findZrRxClass(L"Orphan"), nullptr);
+    EXPECT_EQ(findZrRxClass(L"Lamp"), Lamp::desc());
+    EXPECT_EQ(deleteZrRxClass(Lamp::desc()), Quor::eOk);
+}
+
 TEST(ClassRegistry, NullIsRefused) {
     EXPECT_EQ(newZrRxClass(nullptr), Quor::eInvalidInput);
     EXPECT_EQ(deleteZrRxClass(nullptr), Quor::eInvalidInput);

@@ -2,6 +2,7 @@
 
 #include "host/sys/system_variables.h"
 #include "host/sys/utf8.h"
+#include "sdk/sys/ads.h"
 #include "tests/support/test_session.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +14,7 @@ using quor::test::TestSession;
 namespace {
 
 ZrString moduleFile(const std::string& name) {
-    return quor::fromUtf8(std::string(QUOR_BUILD_DIR) + "/lib/quor/test-modules/" + name);
+    return quor::fromUtf8(QUOR_BUILD_DIR "/lib/quor/test-modules/" + name);
 }
 
 bool contains(const ZrString& text, std::wstring_view part) { return text.find(part) != ZrString::npos; }
@@ -54,19 +55,21 @@ TEST_F(Loader, ModuleWithoutVersionIsRefusedByName) {
 
 TEST_F(Loader, ModuleForAnotherVersionIsRefusedWithBothVersions) {
     EXPECT_EQ(modules().loadModule(moduleFile("wrong_version.so")), Quor::eInvalidInput);
-    EXPECT_TRUE(contains(modules().lastError(), std::to_wstring(zrrxHostApiVersion() + 41)));
-    EXPECT_TRUE(contains(modules().lastError(), std::to_wstring(zrrxHostApiVersion())));
+    EXPECT_TRUE(contains(modules().lastError(), std::to_wstring(Zr::zrrxGetApiVersion() + 41)));
+    EXPECT_TRUE(contains(modules().lastError(), std::to_wstring(Zr::zrrxGetApiVersion())));
 }
 
 TEST_F(Loader, ModuleWhoseInitialisationFailsIsNotLoaded) {
     EXPECT_EQ(modules().loadModule(moduleFile("failing_init.so")), Quor::eNotApplicable);
     EXPECT_TRUE(modules().loaded().empty());
     EXPECT_TRUE(contains(modules().lastError(), L"failing_init"));
+    EXPECT_FALSE(session_.session().variables().has(L"FAILINGHEARD")); // told to take back what it had begun
 }
 
 TEST_F(Loader, ExceptionInInitialisationCountsAsFailure) {
     EXPECT_EQ(modules().loadModule(moduleFile("throwing_init.so")), Quor::eNotApplicable);
     EXPECT_TRUE(modules().loaded().empty());
+    EXPECT_FALSE(session_.session().variables().has(L"THROWINGHEARD"));
 }
 
 TEST_F(Loader, ModuleHearsOfItsStartAndOfTheOpenDrawing) {
@@ -127,6 +130,24 @@ TEST_F(Loader, AllModulesAreUnloadedAtTheEnd) {
     modules().unloadAll();
     EXPECT_TRUE(modules().loaded().empty());
     EXPECT_FALSE(session_.session().variables().has(L"GOODHEARD"));
+}
+
+TEST_F(Loader, TheModuleThatWasLoadedLastIsUnloadedFirst) {
+    ASSERT_EQ(modules().loadModule(moduleFile("locked.so")), Quor::eOk);
+    ASSERT_EQ(modules().loadModule(moduleFile("good.so")), Quor::eOk);
+    modules().unloadAll();
+    int seen = -1;
+    EXPECT_TRUE(zwutads::GetValueFromReg(L"lockedSawGood", seen));
+    EXPECT_EQ(seen, 0);
+}
+
+TEST_F(Loader, TheModuleThatWasLoadedFirstStandsWhenTheOthersAreUnloaded) {
+    ASSERT_EQ(modules().loadModule(moduleFile("good.so")), Quor::eOk);
+    ASSERT_EQ(modules().loadModule(moduleFile("locked.so")), Quor::eOk);
+    modules().unloadAll();
+    int seen = -1;
+    EXPECT_TRUE(zwutads::GetValueFromReg(L"lockedSawGood", seen));
+    EXPECT_EQ(seen, 13);
 }
 
 TEST_F(Loader, UnknownApplicationIdUnlocksNothing) {

@@ -20,6 +20,7 @@ CZrUiTaskDialog dialog() {
     result.AddCommandControl(62, L"保持");
     result.SetCommandControlExtend(62, L"说明。");
     result.SetVerificationCheckboxText(L"记住");
+    result.SetCommonButtons(kTaskDialogCancelButton);
     return result;
 }
 
@@ -73,6 +74,41 @@ TEST(TaskDialog, CancelAnswersTheCancelId) {
     TestSession test;
     test.front().type(L"^C");
     EXPECT_EQ(dialog().DoModal(), kTaskDialogCancelled);
+}
+
+TEST(TaskDialog, TheOptionAloneAllowsEscToo) {
+    TestSession test;
+    test.front().type(L"^C");
+    CZrUiTaskDialog shown = dialog();
+    shown.SetCommonButtons(0);
+    shown.SetOptions(kTaskDialogAllowCancellation);
+    EXPECT_EQ(shown.DoModal(), kTaskDialogCancelled);
+}
+
+TEST(TaskDialog, WhereItCannotBeCancelledEscIsAskedAgain) {
+    TestSession test;
+    test.front().type({L"^C", L"2"});
+    CZrUiTaskDialog shown = dialog();
+    shown.SetCommonButtons(0);
+    EXPECT_EQ(shown.DoModal(), 62);
+    EXPECT_EQ(test.front().asked().size(), 2U);
+}
+
+TEST(TaskDialog, WhereItCannotBeCancelledAWindowThatWasClosedComesAgain) {
+    TestSession test;
+    test.front().answerDialog({std::nullopt, false, false});
+    test.front().answerDialog({61, true, false});
+    CZrUiTaskDialog shown = dialog();
+    shown.SetCommonButtons(0);
+    EXPECT_EQ(shown.DoModal(), 61);
+    EXPECT_TRUE(shown.GetVerificationCheckboxState());
+}
+
+TEST(TaskDialog, TheEndOfTheInputCancelsEveryDialog) {
+    TestSession test;
+    CZrUiTaskDialog shown = dialog();
+    shown.SetCommonButtons(0);
+    EXPECT_EQ(shown.DoModal(), kTaskDialogCancelled);
 }
 
 TEST(TaskDialog, ScriptAnswersItsDialogs) {

@@ -5,7 +5,9 @@
 #include "sdk/rx/command.h"
 #include "tests/support/test_session.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
+#include <optional>
 
 extern "C" Zr::AppRetCode zrrxEntryPoint(unsigned message, void* applicationId);
 extern "C" unsigned zrrxGetApiVersion();
@@ -94,11 +96,47 @@ TEST(CommandRows, TheBuiltInLocalNameOfEachCommandIsItsGlobalName) {
         EXPECT_STREQ(row.localName.builtIn, row.globalName);
 }
 
-TEST(CommandRows, EachMakesACommandObject) {
-    for (const light::CommandRow& row : light::commandRows()) {
-        const std::unique_ptr<RxCommand> command(row.make());
-        EXPECT_NE(command, nullptr) << row.localName.number;
+TEST(CommandRows, PointLightMakesItsCommandObject) {
+    const std::unique_ptr<RxCommand> command(light::commandRows().front().make());
+
+    ASSERT_NE(command, nullptr);
+    EXPECT_STREQ(command->typeName(), L"POINTLIGHTCMD");
+}
+
+// A session with a language of its own, whose keyword module is given.
+class ModuleInALanguage : public testing::Test {
+protected:
+    void start(const char* keywordModule) {
+        const std::filesystem::path language = folder_.path() / "lang" / "en";
+        std::filesystem::create_directories(language);
+        std::ofstream(language / "quorkwlres.txt") << keywordModule;
+        session_.emplace(front_, SessionOptions{.settingsFile = folder_.path() / "settings.ini",
+                                                .resourceFolder = folder_.path(),
+                                                .moduleFolders = {QUOR_BUILD_DIR "/lib/quor/modules"},
+                                                .language = L"en"});
+        ASSERT_EQ(session_->modules().loadModule(L"light.so"), Quor::eOk);
     }
+    ZrString localNameOfPointLight() {
+        const ed::Command* command = session_->commands().find(ed::CommandWord{.name = L"POINTLIGHT"});
+        return command != nullptr ? command->localName : ZrString();
+    }
+
+private:
+    test::TemporaryFolder folder_;
+    test::ScriptedFrontEnd front_;
+    std::optional<Session> session_;
+};
+
+TEST_F(ModuleInALanguage, ItsKeywordModuleGivesTheLocalName) {
+    start("63301 = \"PLAMP\"\n");
+
+    EXPECT_EQ(localNameOfPointLight(), L"PLAMP");
+}
+
+TEST_F(ModuleInALanguage, ANumberThatIsMissingThereIsTheBuiltInName) {
+    start("63305 = \"SLAMP\"\n");
+
+    EXPECT_EQ(localNameOfPointLight(), L"POINTLIGHT");
 }
 
 } // namespace

@@ -10,6 +10,33 @@ namespace {
 
 constexpr const wchar_t* onSourceMessage = L"**聚光灯的光源和目标不能相同。**";
 
+// A jig that keeps what each of its samples answered and what its light was like afterwards.
+class WatchedJig : public CZrLightJig {
+public:
+    using CZrLightJig::CZrLightJig;
+
+    DragStatus sampler() override {
+        statuses.push_back(CZrLightJig::sampler());
+        controls = userInputControls();
+        return statuses.back();
+    }
+    bool update() override {
+        const bool answer = CZrLightJig::update();
+        const auto& light = static_cast<const ZrDbLight&>(*entity());
+        positions.push_back(light.position());
+        targets.push_back(light.targetLocation());
+        return answer;
+    }
+
+    std::vector<DragStatus> statuses;
+    std::vector<ZrGePoint3d> positions;
+    std::vector<ZrGePoint3d> targets;
+    int controls = 0;
+};
+
+constexpr auto normal = ZrEdJig::kNormal;
+constexpr auto noChange = ZrEdJig::kNoChange;
+
 // A command that drags a light with what is typed and picked.
 class LightJigTest : public testing::Test {
 protected:
@@ -31,6 +58,16 @@ protected:
             CZrLightJig jig(&light_, kind);
             return jig.dragSource() && jig.dragTarget();
         });
+    }
+    WatchedJig watchSource(const wchar_t* kind) {
+        WatchedJig jig(&light_, kind);
+        run([&] { return jig.dragSource(); });
+        return jig;
+    }
+    WatchedJig watchTarget(const wchar_t* kind) {
+        WatchedJig jig(&light_, kind);
+        run([&] { return jig.dragTarget(); });
+        return jig;
     }
     // Turns the user coordinate system a quarter about the world's x axis, so that its z axis is the world's -y.
     void turnUcs() {
@@ -73,18 +110,69 @@ TEST_F(LightJigTest, APickedPositionMovesTheLight) {
     expectPoint(light_.position(), 4, 5, 6);
 }
 
+TEST_F(LightJigTest, TheLightFollowsTheCursor) {
+    front().pick({4, 5, 6}, {{1, 1, 1}, {2, 2, 2}});
+
+    const WatchedJig jig = watchSource(L"PointLight");
+
+    EXPECT_EQ(jig.positions, (std::vector<ZrGePoint3d>{{1, 1, 1}, {2, 2, 2}, {4, 5, 6}}));
+}
+
+TEST_F(LightJigTest, APositionWithinABillionthIsNoChange) {
+    front().pick({5, 5, 5}, {{4, 5, 6}, {4, 5, 6 + 0.9e-9}, {4, 5, 6 + 3e-9}});
+
+    const WatchedJig jig = watchSource(L"PointLight");
+
+    // The first one comes before there is a sample.
+    EXPECT_EQ(jig.statuses, (std::vector{noChange, normal, noChange, normal, normal}));
+    EXPECT_EQ(jig.positions.size(), 3U);
+}
+
+TEST_F(LightJigTest, ATargetWithinABillionthIsNoChange) {
+    front().pick({5, 5, 5}, {{4, 5, 6}, {4, 5, 6 + 0.9e-9}, {4, 5, 6 + 3e-9}});
+
+    const WatchedJig jig = watchTarget(L"WebLight");
+
+    EXPECT_EQ(jig.statuses, (std::vector{noChange, normal, noChange, normal, normal}));
+    EXPECT_EQ(jig.targets.size(), 3U);
+}
+
+TEST_F(LightJigTest, WhileItsTargetIsDraggedTheLightAimsThereAndStays) {
+    light_.setPosition({7, 8, 9});
+    front().pick({5, 5, 5}, {{4, 5, 6}});
+
+    const WatchedJig jig = watchTarget(L"SpotLight");
+
+    EXPECT_EQ(jig.targets, (std::vector<ZrGePoint3d>{{4, 5, 6}, {5, 5, 5}}));
+    EXPECT_EQ(jig.positions.front(), ZrGePoint3d(7, 8, 9));
+}
+
+TEST_F(LightJigTest, BothDragsTakeEnterAndThreeCoordinatesAndFollowTheUcs) {
+    EXPECT_EQ(watchSource(L"PointLight").controls, 4226);
+    EXPECT_EQ(watchTarget(L"SpotLight").controls, 4226);
+}
+
 TEST_F(LightJigTest, PickingWhatTheCursorShowedLastMovesTheLightToo) {
-    front().pick({4, 5, 6}, {{4, 5, 6}, {4, 5, 6 + 1e-10}});
+    front().pick({4, 5, 6}, {{4, 5, 6}});
 
     EXPECT_TRUE(dragSource(L"PointLight"));
 
     expectPoint(light_.position(), 4, 5, 6);
 }
 
-TEST_F(LightJigTest, EscAtThePositionAnswersFalse) {
+TEST_F(LightJigTest, BrokenInputAtThePositionAnswersFalse) {
+    front().breakInput();
+
+    EXPECT_FALSE(dragSource(L"PointLight"));
+}
+
+TEST_F(LightJigTest, EscAtThePositionAnswersFalseAndLeavesTheLightThere) {
+    light_.setPosition({7, 8, 9});
     front().type({L"^C"});
 
     EXPECT_FALSE(dragSource(L"PointLight"));
+
+    EXPECT_EQ(light_.position(), ZrGePoint3d(7, 8, 9));
 }
 
 TEST_F(LightJigTest, EnterAtThePositionIsTheOriginWhereverTheCursorWas) {
@@ -96,13 +184,30 @@ TEST_F(LightJigTest, EnterAtThePositionIsTheOriginWhereverTheCursorWas) {
     expectPoint(light_.position(), 0, 0, 0);
 }
 
-TEST_F(LightJigTest, ThePositionOfAPointLightLeavesItsTargetAlone) {
+class KindWithoutAim : public LightJigTest, public testing::WithParamInterface<const wchar_t*> {};
+
+TEST_P(KindWithoutAim, LeavesItsTargetAloneWhileItIsDragged) {
     light_.setTargetLocation({7, 8, 9});
     front().pick({1, 2, 3}, {{4, 4, 4}});
 
-    EXPECT_TRUE(dragSource(L"PointLight"));
+    const WatchedJig jig = watchSource(GetParam());
 
-    expectPoint(light_.targetLocation(), 7, 8, 9);
+    EXPECT_EQ(jig.targets, (std::vector<ZrGePoint3d>{{7, 8, 9}, {7, 8, 9}}));
+}
+
+INSTANTIATE_TEST_SUITE_P(WhileDragged, KindWithoutAim,
+                         testing::Values(L"PointLight", L"TargetPoint", L"WebLight", L"FreeWeb"));
+
+TEST_F(LightJigTest, WhileItIsDraggedAFreeSpotAimsDownTheAxisOfTheUcs) {
+    turnUcs();
+    front().pick({1, 2, 3}, {{4, 5, 6}, {0, 0, 0}});
+
+    const WatchedJig jig = watchSource(L"FreeSpot");
+
+    ASSERT_EQ(jig.targets.size(), 3U);
+    expectPoint(jig.targets[0], 4, 15, 6);
+    expectPoint(jig.targets[1], 0, 10, 0); // only where it is placed does the origin count
+    expectPoint(jig.targets[2], 1, 12, 3);
 }
 
 TEST_F(LightJigTest, AFreeSpotAimsDownTheAxisOfTheUcs) {
@@ -156,9 +261,11 @@ TEST_F(LightJigTest, WhileItIsDraggedASpotLightAimsDownTheWorldsAxis) {
     turnUcs();
     front().pick({1, 2, 3}, {{4, 5, 6}});
 
-    EXPECT_TRUE(dragSource(L"SpotLight"));
+    const WatchedJig jig = watchSource(L"SpotLight");
 
-    expectPoint(light_.targetLocation(), 1, 2, -7);
+    ASSERT_EQ(jig.targets.size(), 2U);
+    expectPoint(jig.targets[0], 4, 5, -4);
+    expectPoint(jig.targets[1], 1, 2, -7);
 }
 
 TEST_F(LightJigTest, ATypedTargetIsWhereTheLightAims) {
@@ -184,6 +291,7 @@ TEST_F(LightJigTest, TheTargetIsDraggedFromThePosition) {
 }
 
 TEST_F(LightJigTest, TheTargetMayBeTheOriginOfTheWorld) {
+    light_.setTargetLocation({7, 8, 9});
     front().type({L"1,2,3", L"0,0,0"});
 
     EXPECT_TRUE(dragSourceAndTarget(L"TargetPoint"));

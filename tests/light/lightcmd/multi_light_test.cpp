@@ -1,85 +1,21 @@
-#include "light/lightcmd/multi_light.h"
+#include "tests/light/lightcmd/step_command.h"
 
-#include "sdk/db/database.h"
-#include "sdk/rx/result_codes.h"
-#include "sdk/sys/ads.h"
-#include "sdk/sys/global_vars.h"
-#include "tests/support/test_session.h"
-
-#include <gtest/gtest.h>
-#include <optional>
+#include "host/commands/drawing_files.h"
 
 namespace quor {
 namespace {
 
-// What the light is like while the option loop runs.
-struct Seen {
-    bool on = true;
-    ZrDb::Visibility visibility = ZrDb::kVisible;
-    GlyphDisplay glyph = GlyphDisplay::kAutomatic;
-    ZrGiShadowParameters shadows;
-};
+using test::StepCommand;
 
-// A light command whose steps are given.
-class StepCommand : public CZrMultiLight {
-public:
-    StepCommand() : CZrMultiLight(L"Step") {}
-    [[nodiscard]] const wchar_t* typeName() const override { return L"STEPCMD"; }
+class MultiLightTest : public test::StepCommandTest {};
 
-    DrawableType type = DrawableType::kPointLight;
-    bool placed = true;
-    int loopResult = RTNORM;
-    ZrString prefix = L"Lamp";
-    std::optional<Seen> seen;
+TEST_F(MultiLightTest, WhileItIsPlacedTheLightIsOffAndShowsItsGlyph) {
+    EXPECT_EQ(run(), RTNORM);
 
-protected:
-    bool placeLight() override {
-        m_pLight->setLightType(type);
-        return placed;
-    }
-    ZrString& defaultNamePrefix(ZrString& out) override { return out = prefix; }
-    int optionLoop() override {
-        seen = Seen{m_pLight->isOn(), m_pLight->visibility(), m_pLight->glyphDisplay(), {}};
-        m_pLight->shadowParameters(seen->shadows);
-        return applyName() ? loopResult : RTERROR;
-    }
-};
-
-class MultiLightTest : public testing::Test {
-protected:
-    MultiLightTest() {
-        session_.addCommand(L"STEP", [this] { return command_.execute(); });
-        zwutads::setVar(L"DEFAULTLIGHTING", 0);
-        CZrMultiLight::s_skipLightingDialogOnce = false;
-    }
-
-    int run() { return session_.session().processor().run(L"STEP", false).result; }
-    test::ScriptedFrontEnd& front() { return session_.front(); }
-
-    static ZrDbObjectPointer<ZrDbBlockTableRecord> space() {
-        return {zrdbWorkingDatabase()->currentSpaceId(), ZrDb::kForRead};
-    }
-    static std::size_t lightCount() { return space()->entityCount(ZrDbLight::desc()); }
-    static ZrDbObjectId firstLight() { return space()->newIterator(ZrDbLight::desc())->entityId(); }
-    static short defaultLighting() {
-        short value = -1;
-        zwutads::getVar(L"DEFAULTLIGHTING", value);
-        return value;
-    }
-    static void setLastNumber(short number) {
-        ZrGlobalVarManager* globals = ZrGlobalVarManager::instance();
-        globals->reg(ZrGlobalVarManager::kShort, L"LAST_LIGHT_NUM_DISPLAY");
-        globals->set(L"LAST_LIGHT_NUM_DISPLAY", number);
-    }
-    static short lastNumber() {
-        short number = -1;
-        ZrGlobalVarManager::instance()->get(L"LAST_LIGHT_NUM_DISPLAY", number);
-        return number;
-    }
-
-    test::TestSession session_;
-    StepCommand command_;
-};
+    ASSERT_TRUE(command_.seenPlacing);
+    EXPECT_FALSE(command_.seenPlacing->on);
+    EXPECT_EQ(command_.seenPlacing->glyph, GlyphDisplay::kOn);
+}
 
 TEST_F(MultiLightTest, WhileItsOptionsAreAskedTheLightIsOffAndHidden) {
     EXPECT_EQ(run(), RTNORM);
@@ -112,6 +48,7 @@ TEST_F(MultiLightTest, LightsLieOnTheHiddenLayerOfAllLights) {
     EXPECT_TRUE(layer->isPlottable());
     EXPECT_EQ(layer->color().colorIndex(), 7);
     EXPECT_EQ(layer->lineWeight(), -3);
+    EXPECT_EQ(layer->plotStyleName(), L"Color_7");
     EXPECT_EQ(layer->linetypeObjectId(), zrdbWorkingDatabase()->linetypeId(L"CONTINUOUS"));
 }
 
@@ -178,8 +115,20 @@ TEST_F(MultiLightTest, TheCounterRunsOverBehind32767) {
     EXPECT_EQ(lastNumber(), -32768);
 }
 
-TEST_F(MultiLightTest, ASpotLightBeginsWithShadowsFromADisk) {
+// Shadows that no new light has.
+ZrGiShadowParameters otherShadows() {
+    ZrGiShadowParameters shadows;
+    shadows.setShadowsOn(false);
+    shadows.setShadowType(ZrGiShadowParameters::kAreaSampled);
+    shadows.setShadowMapSize(1024);
+    shadows.setShadowSamples(32);
+    shadows.setExtendedLightShape(ZrGiShadowParameters::kCylinder);
+    return shadows;
+}
+
+TEST_F(MultiLightTest, ASpotLightBeginsWithTheShadowsOfANewLightButFromADisk) {
     command_.type = DrawableType::kSpotLight;
+    command_.prepare = [](ZrDbLight& light) { light.setShadowParameters(otherShadows()); };
 
     EXPECT_EQ(run(), RTNORM);
 
@@ -189,97 +138,114 @@ TEST_F(MultiLightTest, ASpotLightBeginsWithShadowsFromADisk) {
     EXPECT_EQ(command_.seen->shadows, expected);
 }
 
-TEST_F(MultiLightTest, OtherLightsBeginWithShadowsFromARectangle) {
+TEST_F(MultiLightTest, OtherLightsKeepTheirShadows) {
+    command_.prepare = [](ZrDbLight& light) { light.setShadowParameters(otherShadows()); };
+
     EXPECT_EQ(run(), RTNORM);
 
     ASSERT_TRUE(command_.seen);
-    EXPECT_EQ(command_.seen->shadows, ZrGiShadowParameters());
+    EXPECT_EQ(command_.seen->shadows, otherShadows());
 }
 
-TEST_F(MultiLightTest, TheDialogOffersTwoChoicesAndACheckBox) {
-    zwutads::setVar(L"DEFAULTLIGHTING", 1);
-    front().type({L"1"});
+TEST_F(MultiLightTest, WhatThePromptsShowIsTakenFromTheLight) {
+    command_.prepare = [](ZrDbLight& light) {
+        light.setIntensity(2.5);
+        light.setPhysicalIntensity(700);
+        light.setLampColorTemp(5000);
+        light.setIlluminanceDistance(3);
+        ZrGiLightAttenuation attenuation;
+        attenuation.setLimits(4, 20);
+        light.setLightAttenuation(attenuation);
+        light.setShadowParameters(otherShadows());
+    };
 
     EXPECT_EQ(run(), RTNORM);
 
-    EXPECT_TRUE(front().shows(L"光源 - 视口光源模式\n打开默认光源时"));
-    EXPECT_TRUE(front().shows(L"关闭默认光源(建议)"));
-    EXPECT_TRUE(front().shows(L"使默认光源保持打开状态"));
-    EXPECT_TRUE(front().shows(L"添加用户光源时，默认光源将处于打开状态。"));
-    EXPECT_TRUE(front().shows(L"始终执行我的当前选择"));
+    EXPECT_EQ(command_.snapshot.intensity, 2.5);
+    EXPECT_EQ(command_.snapshot.physicalIntensity, 700);
+    EXPECT_EQ(command_.snapshot.lampColorTemp, 5000);
+    EXPECT_EQ(command_.snapshot.illuminanceDistance, 3);
+    EXPECT_EQ(command_.snapshot.startLimit, 4);
+    EXPECT_EQ(command_.snapshot.endLimit, 20);
+    EXPECT_EQ(command_.snapshot.shadowSamples, 32);
+    EXPECT_EQ(command_.snapshot.flux, 18849.5559);
+    EXPECT_EQ(command_.snapshot.illuminance, 1500000000.0);
+}
+
+TEST_F(MultiLightTest, ALightThatIsGoneLeavesTheCounterAndTheLightingModeAsIfItWereKept) {
+    zwutads::setVar(L"DEFAULTLIGHTING", 1);
+    front().type({L"1"});
+    command_.losesLight = true;
+
+    EXPECT_EQ(run(), RTNORM);
+
+    EXPECT_EQ(lastNumber(), 1);
     EXPECT_EQ(defaultLighting(), 0);
 }
 
-TEST_F(MultiLightTest, TheChoiceTakesNoEffectWhenTheLightIsNotKept) {
+TEST_F(MultiLightTest, ALightThatIsGoneAndNotKeptLeavesTheLightingModeAlone) {
     zwutads::setVar(L"DEFAULTLIGHTING", 1);
-    command_.loopResult = RTCAN;
     front().type({L"1"});
+    command_.losesLight = true;
+    command_.loopResult = RTCAN;
 
     EXPECT_EQ(run(), RTCAN);
 
+    EXPECT_EQ(lastNumber(), 1);
     EXPECT_EQ(defaultLighting(), 1);
 }
 
-TEST_F(MultiLightTest, TheTickIsWrittenAtOnceAndNotTheChoice) {
-    zwutads::setVar(L"DEFAULTLIGHTING", 1);
-    command_.placed = false;
-    front().type({L"2+"});
+TEST_F(MultiLightTest, WithoutTheLayerNoLightIsPlaced) {
+    ZrDbLayerTable* table = nullptr;
+    ASSERT_EQ(zrdbWorkingDatabase()->getLayerTable(table, ZrDb::kForWrite), Quor::eOk);
 
     EXPECT_EQ(run(), RTERROR);
 
-    int ticked = 0;
-    EXPECT_TRUE(zwutads::GetValueFromReg(L"allowCurSelectDialog", ticked));
-    EXPECT_EQ(ticked, 1);
+    table->close();
+    EXPECT_EQ(lightCount(), 0U);
+    EXPECT_FALSE(command_.seenPlacing);
+    EXPECT_FALSE(command_.holdsLight());
 }
 
-TEST_F(MultiLightTest, WithoutATickNothingIsWritten) {
-    zwutads::setVar(L"DEFAULTLIGHTING", 1);
-    front().type({L"2"});
+TEST_F(MultiLightTest, ALightThatCannotBePostedIsThrownAway) {
+    {
+        const auto held = space();
 
-    EXPECT_EQ(run(), RTNORM);
-
-    int ticked = 0;
-    EXPECT_FALSE(zwutads::GetValueFromReg(L"allowCurSelectDialog", ticked));
-    EXPECT_EQ(defaultLighting(), 1);
-}
-
-TEST_F(MultiLightTest, ACancelledDialogMakesNoLight) {
-    zwutads::setVar(L"DEFAULTLIGHTING", 1);
-    front().type({L"^C"});
-
-    EXPECT_EQ(run(), RTERROR);
+        EXPECT_EQ(run(), RTERROR);
+    }
 
     EXPECT_EQ(lightCount(), 0U);
+    EXPECT_TRUE(command_.seenPlacing);
     EXPECT_FALSE(command_.seen);
+    EXPECT_FALSE(command_.holdsLight());
+    EXPECT_EQ(lastNumber(), 0);
 }
 
-TEST_F(MultiLightTest, TheDialogIsSkippedOnceOnRequest) {
-    zwutads::setVar(L"DEFAULTLIGHTING", 1);
-    CZrMultiLight::s_skipLightingDialogOnce = true;
+TEST_F(MultiLightTest, TheLayerIsMadeWithoutALinetypeWhereTheDrawingHasNoContinuousOne) {
+    ASSERT_EQ(commands::openPath(session_.session(), QUOR_TEST_DATA "/dxf/ez_Minimal_DXF_AC1009.dxf", false), RTNORM);
+    ASSERT_FALSE(zrdbWorkingDatabase()->linetypeId(L"CONTINUOUS").isValid());
+    zwutads::setVar(L"LIGHTINGUNITS", 2);
+    zwutads::setVar(L"DEFAULTLIGHTING", 0);
 
     EXPECT_EQ(run(), RTNORM);
 
-    EXPECT_TRUE(front().asked().empty());
-    EXPECT_FALSE(CZrMultiLight::s_skipLightingDialogOnce);
-    EXPECT_EQ(defaultLighting(), 1);
+    const ZrDbObjectPointer<ZrDbLight> light(firstLight(), ZrDb::kForRead);
+    EXPECT_EQ(light->layer(), L"*ADSK_SYSTEM_LIGHTS");
 }
 
-TEST_F(MultiLightTest, ACommandThatAProgramStartedAsksNothing) {
-    zwutads::setVar(L"DEFAULTLIGHTING", 1);
-
-    EXPECT_EQ(session_.session().processor().run(L"STEP", true).result, RTNORM);
-
-    EXPECT_TRUE(front().asked().empty());
-    EXPECT_TRUE(CZrMultiLight::s_calledFromScript);
-    EXPECT_EQ(defaultLighting(), 1);
+TEST_F(MultiLightTest, TheKindWordIsTheOneOfTheCommand) {
+    EXPECT_STREQ(command_.kindWord(), L"Step");
+    EXPECT_EQ(StepCommand(ZrString(300, L'x').c_str()).kindWord(), ZrString(259, L'x'));
 }
 
-TEST_F(MultiLightTest, ACommandThatWasTypedIsNotCalledByAProgram) {
-    CZrMultiLight::s_calledFromScript = true;
+TEST_F(MultiLightTest, ThroughAViewportOfALayoutLightsGoToModelSpace) {
+    zwutads::setVar(L"TILEMODE", 0);
+    zwutads::setVar(L"CVPORT", 2);
 
     EXPECT_EQ(run(), RTNORM);
 
-    EXPECT_FALSE(CZrMultiLight::s_calledFromScript);
+    const ZrDbObjectPointer<ZrDbBlockTableRecord> model(zrdbWorkingDatabase()->modelSpaceId(), ZrDb::kForRead);
+    EXPECT_TRUE(model->hasLightNamed(L"Lamp1"));
 }
 
 TEST_F(MultiLightTest, PaperSpaceAnswersMinusOne) {

@@ -29,29 +29,32 @@ public:
     int photometries = 0;
     int shadows = 0;
 
-protected:
-    int optionLoop() override {
-        static constexpr light::LightOption options[] = {
-            {L"Name", light::ask<&LoopCommand::countName>},
-            {L"Photometry", light::ask<&LoopCommand::countPhotometry>, true},
-            {L"shadoW", light::ask<&LoopCommand::countShadow>},
-            {L"Color", light::ask<&LoopCommand::loseLight>},
-        };
-        return runOptionLoop({.standardPrompt = texts.pointOptions,
-                              .photometricPrompt = texts.pointPhotometricOptions,
-                              .keywords = texts.pointOptionKeywords,
-                              .unitsRead = unitsRead,
-                              .withoutLight = withoutLight,
-                              .options = options});
-    }
-
-private:
     void countName() { ++names; }
     int countPhotometry() { return ++photometries; }
     bool countShadow() { return ++shadows > 0; }
     void loseLight() {
         m_pLight->close();
         m_pLight = nullptr;
+    }
+
+    const light::Text* keywords = &texts.pointOptionKeywords;
+    std::span<const light::LightOption> options; // empty: those of the tests in common
+
+protected:
+    int optionLoop() override {
+        static constexpr light::LightOption common[] = {
+            {L"Name", light::ask<&LoopCommand::countName>},
+            {L"Photometry", light::ask<&LoopCommand::countPhotometry>, true},
+            {L"shadoW", light::ask<&LoopCommand::countShadow>},
+            {L"Color", light::ask<&LoopCommand::loseLight>},
+            {L"filterColor", light::ask<&LoopCommand::loseLight>},
+        };
+        return runOptionLoop({.standardPrompt = texts.pointOptions,
+                              .photometricPrompt = texts.pointPhotometricOptions,
+                              .keywords = *keywords,
+                              .unitsRead = unitsRead,
+                              .withoutLight = withoutLight,
+                              .options = options.empty() ? std::span<const light::LightOption>(common) : options});
     }
 };
 
@@ -85,9 +88,43 @@ TEST_F(OptionLoopTest, EachKeywordAsksItsOptionAndTheQuestionComesAgain) {
 }
 
 TEST_F(OptionLoopTest, KeywordsWithoutARowDoNothing) {
-    EXPECT_EQ(answer({L"I", L"Hotspot", L"filterColor", L"X"}), RTNORM);
+    EXPECT_EQ(answer({L"I", L"Hotspot", L"Falloff", L"X"}), RTNORM);
 
     EXPECT_EQ(timesAsked(photometricPrompt), 4U);
+}
+
+TEST_F(OptionLoopTest, FilterColorTypedInFullIsTheOptionColor) {
+    EXPECT_EQ(answer({L"filterColor", L"N"}), RTNORM); // the light is gone by then
+
+    EXPECT_EQ(command_.names, 0);
+}
+
+TEST_F(OptionLoopTest, AKeywordOf260CharactersIsNoAnswerAndOneOf259Is) {
+    const ZrString word(259, L'x');
+    const ZrString longer = word + L"x";
+    const ZrString list = word + L" " + longer + L" _" + word + L" " + longer;
+    const light::Text keywords{1, light::TextSource::Keywords, list.c_str()};
+    const light::LightOption options[] = {
+        {word.c_str(), light::ask<&LoopCommand::countName>},
+        {longer.c_str(), light::ask<&LoopCommand::countShadow>},
+    };
+    command_.keywords = &keywords;
+    command_.options = options;
+
+    EXPECT_EQ(answer({longer, word, L""}), RTNORM);
+
+    EXPECT_EQ(command_.names, 1);
+    EXPECT_EQ(command_.shadows, 0);
+    EXPECT_EQ(timesAsked(photometricPrompt), 3U);
+}
+
+TEST_F(OptionLoopTest, BrokenInputEndsTheLoopAsEsc) {
+    session_.front().type(L"N");
+    session_.front().breakInput();
+
+    EXPECT_EQ(answer({}), RTCAN);
+
+    EXPECT_EQ(command_.names, 1);
 }
 
 TEST_F(OptionLoopTest, EscAnswersRtcan) { EXPECT_EQ(answer({L"N", L"^C"}), RTCAN); }

@@ -45,14 +45,6 @@ TEST(TextTable, NumbersAscendAndNoneIsUsedTwice) {
     EXPECT_EQ(wrong, all.end()) << wrong->number;
 }
 
-TEST(TextTable, TheRowsAreTheFieldsInTheirOrder) {
-    const auto all = allTexts();
-
-    EXPECT_EQ(all.front().number, texts.modelSpaceOnly.number);
-    EXPECT_EQ(all.back().number, texts.pointLightHelp.number);
-    EXPECT_EQ(all.back().builtIn, texts.pointLightHelp.builtIn);
-}
-
 TEST(TextTable, EveryKeywordListRepeatsItsWordsAsGlobalOnes) {
     for (const Text& text : allTexts()) {
         if (isKeywordList(text)) {
