@@ -1,4 +1,5 @@
-// A text of the host in its two languages, side by side. The tables of this folder hold all that the host says, one per area.
+// A text of the host in its two languages, side by side. The tables of this folder hold all that the host says, one per
+// area.
 #pragma once
 
 #include "sdk/ed/print.h"
