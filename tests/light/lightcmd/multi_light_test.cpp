@@ -240,7 +240,7 @@ TEST_F(MultiLightTest, TheKindWordIsTheOneOfTheCommand) {
 
 TEST_F(MultiLightTest, ThroughAViewportOfALayoutLightsGoToModelSpace) {
     zwutads::setVar(L"TILEMODE", 0);
-    zwutads::setVar(L"CVPORT", 2);
+    session_.document().drawing().setCurrentViewport(2);
 
     EXPECT_EQ(run(), RTNORM);
 
