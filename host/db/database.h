@@ -18,6 +18,8 @@
 #include <variant>
 #include <vector>
 
+struct ZrDbLightData;
+
 namespace quor::db {
 
 // Why a drawing could not be read or saved, in words for a person.
@@ -56,6 +58,10 @@ public:
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
 
+    // From now on a save gives a file that breaks off its end, also when nothing else changed; without it, a drawing
+    // without changes is saved as it came.
+    void mendOnSave() { mendsOnSave_ = true; }
+    [[nodiscard]] bool mendsOnSave() const { return mendsOnSave_; }
     // Writes the drawing to `path`, keeping the previous version as .bak.
     Result<void, FileProblem> save(const std::filesystem::path& path);
     // The bytes that save() would write.
@@ -89,6 +95,8 @@ public:
     void setModelTab(bool model);
     [[nodiscard]] int currentViewport() const;
     void setCurrentViewport(int number);
+    // Whether CVPORT can be that number: 2 in the model tab; in a layout 1 for its sheet, or a viewport on it.
+    [[nodiscard]] bool hasViewport(int number);
 
     // The UCS of the current space. Setting it is undoable.
     [[nodiscard]] Ucs ucs() const;
@@ -98,6 +106,7 @@ public:
     [[nodiscard]] std::vector<ZrDbObjectId> entities(ZrDbObjectId space) const;
     // Layers in drawing order; hidden ones too.
     [[nodiscard]] std::vector<ZrDbObjectId> layerIds() const;
+    // Nothing happens for an id that is no layer's of this drawing.
     void setCurrentLayer(ZrDbObjectId layer);
     // Makes a layer, undoable; the id of the existing one when there is one of that name.
     ZrDbObjectId makeLayer(const ZrString& name);
@@ -120,11 +129,13 @@ public:
     // Reads the object from the file when that was not done yet.
     void materialise(ObjectEntry& entry);
     // The block that commands draw in, and the layer.
-    [[nodiscard]] Block& currentSpace();
+    [[nodiscard]] Block& currentSpace() const;
     [[nodiscard]] ObjectEntry* currentLayer();
     // Takes an object in; it is open for write from then on.
     ObjectEntry& appendEntity(Block& block, std::unique_ptr<ZrDbEntity> entity);
     ObjectEntry& addLayer(std::unique_ptr<ZrDbLayerTableRecord> layer);
+    // Handles for photometric data that a light has none of; a save writes them when they are needed.
+    void reservePhotometry(ZrDbLightData& light);
     // Whether DEFAULTLIGHTING differs from the file, which has a place for it.
     [[nodiscard]] std::optional<bool> defaultLightingToSave();
 
@@ -132,6 +143,7 @@ private:
     Database(dxf::Image image, dxf::Layout layout, bool isNew);
     static Result<std::unique_ptr<Database>, FileProblem> make(dxf::Image image, const OpenOptions& options,
                                                                const ZrString& what);
+    [[nodiscard]] Block& currentSheet() const;
     ObjectEntry& adopt(std::unique_ptr<ZrDbObject> object, ObjectEntry& entry);
     [[nodiscard]] bool defaultLightingInFile();
     template <class T>
@@ -146,10 +158,12 @@ private:
     Journal journal_;
     std::unique_ptr<ZrDbDatabase> interface_;
     std::vector<ZrString> problems_;
-    std::optional<bool> defaultLighting_; // as it was set
+    std::optional<bool> defaultLighting_;     // as it was set
+    std::optional<bool> defaultLightingRead_; // as the file has it, once somebody asked
     ZrString currentLayout_;
     int currentViewport_ = 2;
     bool isNew_;
+    bool mendsOnSave_ = false;
 };
 
 } // namespace quor::db

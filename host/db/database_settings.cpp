@@ -5,6 +5,7 @@
 #include "host/db/saver.h"
 #include "host/db/versions.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quor::db {
@@ -12,6 +13,9 @@ namespace quor::db {
 namespace {
 
 constexpr int kDefaultLightingCode = 292;
+constexpr int kViewportNumberCode = 69;
+constexpr int kModelTabViewport = 2;
+constexpr int kSheetViewport = 1;
 
 struct UcsNames {
     const wchar_t* origin;
@@ -67,7 +71,13 @@ bool Database::defaultLightingInFile() {
     return tag.asInt().value_or(1) != 0;
 }
 
-bool Database::defaultLighting() { return defaultLighting_.value_or(defaultLightingInFile()); }
+bool Database::defaultLighting() {
+    if (defaultLighting_)
+        return *defaultLighting_;
+    if (!defaultLightingRead_)
+        defaultLightingRead_ = defaultLightingInFile();
+    return *defaultLightingRead_;
+}
 
 void Database::setDefaultLighting(bool on) {
     if (defaultLighting() != on)
@@ -116,13 +126,31 @@ int Database::currentViewport() const { return currentViewport_; }
 
 void Database::setCurrentViewport(int number) { changeSetting(L"CVPORT", currentViewport_, number); }
 
-Block& Database::currentSpace() {
-    if (isModelTab() || currentViewport_ > 1)
-        return structure_.modelSpace();
+bool Database::hasViewport(int number) {
+    if (isModelTab())
+        return number == kModelTabViewport;
+    if (number == kSheetViewport)
+        return true;
+    const auto& viewports = structure_.entitiesOf(currentSheet(), file_.typeNumber("VIEWPORT"));
+    return std::any_of(viewports.begin(), viewports.end(), [&](const ObjectEntry* viewport) {
+        dxf::Tag tag;
+        return !viewport->erased && viewport->isInFile() &&
+               file_.findTag(file_.record(viewport->record), kViewportNumberCode, tag) && tag.asInt() == number;
+    });
+}
+
+Block& Database::currentSheet() const {
     for (const LayoutRecord& sheet : structure_.layouts())
         if (sheet.name == currentLayout_)
             return *sheet.block;
     return structure_.paperSpace();
+}
+
+// Drawings without paper space keep what is drawn in the model, whichever tab is in use.
+Block& Database::currentSpace() const {
+    const bool inModel =
+        isModelTab() || currentViewport_ > kSheetViewport || file_.version() < versions::kFirstWithPaperSpace;
+    return inModel ? structure_.modelSpace() : currentSheet();
 }
 
 Ucs Database::ucs() const {
@@ -163,7 +191,10 @@ ObjectEntry* Database::currentLayer() {
     return layers_.find(L"0");
 }
 
-void Database::setCurrentLayer(ZrDbObjectId layer) { setHeader(L"$CLAYER", 8, layers_.nameInFile(*layer.entry())); }
+void Database::setCurrentLayer(ZrDbObjectId layer) {
+    if (!layer.isNull() && layer.entry()->owner == layers_.table().entry)
+        setHeader(L"$CLAYER", 8, layers_.nameInFile(*layer.entry()));
+}
 
 std::vector<ZrDbObjectId> Database::layerIds() const {
     std::vector<ZrDbObjectId> ids;

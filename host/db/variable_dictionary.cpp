@@ -43,10 +43,12 @@ const dxf::Record* VariableDictionary::recordOf(const ZrString& name) const {
 std::optional<ZrString> VariableDictionary::get(const ZrString& name) const {
     if (const auto found = set_.find(name); found != set_.end())
         return found->second.value;
+    const auto [read, isNew] = read_.try_emplace(name);
     dxf::Tag tag;
-    if (const dxf::Record* record = recordOf(name); record != nullptr && file_.findTag(*record, 1, tag))
-        return file_.text(tag);
-    return std::nullopt;
+    if (isNew)
+        if (const dxf::Record* record = recordOf(name); record != nullptr && file_.findTag(*record, 1, tag))
+            read->second = file_.text(tag);
+    return read->second;
 }
 
 std::optional<ZrString> VariableDictionary::set(const ZrString& name, std::optional<ZrString> value) {
@@ -55,23 +57,24 @@ std::optional<ZrString> VariableDictionary::set(const ZrString& name, std::optio
         before = std::move(found->second.value);
         set_.erase(found);
     }
-    if (value) {
-        std::uint64_t& handle = handles_[name];
-        if (handle == 0)
-            handle = objects_.takeHandles(1);
-        set_.emplace(name, Set{std::move(*value), handle});
-    }
+    if (value)
+        set_.emplace(name, Set{std::move(*value), handleFor(name)});
     return before;
 }
 
-std::uint64_t VariableDictionary::handleOnce(std::uint64_t& handle) {
+std::uint64_t VariableDictionary::handleFor(const ZrString& name) {
+    std::uint64_t& handle = handles_[name];
     if (handle == 0)
         handle = objects_.takeHandles(1);
+    if (newDictionaryHandle_ == 0 && dictionary() == nullptr)
+        newDictionaryHandle_ = objects_.takeHandles(1);
+    reserveRoot();
     return handle;
 }
 
-std::uint64_t VariableDictionary::newDictionaryHandle() { return handleOnce(newDictionaryHandle_); }
-
-std::uint64_t VariableDictionary::newRootHandle() { return handleOnce(newRootHandle_); }
+void VariableDictionary::reserveRoot() {
+    if (newRootHandle_ == 0 && structure_.rootDictionary() == nullptr)
+        newRootHandle_ = objects_.takeHandles(1);
+}
 
 } // namespace quor::db

@@ -25,21 +25,25 @@ public:
     [[nodiscard]] const std::map<ZrString, Set>& allSet() const { return set_; }
     // The record of a variable in the file, or null.
     [[nodiscard]] const dxf::Record* recordOf(const ZrString& name) const;
-    // The dictionary in the file, or null; and the handle that a new one gets.
+    // The dictionary in the file, or null; and the handle that a new one gets, taken when a variable was set.
     [[nodiscard]] const ObjectEntry* dictionary() const;
-    std::uint64_t newDictionaryHandle();
-    // The handle of a root dictionary, for a drawing that has none.
-    std::uint64_t newRootHandle();
+    [[nodiscard]] std::uint64_t newDictionaryHandle() const { return newDictionaryHandle_; }
+    // Takes a handle for the root dictionary of a drawing that has none and will need one. Handles are never taken by a
+    // save: what comes later would have others after it than without it.
+    void reserveRoot();
+    [[nodiscard]] std::uint64_t newRootHandle() const { return newRootHandle_; }
 
     static constexpr const char* kName = "AcDbVariableDictionary";
 
 private:
-    std::uint64_t handleOnce(std::uint64_t& handle);
+    // The handle of a new variable, with those of the dictionaries that it needs.
+    std::uint64_t handleFor(const ZrString& name);
 
     DrawingFile& file_;
     ObjectTable& objects_;
     Structure& structure_;
     std::map<ZrString, Set> set_;
+    mutable std::map<ZrString, std::optional<ZrString>> read_; // what was looked up in the file before
     std::map<ZrString, std::uint64_t> handles_; // given out before, so that redo gives the same again
     std::uint64_t newDictionaryHandle_ = 0;
     std::uint64_t newRootHandle_ = 0;
