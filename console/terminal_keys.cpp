@@ -6,11 +6,16 @@
 #include <algorithm>
 #include <bit>
 #include <cerrno>
+#include <poll.h>
 #include <unistd.h>
 
 namespace quor::console {
 
 namespace {
+
+constexpr wchar_t kEscape = 27;
+// Terminals send the bytes of a key together; nobody types the next key this soon.
+constexpr int kSequenceMilliseconds = 50;
 
 // How many bytes the character has that begins with this one; 1 for what begins none.
 std::size_t lengthOf(char lead) {
@@ -47,6 +52,11 @@ TerminalKeys::Event TerminalKeys::readByte() {
     }
 }
 
+bool TerminalKeys::sequenceFollows() const {
+    pollfd waiting{descriptor_, POLLIN, 0};
+    return !pending_.empty() || ::poll(&waiting, 1, kSequenceMilliseconds) > 0;
+}
+
 bool TerminalKeys::next(wchar_t& c) {
     while (!holdsCharacter()) {
         const Event event = readByte();
@@ -64,6 +74,8 @@ bool TerminalKeys::next(wchar_t& c) {
     std::size_t length = 0;
     c = nextUtf8(pending_, length);
     pending_.erase(0, length);
+    if (c == kEscape && !sequenceFollows())
+        c = kCtrlC;
     return true;
 }
 

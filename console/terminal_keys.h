@@ -14,12 +14,14 @@ public:
     TerminalKeys(int descriptor, std::function<void()> onChange)
         : descriptor_(descriptor), onChange_(std::move(onChange)) {}
 
-    // Waits for the next character; false at the end of input. A byte that is no UTF-8 comes as its escape.
+    // Waits for the next character; false at the end of input. A byte that is no UTF-8 comes as its escape. The Esc key
+    // comes as Ctrl+C; an escape that begins the sequence of another key comes as it is.
     bool next(wchar_t& c);
 
 private:
     enum class Event { Byte, Interrupt, End };
     Event readByte();
+    [[nodiscard]] bool sequenceFollows() const;
     [[nodiscard]] bool holdsCharacter() const;
 
     int descriptor_;

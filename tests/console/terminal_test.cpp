@@ -15,6 +15,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* kUp = "\x1b[A";
+constexpr const char* kEsc = "\x1b";
 constexpr const char* kCtrlC = "\x03";
 constexpr const char* kCtrlD = "\x04";
 
@@ -109,6 +110,24 @@ TEST_F(TerminalTest, CtrlCCancelsACommandAndTheSessionGoesOn) {
     type(kCtrlC);
     ASSERT_TRUE(shows("命令: ")) << screen_;
     type("NOSUCH\n");
+    EXPECT_TRUE(shows("未知命令“NOSUCH”")) << screen_;
+}
+
+TEST_F(TerminalTest, EscKeyCancelsACommandAndTheSessionGoesOn) {
+    ASSERT_TRUE(shows("命令: "));
+    type("LINE 0,0\n");
+    ASSERT_TRUE(shows("指定下一点")) << screen_;
+    type("1,");
+    type(kEsc);
+    ASSERT_TRUE(shows("*取消*")) << screen_;
+    ASSERT_TRUE(shows("命令: ")) << screen_;
+    type("NOSUCH\n");
+    EXPECT_TRUE(shows("未知命令“NOSUCH”")) << screen_;
+}
+
+TEST_F(TerminalTest, LeftArrowMovesTheCaretInsteadOfCancelling) {
+    ASSERT_TRUE(shows("命令: "));
+    type("NSUCH\x1b[D\x1b[D\x1b[D\x1b[DO\n");
     EXPECT_TRUE(shows("未知命令“NOSUCH”")) << screen_;
 }
 
