@@ -14,14 +14,16 @@
 #include <unistd.h>
 
 #include "host/sys/case_fold.h"
+#include "host/sys/system_error.h"
 #include "host/sys/utf8.h"
+#include "host/texts/settings.h"
 
 namespace quor {
 namespace {
 
 namespace fs = std::filesystem;
 
-std::string reasonOf(int number) { return std::generic_category().message(number); }
+std::string reasonOf(int number) { return toUtf8(systemErrorText(number)); }
 
 // An open file descriptor, closed with its owner.
 class Descriptor {
@@ -77,22 +79,18 @@ fs::path followLinks(const fs::path& path) {
     return failure ? path : target;
 }
 
-std::wstring_view describe(SettingsError::Kind kind) {
+const Text& describe(SettingsError::Kind kind) {
     switch (kind) {
     case SettingsError::kBadName:
-        return L"设置的节名或键名无效 (a section or key name is not valid)";
+        return texts::kSettingsBadName;
     case SettingsError::kNoFolder:
-        return L"无法创建设置文件夹，该值仅在本次运行中有效 (the settings folder cannot be made; the value holds until "
-               L"the "
-               L"program ends)";
+        return texts::kSettingsNoFolder;
     case SettingsError::kCannotRead:
-        return L"无法读取设置文件，请检查其权限 (the settings file cannot be read; check its permissions)";
+        return texts::kSettingsUnreadable;
     case SettingsError::kCannotWrite:
         break;
     }
-    return L"无法写入设置文件，该值仅在本次运行中有效 (the settings file cannot be written; the value holds until the "
-           L"program "
-           L"ends)";
+    return texts::kSettingsUnwritable;
 }
 
 fs::path absoluteFolder(const char* variable) {
@@ -104,7 +102,7 @@ fs::path absoluteFolder(const char* variable) {
 } // namespace
 
 std::wstring SettingsError::message() const {
-    std::wstring text = fromUtf8(path.native()) + L": " + std::wstring(describe(kind));
+    std::wstring text = fromUtf8(path.native()) + L": " + describe(kind).get();
     return reason.empty() ? text : text + L": " + fromUtf8(reason);
 }
 
@@ -194,9 +192,9 @@ std::optional<SettingsError> SettingsStore::read(SettingsLines& lines) const {
     if (status.type() == fs::file_type::not_found)
         return std::nullopt;
     if (failure)
-        return SettingsError{SettingsError::kCannotRead, path_, failure.message()};
+        return SettingsError{SettingsError::kCannotRead, path_, reasonOf(failure.value())};
     if (status.type() != fs::file_type::regular) // a folder, or a pipe that would never end
-        return SettingsError{SettingsError::kCannotRead, path_, "not a regular file"};
+        return SettingsError{SettingsError::kCannotRead, path_, toUtf8(texts::kSettingsNoFile.get())};
     errno = 0;
     std::ifstream stream(path_, std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(stream), {}};

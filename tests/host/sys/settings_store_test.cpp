@@ -1,5 +1,7 @@
 #include "host/sys/settings_store.h"
 
+#include "host/texts/text.h"
+
 #include <climits>
 #include <cstdlib>
 #include <fstream>
@@ -156,6 +158,18 @@ TEST_F(Settings, WhereTheFolderCannotBeMadeTheValueHoldsForThisProcess) {
     EXPECT_NE(error->message().find(L"settings.ini"), std::wstring::npos);
     EXPECT_EQ(store.get(L"a", L"X"), L"1");
     EXPECT_EQ(text(), "a file, no folder");
+}
+
+TEST_F(Settings, MessagesAreInTheLanguageInUse) {
+    fs::create_directory(file_);
+    const auto error = SettingsStore(file_).readError();
+    ASSERT_TRUE(error);
+    EXPECT_TRUE(error->message().ends_with(L"settings.ini: 无法读取设置文件，请检查其权限: 它不是普通文件"));
+    quor::setLanguage(quor::Language::English);
+    const auto inEnglish = SettingsStore(file_).readError()->message();
+    quor::setLanguage(quor::Language::Chinese);
+    EXPECT_TRUE(
+        inEnglish.ends_with(L": the settings file cannot be read; check its permissions: it is not a regular file"));
 }
 
 TEST_F(Settings, AFolderInPlaceOfTheFileIsAnErrorAndStays) {
