@@ -41,7 +41,8 @@ Streams ownStreams() {
 }
 
 Language usualLanguage() {
-    return SettingsStore().get(sys::kUserVariables, L"LANGUAGE") == L"en" ? Language::English : Language::Chinese;
+    return SettingsStore().get(sys::kLanguageSection, sys::kLanguageKey) == L"en" ? Language::English
+                                                                                  : Language::Chinese;
 }
 
 int run(std::span<const char* const> arguments) {

@@ -20,9 +20,6 @@ namespace {
 
 Session* running = nullptr;
 
-constexpr const wchar_t* kGeneral = L"General";
-constexpr const wchar_t* kLanguage = L"Language";
-
 // A text of the user's own that names no known language counts as none.
 ZrString usableLanguage(const ZrString& wanted) { return wanted == L"en" ? wanted : ZrString(L"zh"); }
 
@@ -32,7 +29,7 @@ SessionOptions completed(SessionOptions options, SettingsStore& settings) {
     if (options.moduleFolders.empty())
         options.moduleFolders.push_back(sys::defaultModuleFolder());
     if (options.language.empty())
-        options.language = settings.get(kGeneral, kLanguage).value_or(L"zh");
+        options.language = settings.get(sys::kLanguageSection, sys::kLanguageKey).value_or(L"zh");
     options.language = usableLanguage(options.language);
     return options;
 }

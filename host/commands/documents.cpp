@@ -58,7 +58,7 @@ int listDocuments(Session& session) {
         return RTNORM;
     const std::vector<Document*> found = matching(manager.all(), *answer);
     if (found.size() != 1)
-        return failWith(found.empty() ? texts::kNoSuchDocument : texts::kAmbiguousDocument, *answer);
+        return failWith(found.empty() ? texts::kNoSuchDocument : texts::kAmbiguousDocument, shortened(*answer));
     manager.setCurrent(found.front());
     say(texts::kSwitched, shortName(*found.front()));
     return RTNORM;

@@ -32,13 +32,18 @@ ZrString joinedInCapitals(const std::vector<ZrString>& words) {
     return text;
 }
 
+// A blank at the end, which is Enter, has to be seen.
+ZrString exampleText(std::wstring_view example) {
+    return fill(example.ends_with(L' ') ? texts::kHelpExampleWithBlank : texts::kHelpExample, ZrString(example));
+}
+
 void showPage(Session& session, const HelpPage& page) {
     ZrString text = ZrString(L"\n") + page.command + L"\n" + indented(page.summary.get()) + L"\n";
     if (*page.questions.get() != 0)
         text += indented(page.questions.get()) + L"\n";
     if (const std::vector<ZrString> aliases = session.commands().aliasesOf(page.command); !aliases.empty())
         text += indented(fill(texts::kHelpAliases, joinedInCapitals(aliases))) + L"\n";
-    text += indented(fill(texts::kHelpExample, page.example)) + L"\n";
+    text += indented(exampleText(page.example)) + L"\n";
     printText(text);
 }
 
@@ -85,7 +90,7 @@ int showCommand(Session& session, const ZrString& name) {
         return RTNORM;
     }
     if (command == nullptr)
-        return failWith(texts::kNoHelp, name);
+        return failWith(texts::kNoHelp, shortened(name));
     if (!command->isHost) {
         showModuleCommand(*command);
         return RTNORM;
@@ -93,7 +98,7 @@ int showCommand(Session& session, const ZrString& name) {
     const auto pages = texts::helpPages();
     const auto page = std::ranges::find_if(pages, [&](const auto& p) { return command->globalName == p.command; });
     if (page == pages.end())
-        return failWith(texts::kNoHelp, name);
+        return failWith(texts::kNoHelp, shortened(name));
     showPage(session, *page);
     return RTNORM;
 }

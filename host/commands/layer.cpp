@@ -72,7 +72,7 @@ int makeCurrent(db::Database& drawing, ZrDbObjectId id, const ZrString& name) {
     {
         const LayerForRead layer(id, ZrDb::kForRead);
         if (!layer)
-            return failWith(texts::kNoSuchLayer, name);
+            return failWith(texts::kNoSuchLayer, shortened(name));
         if (layer->isHidden())
             return failWith(texts::kLayerIsHidden, name);
         if (layer->isFrozen())
@@ -91,7 +91,7 @@ int makeLayer(db::Database& drawing) {
         return RTNORM;
     ZrDbObjectId id = findLayer(drawing.interface(), *name);
     if (id.isNull() && !isLayerName(*name))
-        return failWith(texts::kBadLayerName, *name, kNotInLayerNames);
+        return failWith(texts::kBadLayerName, shortened(*name), kNotInLayerNames);
     if (id.isNull())
         id = drawing.makeLayer(*name);
     return makeCurrent(drawing, id, *name);

@@ -3,6 +3,7 @@
 #include "host/document.h"
 #include "host/session.h"
 #include "host/sys/case_fold.h"
+#include "host/sys/text_width.h"
 #include "host/texts/commands.h"
 
 #include <algorithm>
@@ -50,10 +51,10 @@ int setLayout(db::Database& drawing) {
     const auto layout = std::ranges::find_if(layouts, [&](const auto& l) { return equalFolded(l.name, *answer); });
     if (layout == layouts.end()) {
         const bool isModel = equalFolded(*answer, kModelName) || *answer == texts::kModelTab.get();
-        return isModel ? goToModel(drawing) : failWith(texts::kNoSuchLayout, *answer);
+        return isModel ? goToModel(drawing) : failWith(texts::kNoSuchLayout, shortened(*answer));
     }
     if (!drawing.setCurrentLayout(layout->name))
-        return failWith(texts::kNoSuchLayout, *answer);
+        return failWith(texts::kNoSuchLayout, shortened(*answer));
     if (drawing.isModelTab())
         drawing.setModelTab(false);
     say(texts::kLayoutNow, layout->name);

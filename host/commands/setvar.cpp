@@ -62,6 +62,14 @@ void sayRefused(SetResult result, const VariableRow& row, const ZrString& name) 
     }
 }
 
+// A value may hold for less, or from later on, than people expect.
+void sayWhenItCounts(const SystemVariables& variables, const VariableRow& row, SetResult result) {
+    if (result == SetResult::NotSaved)
+        printText(L"\n" + variables.refusal(row.name, result) + L"\n");
+    else if (row.fromNextStart)
+        say(texts::kVariableFromNextStart, row.name);
+}
+
 // Asks until the variable takes the answer; Enter keeps the value.
 int askValue(SystemVariables& variables, const VariableRow& row, const ZrString& name) {
     const bool isText = row.type == VariableType::Text;
@@ -74,8 +82,10 @@ int askValue(SystemVariables& variables, const VariableRow& row, const ZrString&
         if (answer->empty())
             return RTNORM;
         const SetResult result = variables.setFromText(name, isText && *answer == L"." ? L"" : *answer);
-        if (result == SetResult::Ok)
+        if (result == SetResult::Ok || result == SetResult::NotSaved) {
+            sayWhenItCounts(variables, row, result);
             return RTNORM;
+        }
         sayRefused(result, row, name);
     }
 }
@@ -93,7 +103,7 @@ int setVariable(Session& session) {
         return listVariables(variables);
     const ZrString name = upperCase(*answer);
     if (!variables.has(name))
-        return failWith(texts::kNoSuchVariable, *answer);
+        return failWith(texts::kNoSuchVariable, shortened(*answer));
     const auto value = variables.get(name);
     if (!value)
         return failWith(texts::kVariableNeedsDrawing, name);

@@ -6,6 +6,7 @@
 #include "host/session.h"
 #include "host/sys/case_fold.h"
 #include "host/sys/settings_store.h"
+#include "host/sys/text_width.h"
 #include "host/sys/variable_text.h"
 #include "host/texts/variables.h"
 
@@ -196,7 +197,7 @@ std::optional<ZrString> SystemVariables::text(std::wstring_view name) const {
 
 ZrString SystemVariables::refusal(std::wstring_view name, SetResult result) const {
     const VariableRow* row = this->row(name);
-    return variableRefusal(row != nullptr ? ZrString(row->name) : upperCase(name), row, result);
+    return variableRefusal(row != nullptr ? ZrString(row->name) : shortened(upperCase(name)), row, result);
 }
 
 std::vector<ZrString> SystemVariables::names() const {

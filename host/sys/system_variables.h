@@ -46,6 +46,7 @@ struct VariableRow {
     VariableValue initial = short{0}; // where the home has no value
     bool angle = false;               // kept in radians, typed and shown in the drawing's angular units
     const wchar_t* choices = nullptr; // the texts it takes, between "/"
+    bool fromNextStart = false;       // a new value counts from the next start on
     // How to reach a value that no home keeps under the variable's name; called with a drawing open where the home is
     // one.
     VariableValue (*read)(Session&) = nullptr;

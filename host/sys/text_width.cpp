@@ -59,4 +59,9 @@ int columnsOf(std::wstring_view text) {
 ZrString padRight(std::wstring_view text, int columns) { return ZrString(text) + blanks(text, columns); }
 ZrString padLeft(std::wstring_view text, int columns) { return blanks(text, columns) + ZrString(text); }
 
+ZrString shortened(std::wstring_view word) {
+    constexpr std::size_t kMost = 60;
+    return word.size() <= kMost ? ZrString(word) : ZrString(word.substr(0, kMost)) + L"…";
+}
+
 } // namespace quor

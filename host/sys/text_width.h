@@ -12,4 +12,7 @@ namespace quor {
 [[nodiscard]] ZrString padRight(std::wstring_view text, int columns);
 [[nodiscard]] ZrString padLeft(std::wstring_view text, int columns);
 
+// A word that somebody typed as messages show it: of a very long one the beginning, and "…".
+[[nodiscard]] ZrString shortened(std::wstring_view word);
+
 } // namespace quor

@@ -48,6 +48,7 @@ const VariableRow rows[] = {
      .home = User,
      .initial = ZrString(L"zh"),
      .choices = L"zh/en",
+     .fromNextStart = true,
      .read = readLanguage,
      .write = writeLanguage},
     {.name = L"LASTPOINT", .type = Point, .home = Drawing, .read = readLastPoint, .write = writeLastPoint},

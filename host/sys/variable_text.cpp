@@ -130,7 +130,7 @@ ZrString variableRefusal(const ZrString& name, const VariableRow* row, SetResult
     case SetResult::NotInList:
         return fill(texts::variableWantsChoice, name, row != nullptr ? row->choices : L"");
     case SetResult::NotSaved:
-        return fill(texts::variableNotSaved, name);
+        return fill(row != nullptr && row->fromNextStart ? texts::variableNotKept : texts::variableNotSaved, name);
     default:
         return row != nullptr ? wanted(name, *row) : fill(texts::variableReadOnly, name);
     }

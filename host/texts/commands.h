@@ -126,6 +126,8 @@ inline constexpr Text kVariableNeedsInteger{L"\n%s 需要整数。\n", L"\n%s ne
 inline constexpr Text kVariableNeedsNumber{L"\n%s 需要数值。\n", L"\n%s needs a number.\n"};
 inline constexpr Text kVariableNeedsPoint{L"\n%s 需要形如 x,y,z 的点。\n", L"\n%s needs a point such as x,y,z.\n"};
 inline constexpr Text kVariableOutOfRange{L"\n%s 的值须在 %s 到 %s 之间。\n", L"\n%s takes values from %s to %s.\n"};
+inline constexpr Text kVariableFromNextStart{L"\n%s 的新值从下次启动起有效。\n",
+                                             L"\nThe new value of %s takes effect at the next start.\n"};
 inline constexpr Text kVariableRefused{L"\n%s 不接受该值。\n", L"\n%s does not take that value.\n"};
 
 // SCRIPT, LOADMODULE.
@@ -141,6 +143,8 @@ inline constexpr Text kHelpHow{L"\n输入 HELP 和命令名可查看该命令的
 inline constexpr Text kHelpModuleCommands{L"模块 %s", L"Module %s"};
 inline constexpr Text kHelpAliases{L"别名: %s", L"Also: %s"};
 inline constexpr Text kHelpExample{L"例: %s", L"Example: %s"};
+inline constexpr Text kHelpExampleWithBlank{L"例: \"%s\"(末尾的空格就是 Enter)",
+                                            L"Example: \"%s\" (the blank at the end is Enter)"};
 inline constexpr Text kHelpModulePage{L"\n%s 是模块 %s 的命令；按其提示回答即可。\n",
                                       L"\n%s is a command of the module %s; answer its questions.\n"};
 inline constexpr Text kHelpVariable{L"\n%s 是系统变量。输入其名称可查看或更改它的值。\n",

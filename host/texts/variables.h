@@ -25,5 +25,9 @@ inline constexpr Text variableNoLayer{L"%s: 图形中没有该名称的可用图
 inline constexpr Text variableNotSaved{L"系统变量 %s 仅在本次运行中有效: 无法写入用户设置。",
                                        L"System variable %s holds for this run only: the user's settings cannot be "
                                        L"written."};
+inline constexpr Text variableNotKept{
+    L"系统变量 %s 的新值从下次启动起才有效，但无法写入用户设置，因此不会保留。",
+    L"The new value of system variable %s counts from the next start on, but it was not "
+    L"kept: the user's settings cannot be written."};
 
 } // namespace quor::texts

@@ -33,6 +33,11 @@ TEST(TextWidth, PaddingCountsColumns) {
     EXPECT_EQ(padLeft(L"7", 3), L"  7");
 }
 
+TEST(TextWidth, WordOf60CharactersIsShownWholeAndALongerOneIsShortened) {
+    EXPECT_EQ(shortened(ZrString(60, L'灯')), ZrString(60, L'灯'));
+    EXPECT_EQ(shortened(ZrString(61, L'灯')), ZrString(60, L'灯') + L"…");
+}
+
 TEST(TextWidth, ALongerTextIsNotCut) {
     EXPECT_EQ(padRight(L"句柄", 3), L"句柄");
     EXPECT_EQ(padLeft(L"1234", 2), L"1234");
