@@ -32,7 +32,10 @@ int script(Session& session) {
         printText(L"\n" + source.error() + L"\n");
         return RTERROR;
     }
-    session.input().push(std::move(source).value());
+    if (const std::optional<ZrString> refusal = session.input().pushScript(std::move(source).value())) {
+        printText(L"\n" + *refusal + L"\n");
+        return RTERROR;
+    }
     return RTNORM;
 }
 

@@ -1,10 +1,15 @@
 #include "host/ed/answer_reader.h"
 
+#include <algorithm>
+
 namespace quor::ed {
 
 namespace {
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kEscape = "^C";
+constexpr std::string_view kLineEnds = "\r\n";
+
+bool isLineEnd(char c) { return c == '\n' || c == '\r'; }
 } // namespace
 
 AnswerReader::AnswerReader(std::string_view text, AnswerSyntax syntax) : text_(text), syntax_(syntax) {
@@ -13,7 +18,7 @@ AnswerReader::AnswerReader(std::string_view text, AnswerSyntax syntax) : text_(t
 }
 
 bool AnswerReader::isSeparator(char c, bool acceptsBlanks) const {
-    if (c == '\n')
+    if (isLineEnd(c))
         return true;
     if (c == ';')
         return syntax_ == AnswerSyntax::Macro;
@@ -22,9 +27,8 @@ bool AnswerReader::isSeparator(char c, bool acceptsBlanks) const {
 
 void AnswerReader::skipComments() {
     while (syntax_ == AnswerSyntax::Script && atLineStart_ && at_ < text_.size() && text_[at_] == ';') {
-        const std::size_t end = text_.find('\n', at_);
-        at_ = end == std::string_view::npos ? text_.size() : end + 1;
-        ++line_;
+        at_ = std::min(text_.find_first_of(kLineEnds, at_), text_.size());
+        takeSeparator(false);
     }
 }
 
@@ -33,15 +37,15 @@ bool AnswerReader::atEnd() {
     return at_ >= text_.size();
 }
 
-// One separator behind an answer belongs to it; a carriage return before a line feed is part of the line end.
+// One separator behind an answer belongs to it. A line ends with a line feed, a carriage return, or both.
 void AnswerReader::takeSeparator(bool acceptsBlanks) {
-    if (text_.substr(at_).starts_with("\r\n"))
+    if (text_.substr(at_).starts_with(kLineEnds))
         ++at_;
     if (at_ >= text_.size() || !isSeparator(text_[at_], acceptsBlanks)) {
         atLineStart_ = false;
         return;
     }
-    atLineStart_ = text_[at_] == '\n';
+    atLineStart_ = isLineEnd(text_[at_]);
     line_ += atLineStart_ ? 1 : 0;
     ++at_;
 }
@@ -58,12 +62,7 @@ std::optional<RawAnswer> AnswerReader::next(bool acceptsBlanks) {
     const std::size_t begin = at_;
     while (at_ < text_.size() && !isSeparator(text_[at_], acceptsBlanks))
         ++at_;
-    const bool beforeLineEnd = at_ < text_.size() && text_[at_] == '\n';
-    if (at_ > begin && text_[at_ - 1] == '\r' && (beforeLineEnd || at_ == text_.size()))
-        --at_;
     const std::string_view answer = text_.substr(begin, at_ - begin);
-    if (at_ < text_.size() && text_[at_] == '\r' && at_ + 1 == text_.size())
-        ++at_;
     takeSeparator(acceptsBlanks);
     return RawAnswer{answer.empty() ? RawAnswer::Kind::Enter : RawAnswer::Kind::Text, answer};
 }

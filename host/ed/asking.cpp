@@ -5,6 +5,8 @@
 #include "host/ed/command_processor.h"
 #include "host/ed/input_stack.h"
 #include "host/session.h"
+#include "host/sys/utf8.h"
+#include "host/texts/input.h"
 #include "sdk/ed/get.h"
 
 namespace quor::ed {
@@ -76,6 +78,10 @@ std::optional<Outcome> Asking::read(const Answer& answer) {
 }
 
 std::optional<Outcome> Asking::readText(const ZrString& typed) {
+    if (holdsEscapedBytes(typed)) {
+        say(texts::kNotUtf8);
+        return std::nullopt;
+    }
     if (ranTransparently(typed))
         return std::nullopt;
     Reading reading = readAnswer(typed, rules_, drawing_);

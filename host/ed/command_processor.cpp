@@ -4,6 +4,7 @@
 #include "host/ed/script_source.h"
 #include "host/session.h"
 #include "host/sys/system_variables.h"
+#include "host/sys/text_width.h"
 #include "host/sys/utf8.h"
 #include "host/texts/input.h"
 #include "sdk/rx/result_codes.h"
@@ -46,7 +47,7 @@ std::optional<Verdict> CommandProcessor::step() {
     case Answer::Kind::Point:
         return Verdict{};
     case Answer::Kind::Text:
-        return run(answer.text, byProgram);
+        return holdsEscapedBytes(answer.text) ? refuseBytes(answer.text) : run(answer.text, byProgram);
     case Answer::Kind::Enter:
         break;
     }
@@ -54,6 +55,12 @@ std::optional<Verdict> CommandProcessor::step() {
         return Verdict{};
     say(texts::kRepeats, last_);
     return run(ZrString(last_), byProgram);
+}
+
+Verdict CommandProcessor::refuseBytes(const ZrString& typed) {
+    session_.input().dropTypedAhead();
+    say(texts::kNotUtf8);
+    return {Verdict::Kind::Refused, RTREJ, shortened(typed)};
 }
 
 CommandProcessor::Call CommandProcessor::resolve(const CommandWord& word) const {
@@ -83,8 +90,8 @@ Verdict CommandProcessor::runTransparent(std::wstring_view typed) {
 Verdict CommandProcessor::runCall(const Call& call, const ZrString& typed, bool byProgram, bool transparent) {
     if (call.command == nullptr) {
         session_.input().dropTypedAhead();
-        say(texts::kUnknownCommand, typed);
-        return {Verdict::Kind::Unknown, RTREJ, typed};
+        say(texts::kUnknownCommand, shortened(typed));
+        return {Verdict::Kind::Unknown, RTREJ, shortened(typed)};
     }
     // The host's own commands say themselves what they need.
     if (!call.command->isHost && session_.documents().current() == nullptr) {

@@ -43,6 +43,8 @@ public:
     std::optional<Verdict> step();
     // Runs one command by its typed word; as a program when `byProgram`. The name of a system variable runs SETVAR.
     Verdict run(const ZrString& word, bool byProgram);
+    // What was typed at the command prompt is no text.
+    Verdict refuseBytes(const ZrString& typed);
     // Runs "'NAME", which was typed at a question of the running command.
     Verdict runTransparent(std::wstring_view typed);
 

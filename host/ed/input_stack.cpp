@@ -1,6 +1,7 @@
 #include "host/ed/input_stack.h"
 
 #include "host/ed/script_source.h"
+#include "host/sys/utf8.h"
 #include "host/texts/input.h"
 
 namespace quor::ed {
@@ -29,7 +30,33 @@ bool isAtPrompt(const Question& question) { return question.kind == Question::Ki
 
 ZrString Origin::text() const { return name ? fill(texts::kScriptPlace, *name, line) : ZrString(); }
 
+const std::filesystem::path& InputSource::file() const {
+    static const std::filesystem::path none;
+    return none;
+}
+
 void InputStack::push(std::unique_ptr<InputSource> source) { sources_.push_back(std::move(source)); }
+
+std::optional<ZrString> InputStack::pushScript(std::unique_ptr<InputSource> script) {
+    dropEnded();
+    std::size_t scripts = 0;
+    for (const auto& source : sources_) {
+        if (source->file().empty())
+            continue;
+        ++scripts;
+        if (source->file() == script->file())
+            return fill(texts::kScriptIsRunning, fromUtf8(script->file().string()));
+    }
+    if (scripts >= kMostScripts)
+        return fill(texts::kScriptsTooDeep, kMostScripts, fromUtf8(script->file().string()));
+    push(std::move(script));
+    return std::nullopt;
+}
+
+void InputStack::dropEnded() {
+    while (!sources_.empty() && sources_.back()->atEnd())
+        sources_.pop_back();
+}
 
 void InputStack::queueMacro(std::wstring_view macro) { macros_.push_back(std::make_unique<MacroSource>(macro)); }
 
@@ -46,8 +73,7 @@ bool InputStack::hasProgramInput() {
         sources_.push_back(std::move(macros_.back()));
         macros_.pop_back();
     }
-    while (!sources_.empty() && sources_.back()->atEnd())
-        sources_.pop_back();
+    dropEnded();
     return !sources_.empty();
 }
 

@@ -4,6 +4,7 @@
 #include "host/front.h"
 
 #include <deque>
+#include <filesystem>
 #include <memory>
 #include <vector>
 
@@ -27,6 +28,8 @@ public:
     [[nodiscard]] virtual bool atEnd() = 0;
     // Where the last answer stood.
     [[nodiscard]] virtual Origin origin() const { return {}; }
+    // The script file that it reads; empty when it reads none.
+    [[nodiscard]] virtual const std::filesystem::path& file() const;
     // Whether what it starts counts as started by a program (all but the person's own typing).
     [[nodiscard]] virtual bool isProgram() const { return true; }
     // Whether its end in the middle of a command is Esc for that command; else whoever is below goes on answering.
@@ -42,6 +45,11 @@ public:
     explicit InputStack(FrontEnd& front) : front_(front) {}
 
     void push(std::unique_ptr<InputSource> source);
+    // Puts a script on top of those that are not at their end: one that is done makes room, so that a script whose last
+    // command starts it anew runs on and on. In words for a person why not: the same file has lines left, or too many
+    // scripts are waiting for each other.
+    [[nodiscard]] std::optional<ZrString> pushScript(std::unique_ptr<InputSource> script);
+    static constexpr std::size_t kMostScripts = 100;
     // Puts a macro behind those that wait for the next command prompt.
     void queueMacro(std::wstring_view macro);
     // Drops every source, waiting macros and the rest of a typed line (a script that stops).
@@ -70,6 +78,7 @@ public:
     [[nodiscard]] const Origin& commandOrigin() const { return commandOrigin_; }
 
 private:
+    void dropEnded();
     [[nodiscard]] std::optional<Answer> fromSources(const Question& question);
     [[nodiscard]] Answer take(InputSource& source, const Question& question, Answer answer);
     template <class Ask>

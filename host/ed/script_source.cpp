@@ -4,6 +4,7 @@
 #include "host/sys/utf8.h"
 #include "host/texts/input.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fstream>
 #include <iterator>
@@ -28,6 +29,18 @@ std::optional<Answer> nextAnswer(AnswerReader& reader, const Question& question)
     return Answer{Answer::Kind::Text, fromUtf8(raw->text), {}};
 }
 
+// Where the text stops being UTF-8, or its size. No text holds a zero byte; UTF-16 is full of them.
+std::size_t invalidText(std::string_view text) {
+    return std::min({validUtf8Prefix(text), text.find('\0'), text.size()});
+}
+
+std::size_t lineAt(std::string_view text, std::size_t place) {
+    std::size_t line = 1;
+    for (std::size_t at = 0; at < place; ++at)
+        line += text[at] == '\n' || (text[at] == '\r' && text.substr(at + 1, 1) != "\n") ? 1 : 0;
+    return line;
+}
+
 } // namespace
 
 ScriptSource::ScriptSource(std::string text, const ZrString& name)
@@ -44,7 +57,12 @@ Result<std::unique_ptr<ScriptSource>, ZrString> ScriptSource::open(const std::fi
     std::string text{std::istreambuf_iterator<char>(file), {}};
     if (!file.is_open() || file.bad())
         return fail(fill(texts::kScriptUnreadable, name, systemErrorText(errno)));
-    return std::make_unique<ScriptSource>(std::move(text), fromUtf8(path.filename().string()));
+    if (const std::size_t invalid = invalidText(text); invalid < text.size())
+        return fail(fill(texts::kScriptNotUtf8, name, lineAt(text, invalid)));
+    auto script = std::make_unique<ScriptSource>(std::move(text), fromUtf8(path.filename().string()));
+    const std::filesystem::path whole = std::filesystem::weakly_canonical(path, problem);
+    script->file_ = problem ? path : whole;
+    return script;
 }
 
 std::optional<Answer> ScriptSource::next(const Question& question) { return nextAnswer(reader_, question); }
@@ -53,7 +71,7 @@ MacroSource::MacroSource(std::wstring_view macro) : text_(toUtf8(macro)), reader
 
 std::optional<Answer> MacroSource::next(const Question& question) { return nextAnswer(reader_, question); }
 
-TypedLine::TypedLine(std::wstring_view line) : text_(toUtf8(line)), reader_(text_, AnswerSyntax::Line) {}
+TypedLine::TypedLine(std::wstring_view line) : text_(toUtf8(line) + '\n'), reader_(text_, AnswerSyntax::Line) {}
 
 std::optional<Answer> TypedLine::next(const Question& question) { return nextAnswer(reader_, question); }
 

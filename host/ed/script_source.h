@@ -16,17 +16,19 @@ class ScriptSource final : public InputSource {
 public:
     // `text` is UTF-8. `name` is what messages call it; empty for a text that is no file (quorc -c).
     explicit ScriptSource(std::string text, const ZrString& name = {});
-    // Reads a file; in words for a person why not.
+    // Reads a file, which must be UTF-8; in words for a person why not.
     [[nodiscard]] static Result<std::unique_ptr<ScriptSource>, ZrString> open(const std::filesystem::path& path);
 
     std::optional<Answer> next(const Question& question) override;
     [[nodiscard]] bool atEnd() override { return reader_.atEnd(); }
     [[nodiscard]] Origin origin() const override { return {name_, reader_.line()}; }
+    [[nodiscard]] const std::filesystem::path& file() const override { return file_; }
 
 private:
     std::string text_;
     AnswerReader reader_;
     std::shared_ptr<const ZrString> name_;
+    std::filesystem::path file_;
 };
 
 // What a button or menu runs. Where it ends in the middle of a command, the person goes on.
@@ -42,7 +44,7 @@ private:
     AnswerReader reader_;
 };
 
-// The rest of a line on which a person typed several answers.
+// A line on which a person typed several answers, with its Enter.
 class TypedLine final : public InputSource {
 public:
     explicit TypedLine(std::wstring_view line);

@@ -1,5 +1,6 @@
 #include "host/sys/utf8.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
@@ -110,11 +111,19 @@ std::string toUtf8(std::wstring_view text) {
     return bytes;
 }
 
-bool isValidUtf8(std::string_view bytes) {
-    for (std::size_t at = asciiPrefix(bytes); at < bytes.size();)
-        if (isEscapedByte(nextUtf8(bytes, at)))
-            return false;
-    return true;
+std::size_t validUtf8Prefix(std::string_view bytes) {
+    std::size_t at = asciiPrefix(bytes);
+    while (at < bytes.size()) {
+        std::size_t next = at;
+        if (isEscapedByte(nextUtf8(bytes, next)))
+            return at;
+        at = next;
+    }
+    return at;
 }
+
+bool isValidUtf8(std::string_view bytes) { return validUtf8Prefix(bytes) == bytes.size(); }
+
+bool holdsEscapedBytes(std::wstring_view text) { return std::any_of(text.begin(), text.end(), isEscapedByte); }
 
 } // namespace quor

@@ -19,6 +19,12 @@ namespace quor {
 
 [[nodiscard]] bool isValidUtf8(std::string_view bytes);
 
+// Length of the leading part that is valid UTF-8.
+[[nodiscard]] std::size_t validUtf8Prefix(std::string_view bytes);
+
+// Whether the text came from bytes that were not valid UTF-8.
+[[nodiscard]] bool holdsEscapedBytes(std::wstring_view text);
+
 // Length of the leading part that is plain ASCII.
 [[nodiscard]] std::size_t asciiPrefix(std::string_view bytes);
 

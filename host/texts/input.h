@@ -22,6 +22,8 @@ inline constexpr Text kUnexpectedError{L"未知异常", L"unknown exception"};
 inline constexpr Text kBadKeyword{L"\n选项关键字无效。\n", L"\nInvalid option keyword.\n"};
 inline constexpr Text kNeedKeyword{L"\n需要选项关键字。\n", L"\nAn option keyword is required.\n"};
 inline constexpr Text kNeedText{L"\n需要输入文字。\n", L"\nA text is required.\n"};
+inline constexpr Text kNotUtf8{L"\n输入的内容不是有效的 UTF-8 文字。请检查终端或管道的编码后重新输入。\n",
+                               L"\nThis is not valid UTF-8 text. Check the encoding of the terminal or pipe.\n"};
 inline constexpr Text kNeedInteger{L"\n需要整数。\n", L"\nRequires a whole number.\n"};
 inline constexpr Text kNeedIntegerOrKeyword{L"\n需要整数或选项关键字。\n",
                                             L"\nRequires a whole number or option keyword.\n"};
@@ -74,6 +76,16 @@ inline constexpr Text kDialogBadAnswer{L"\n请输入 1 到 %d 的编号，Esc �
 inline constexpr Text kScriptPlace{L"%s，第 %d 行", L"%s, line %d"};
 inline constexpr Text kScriptIsFolder{L"“%s”是文件夹，不是脚本文件。", L"\"%s\" is a folder, not a script file."};
 inline constexpr Text kScriptUnreadable{L"无法读取脚本文件“%s”: %s", L"Cannot read the script file \"%s\": %s"};
+inline constexpr Text kScriptNotUtf8{
+    L"脚本文件“%s”第 %d 行不是有效的 UTF-8 文字。请把它另存为 UTF-8 编码后再执行。",
+    L"The script file \"%s\" is not valid UTF-8 text in line %d. Save it as UTF-8, then "
+    L"run it again."};
+inline constexpr Text kScriptIsRunning{
+    L"脚本“%s”正在执行，还有未执行的行，不能再次执行。只有写在最后一行的脚本命令才能重新执行它。",
+    L"The script \"%s\" is running and has lines left, so it cannot be run again. "
+    L"Only its last command may start it anew."};
+inline constexpr Text kScriptsTooDeep{L"脚本嵌套超过 %d 层，未执行“%s”。",
+                                      L"Scripts run each other more than %d deep; \"%s\" was not run."};
 
 inline constexpr Text kNewDrawingName{L"Drawing%d", L"Drawing%d"};
 

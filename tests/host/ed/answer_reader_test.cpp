@@ -46,6 +46,16 @@ TEST(AnswerReader, CarriageReturnsBelongToTheLineEnd) {
     EXPECT_EQ(readAll("A\r"), (Answers{"A"}));
 }
 
+TEST(AnswerReader, CarriageReturnAloneEndsALine) {
+    EXPECT_EQ(readAll("A\r; no\rB C\r\rD"), (Answers{"A", "B", "C", "<enter>", "D"}));
+    AnswerReader reader("; first\rA b\rC\r", AnswerSyntax::Script);
+    EXPECT_EQ(shown(*reader.next(true)), "A b");
+    EXPECT_EQ(reader.line(), 2U);
+    EXPECT_EQ(shown(*reader.next(true)), "C");
+    EXPECT_EQ(reader.line(), 3U);
+    EXPECT_TRUE(reader.atEnd());
+}
+
 TEST(AnswerReader, ByteOrderMarkIsSkipped) { EXPECT_EQ(readAll("\xEF\xBB\xBFLINE\n"), (Answers{"LINE"})); }
 
 TEST(AnswerReader, SemicolonAtTheStartOfALineIsAComment) {

@@ -2,6 +2,7 @@
 
 #include "host/ed/script_run.h"
 #include "host/ed/script_source.h"
+#include "host/sys/utf8.h"
 #include "sdk/db/database.h"
 #include "sdk/ed/get.h"
 #include "sdk/ed/macro.h"
@@ -266,6 +267,32 @@ TEST_F(Processor, ScriptStartedByAScriptRunsFirst) {
     });
     test_.runScript("NOTE one\nINNER\nNOTE two\n");
     EXPECT_EQ(order, (std::vector<ZrString>{L"one", L"inner", L"two"}));
+}
+
+TEST_F(Processor, BlankAtTheEndOfATypedLineIsAnEnterOfItsOwn) {
+    test_.run({L"LINE 0,0 1,1 ", L"OK"});
+    EXPECT_EQ(runs_, 1);
+    EXPECT_EQ(test_.front().asked(), (std::vector<ZrString>{L"\n命令: ", L"\n命令: ", L"\n命令: "}));
+}
+
+TEST_F(Processor, TypedLineWithoutABlankAtItsEndGivesNoFurtherEnter) {
+    test_.run({L"ASK 5", L"OK"});
+    EXPECT_EQ(number_, 5);
+    EXPECT_EQ(runs_, 1);
+}
+
+TEST_F(Processor, TypedBytesThatAreNoTextAreRefusedAndAskedAgain) {
+    test_.run({ZrString(L"ASK"), fromUtf8("5\xC0"), ZrString(L"6"), fromUtf8("O\xC0K")});
+    EXPECT_EQ(number_, 6);
+    EXPECT_EQ(runs_, 0);
+    EXPECT_EQ(test_.front().asked().size(), 5U);
+    EXPECT_TRUE(test_.front().shows(L"数: 5\xDCC0\n输入的内容不是有效的 UTF-8 文字。"));
+    EXPECT_TRUE(test_.front().shows(L"命令: O\xDCC0K\n输入的内容不是有效的 UTF-8 文字。"));
+}
+
+TEST_F(Processor, LongUnknownCommandIsShownShortened) {
+    EXPECT_EQ(test_.run({ZrString(5000, L'x')}).command, ZrString(60, L'x') + L"…");
+    EXPECT_TRUE(test_.front().shows(L"未知命令“" + ZrString(60, L'x') + L"…”"));
 }
 
 TEST_F(Processor, SystemVariableNameRunsSetvarOnIt) {
