@@ -1,6 +1,7 @@
 #include "console/drawing_stage.h"
 
 #include "console/exit_status.h"
+#include "host/commands/drawing_files.h"
 #include "host/document.h"
 #include "host/sys/system_variables.h"
 #include "host/sys/utf8.h"
@@ -44,6 +45,10 @@ int applySettings(Session& session, const std::vector<Setting>& settings, const 
         if (result == sys::SetResult::Ok)
             continue;
         const ZrString why = session.variables().refusal(setting.name, result);
+        if (result == sys::SetResult::NotSaved) {
+            report(why);
+            continue;
+        }
         report(fill(words::kSettingRefused, setting.name, setting.value, why));
         return kWrongUsage;
     }
@@ -60,7 +65,8 @@ int openDrawing(Session& session, const Options& options, const Report& report) 
     return applySettings(session, options.settings, report);
 }
 
-int saveDrawing(Session& session, const std::string& path, const Report& report) {
+int saveDrawing(Session& session, const std::string& name, const Report& report) {
+    const std::string path = commands::withExtension(name);
     Document* const document = session.documents().current();
     if (document == nullptr) {
         report(fill(words::kNothingToSave, fromUtf8(path)));

@@ -6,6 +6,8 @@
 #include "console/script_stage.h"
 #include "console/signals.h"
 #include "console/typing_stage.h"
+#include "host/document.h"
+#include "host/ed/command_processor.h"
 #include "host/rx/module_loader.h"
 #include "host/sys/system_error.h"
 #include "host/sys/utf8.h"
@@ -78,10 +80,21 @@ private:
         else
             status = runScripts({session_, front_, output_, options_.keepGoing, report_}, std::move(scripts));
         const bool stopped = status != kSuccess && !(status == kCommandFailed && options_.keepGoing);
-        if (stopped || options_.output.empty())
+        if (stopped)
             return status;
+        if (options_.output.empty()) {
+            warnOfUnsavedChanges();
+            return status;
+        }
         const int saved = saveDrawing(session_, options_.output, report_);
         return saved == kSuccess ? status : saved;
+    }
+
+    // The terminal has asked already, and QUIT too.
+    void warnOfUnsavedChanges() {
+        const bool asked = session_.processor().quitRequested() || (options_.runs.empty() && streams_.editsLines);
+        if (!asked && !options_.quiet && session_.documents().hasUnsavedChanges())
+            report_(words::kUnsaved.get());
     }
 
     // A reader who went away has seen enough; a full disk is an error.

@@ -83,8 +83,13 @@ int readScripts(const std::vector<Run>& runs, const Report& report, std::vector<
     int commands = 0;
     for (const Run& run : runs) {
         if (run.kind == Run::Kind::Command) {
+            ++commands;
+            if (!isValidUtf8(run.text)) {
+                report(fill(words::kCommandNotUtf8, commands));
+                return kWrongUsage;
+            }
             scripts.push_back(
-                {std::make_unique<ed::ScriptSource>(run.text + "\n"), fill(words::kCommandOption, ++commands), 0});
+                {std::make_unique<ed::ScriptSource>(run.text + "\n"), fill(words::kCommandOption, commands), 0});
             continue;
         }
         auto source = ed::ScriptSource::open(run.text);

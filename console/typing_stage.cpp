@@ -62,11 +62,6 @@ int typeThroughPipe(const TypingRoom& room) {
     return pipeStatus(room.output, worst);
 }
 
-bool hasUnsavedChanges(Session& session) {
-    const auto& documents = session.documents().all();
-    return std::any_of(documents.begin(), documents.end(), [](const auto& document) { return document->isModified(); });
-}
-
 // Ctrl+D with unsaved changes warns once; pressed again at once it ends the session. With -o the end saves.
 int typeOnTerminal(const TypingRoom& room) {
     TerminalReader reader(room.output, History(History::defaultFile()),
@@ -80,7 +75,7 @@ int typeOnTerminal(const TypingRoom& room) {
             warned = false;
             continue;
         }
-        if (warned || !room.options.output.empty() || !hasUnsavedChanges(room.session))
+        if (warned || !room.options.output.empty() || !room.session.documents().hasUnsavedChanges())
             break;
         say(words::kUnsavedEnd);
         warned = true;

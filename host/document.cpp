@@ -53,6 +53,11 @@ DocumentManager::DocumentManager() = default;
 
 DocumentManager::~DocumentManager() { closeAll(); }
 
+bool DocumentManager::hasUnsavedChanges() const {
+    return std::any_of(documents_.begin(), documents_.end(),
+                       [](const auto& document) { return document->isModified(); });
+}
+
 void DocumentManager::closeAll() {
     while (!documents_.empty())
         close(*documents_.back());

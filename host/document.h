@@ -61,6 +61,7 @@ public:
 
     [[nodiscard]] Document* current() const { return current_; }
     [[nodiscard]] const std::vector<std::unique_ptr<Document>>& all() const { return documents_; }
+    [[nodiscard]] bool hasUnsavedChanges() const;
     [[nodiscard]] const std::vector<ZrApDocumentReactor*>& reactors() const { return reactors_; }
     [[nodiscard]] const std::vector<ZrEdSelectionReactor*>& selectionReactors() const { return selectionReactors_; }
     void addSelectionReactor(ZrEdSelectionReactor* reactor);

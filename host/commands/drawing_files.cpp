@@ -106,16 +106,22 @@ int openPath(Session& session, const fs::path& file, bool recover) {
     return RTNORM;
 }
 
+fs::path withExtension(fs::path path) {
+    std::error_code error;
+    const bool isOther = fs::exists(path, error) && !fs::is_regular_file(path, error);
+    if (!path.has_extension() && !isOther)
+        path += ".dxf";
+    return path;
+}
+
 int askSavePath(Session& session, const Document& document, fs::path& path) {
     const std::optional<ZrString> answer = askLine(texts::kAskSavePath.get());
     if (!answer || answer->empty())
         return RTCAN;
-    path = absolutePath(pathFromText(*answer));
-    std::error_code error;
-    if (!path.has_extension() && !fs::is_directory(path, error))
-        path += ".dxf";
+    path = withExtension(absolutePath(pathFromText(*answer)));
     if (!isPlaceToSave(session, document, path))
         return RTERROR;
+    std::error_code error;
     const bool own = !document.path().empty() && sameFile(path, document.path());
     if (own || !fs::exists(path, error))
         return RTNORM;

@@ -14,6 +14,8 @@ namespace quor::commands {
 // Opens a drawing and makes it current; one that is open already becomes current. RTNORM or RTERROR.
 int openPath(Session& session, const std::filesystem::path& file, bool recover);
 
+// The path with ".dxf" behind a name that has no extension. A folder or a device stays what it is.
+[[nodiscard]] std::filesystem::path withExtension(std::filesystem::path path);
 // Asks where to save. A name without extension gets ".dxf". Asks before it replaces a file other than the drawing's
 // own. RTNORM with a path, RTCAN for Esc, Enter or a file that is to be kept, RTERROR for a place where nothing can be
 // saved.

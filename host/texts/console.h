@@ -15,10 +15,11 @@ inline constexpr Text kHelp{LR"(用法: quorc [选项]... [图形]
 
 执行什么(可重复，按命令行上的顺序执行)
   -s, --script 文件       执行脚本
-  -c, --command 文本      执行一行命令；空格和行尾都结束一个回答
+  -c, --command 文本      执行这些命令，如同输入后按 Enter；空格和行尾都是 Enter，
+                          所以结束选择等提问要在末尾加空格；可以有多行，与脚本相同
 
 图形
-  -o, --output 文件       最后把图形保存到这里；脚本中途停下时不保存
+  -o, --output 文件       最后把图形保存到这里(没有扩展名时加上 .dxf)；脚本中途停下时不保存
       --recover           打开损坏的图形: 列出问题，保留其余部分
       --set 名称=值       打开图形后设置系统变量(可重复)
 
@@ -40,7 +41,7 @@ inline constexpr Text kHelp{LR"(用法: quorc [选项]... [图形]
   quorc 户型.dxf -s 灯光.scr -o 户型-带灯.dxf       执行脚本，另存结果
   quorc 户型.dxf -c "LIST ALL "                     列出所有对象
   quorc --set LIGHTINGUNITS=1 -c "POINTLIGHT 0,0,0 " -o 灯.dxf
-  printf 'LIST\nALL\n\n' | quorc 户型.dxf           从管道读取命令
+  printf 'LIST ALL\n\n' | quorc 户型.dxf            从管道读取命令
 
 退出状态
     0  一切正常
@@ -60,10 +61,12 @@ Without DRAWING a new one is started; without script or command, commands are re
 
 What to run (repeatable, in the order of the command line)
   -s, --script FILE       run a script
-  -c, --command TEXT      run one line of commands; a blank or the line's end ends an answer
+  -c, --command TEXT      run commands as if typed with Enter behind them; a blank and a line's end are Enter,
+                          so a blank at the end ends a selection; may have several lines, as a script has
 
 The drawing
-  -o, --output FILE       save the drawing here at the end, unless a script stopped half-way
+  -o, --output FILE       save the drawing here at the end, unless a script stopped half-way;
+                          .dxf is added to a name without extension
       --recover           open a damaged drawing: list what is wrong, keep the rest
       --set NAME=VALUE    set a system variable once the drawing is open (repeatable)
 
@@ -85,7 +88,7 @@ Examples
   quorc plan.dxf -s lights.scr -o plan-lit.dxf      run a script, save the result elsewhere
   quorc plan.dxf -c "LIST ALL "                     list all objects
   quorc --set LIGHTINGUNITS=1 -c "POINTLIGHT 0,0,0 " -o lamp.dxf
-  printf 'LIST\nALL\n\n' | quorc plan.dxf           read commands from a pipe
+  printf 'LIST ALL\n\n' | quorc plan.dxf            read commands from a pipe
 
 Exit status
     0  all is well
@@ -123,7 +126,13 @@ inline constexpr Text kOutOfMemory{L"内存不足。", L"There is not enough mem
 // Why a command failed; what it said itself stands above.
 inline constexpr Text kWhyFailed{L"命令报告了错误。", L"it reported an error."};
 inline constexpr Text kWhyUnknown{L"没有这个命令。", L"there is no such command."};
-inline constexpr Text kWhyEnded{L"回答在命令中途用完了。", L"the answers ran out in the middle of it."};
+inline constexpr Text kWhyEnded{L"命令还在提问，回答用完了（空格或空行就是 Enter）。",
+                                L"it was still asking when the answers ran out (a blank or an empty line is Enter)."};
+
+// No error; said where the drawing is dropped.
+inline constexpr Text kUnsaved{L"警告: 图形有未保存的修改；用 -o 或 SAVE 保存。",
+                               L"warning: the drawing has unsaved changes; -o or SAVE keeps them."};
+inline constexpr Text kCommandNotUtf8{L"第 %d 个 -c 不是有效的 UTF-8 文字。", L"-c number %d is not valid UTF-8 text."};
 
 // Where a command stood, for those that came from no script file.
 inline constexpr Text kCommandOption{L"第 %d 个 -c", L"-c number %d"};

@@ -87,19 +87,19 @@ constexpr HelpPage kPages[] = {
       L"不选任何对象而按 Enter，即取消选择。",
       L"Select objects: pick, or ALL, Last, Previous, #1F for a handle, Remove, Add; Enter ends.\nEnter at once selects "
       L"nothing."},
-     L"SELECT ALL"},
+     L"SELECT ALL "},
     {L"ERASE", kObjects,
      {L"删除对象。",
       L"Erases objects."},
      {L"选择对象，与 SELECT 相同；已经选好的对象直接删除。锁定图层上的对象保留。",
       L"Select objects as in SELECT; what is selected already is erased at once. Objects on locked layers stay."},
-     L"ERASE L"},
+     L"ERASE L "},
     {L"LIST", kObjects,
      {L"列出对象的所有特性；对光源列出全部参数及单位。",
       L"Lists every property of objects; of lights all values with their units."},
      {L"选择对象，与 SELECT 相同。",
       L"Select objects as in SELECT."},
-     L"LIST ALL"},
+     L"LIST ALL "},
     {L"LINE", kObjects,
      {L"画直线段。",
       L"Draws straight lines."},
@@ -114,7 +114,7 @@ constexpr HelpPage kPages[] = {
      {L"第一到第四点；第四点按 Enter 成为三角形。之后每个面再给两点，Enter 结束。\n不可见(I): 在一点之前输入，隐藏从该点开始的边。",
       L"First to fourth point; Enter at the fourth makes a triangle. Each further face takes two more points; Enter ends.\n"
       L"Invisible: before a point, hides the edge that begins there."},
-     L"3DFACE 0,0 10,0 10,10 0,10"},
+     L"3DFACE 0,0 10,0 10,10 0,10 "},
 
     {L"UCS", kSpaces,
      {L"设置用户坐标系。",
@@ -155,7 +155,7 @@ constexpr HelpPage kPages[] = {
       L"名称为 1 到 255 个字符，可含空格，不含 <>/\\\":;?*|=,` 。",
       L"?: all layers. Make: a name; the layer becomes current. Set: the name of a layer. Enter ends.\n"
       L"Names have 1 to 255 characters, blanks included, none of <>/\\\":;?*|=,` ."},
-     L"LAYER M Lamps"},
+     L"LAYER ? "},
 
     {L"SETVAR", kPrograms,
      {L"查看或更改系统变量。也可直接输入变量名。",
@@ -166,9 +166,11 @@ constexpr HelpPage kPages[] = {
     {L"SCRIPT", kPrograms,
      {L"执行脚本文件中的命令。",
       L"Runs the commands of a script file."},
-     {L"脚本文件名，可含空格。脚本中空格和换行结束一个回答，空行为 Enter，行首的 ; 为注释，^C 为 Esc。",
+     {L"脚本文件名，可含空格。脚本中空格和换行结束一个回答，空行为 Enter，行首的 ; 为注释，^C 为 Esc。\n脚本须为 UTF-8 编码。脚本可以执行别的脚本；"
+      L"只有在最后一行才能重新执行自己，否则会被拒绝。",
       L"File name, which may hold blanks. In a script a blank or a line end ends an answer, a blank line is Enter, ; at the "
-      L"start of a line is a comment, ^C is Esc."},
+      L"start of a line is a comment, ^C is Esc.\nScripts are UTF-8 text. A script may run others; itself only by its last "
+      L"command, else that is refused."},
      L"SCRIPT lights.scr"},
     {L"LOADMODULE", kPrograms,
      {L"加载模块，使它的命令可用。",

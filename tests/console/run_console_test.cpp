@@ -59,6 +59,7 @@ protected:
         return runConsole(options_, streams, session);
     }
 
+    static constexpr const char* kUnsaved = "quorc: warning: the drawing has unsaved changes; -o or SAVE keeps them.\n";
     static bool has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
     fs::path folder_ = fs::temp_directory_path() / ("quor-run-" + std::to_string(getpid()));
@@ -70,7 +71,7 @@ protected:
 TEST_F(RunConsoleTest, PipedAnswersReadLikeTheScreen) {
     EXPECT_EQ(run("LINE\n0,0\n1,1\n\n"), kSuccess);
     EXPECT_EQ(out_, "Command: LINE\nFirst point: 0,0\nNext point or [Undo]: 1,1\nNext point or [Undo]: \nCommand: \n");
-    EXPECT_EQ(err_, "");
+    EXPECT_EQ(err_, kUnsaved);
 }
 
 TEST_F(RunConsoleTest, PipedInputGoesOnBehindAFailedCommand) {
@@ -98,6 +99,62 @@ TEST_F(RunConsoleTest, NothingIsSavedWithoutBeingAskedFor) {
     command("LINE 0,0 1,1 ");
     EXPECT_EQ(run(), kSuccess);
     EXPECT_EQ(read("in.dxf"), "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n");
+}
+
+TEST_F(RunConsoleTest, ChangesThatAreDroppedAtTheEndAreWarnedOf) {
+    options_.drawing = write("in.dxf", "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n");
+    script("a.scr", "LINE 0,0 1,1 \n");
+    EXPECT_EQ(run(), kSuccess);
+    EXPECT_EQ(err_, kUnsaved);
+}
+
+TEST_F(RunConsoleTest, NothingIsWarnedOfWhenTheChangesWereSaved) {
+    options_.drawing = write("in.dxf", "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n");
+    script("a.scr", "LINE 0,0 1,1 \nSAVE\n");
+    EXPECT_EQ(run(), kSuccess);
+    EXPECT_EQ(err_, "");
+    options_.runs.clear();
+    command("LINE 2,2 3,3 ");
+    options_.output = path("out.dxf");
+    EXPECT_EQ(run(), kSuccess);
+    EXPECT_EQ(err_, "");
+}
+
+TEST_F(RunConsoleTest, OutputWithoutExtensionGetsOne) {
+    options_.output = path("out");
+    command("LINE 0,0 1,1 ");
+    EXPECT_EQ(run(), kSuccess);
+    EXPECT_TRUE(fs::exists(path("out.dxf")));
+    EXPECT_FALSE(fs::exists(path("out")));
+    EXPECT_TRUE(has(out_, "The drawing was saved to " + path("out.dxf")));
+}
+
+TEST_F(RunConsoleTest, CommandOptionMayHoldSeveralLines) {
+    command("; two lines\nLINE 0,0 1,1\n\nLINE\n5,5 6,6 ");
+    EXPECT_EQ(run(), kSuccess);
+    EXPECT_TRUE(has(out_, "First point: 5,5"));
+}
+
+TEST_F(RunConsoleTest, TextInAnotherEncodingIsRefusedBeforeAnythingRuns) {
+    command("LINE 0,0 1,1 ");
+    script("gbk.scr", "LINE 0,0 1,1 \n\xB5\xC6\n");
+    EXPECT_EQ(run(), kWrongUsage);
+    EXPECT_TRUE(has(err_, "gbk.scr\" is not valid UTF-8 text in line 2. Save it as UTF-8"));
+    options_.runs.clear();
+    err_.clear();
+    command("\xB5\xC6");
+    EXPECT_EQ(run(), kWrongUsage);
+    EXPECT_EQ(err_, "quorc: -c number 1 is not valid UTF-8 text.\n");
+    EXPECT_EQ(out_, "");
+}
+
+TEST_F(RunConsoleTest, SettingThatCannotBeKeptIsTakenForThisRun) {
+    fs::create_directory(folder_ / "settings.ini");
+    options_.settings = {{L"SUPPORTPATH", L"/lamps"}};
+    command("SETVAR SUPPORTPATH\n");
+    EXPECT_EQ(run(), kSuccess);
+    EXPECT_TRUE(has(err_, "SUPPORTPATH holds for this run only"));
+    EXPECT_TRUE(has(out_, "/lamps"));
 }
 
 TEST_F(RunConsoleTest, ScriptStopsAtItsFirstFailedCommandAndNothingIsSaved) {
@@ -131,7 +188,9 @@ TEST_F(RunConsoleTest, FailedSaveCountsForMoreThanAFailedCommandThatWasPassedOve
 TEST_F(RunConsoleTest, AnswersThatRunOutAreAFailureOfTheScript) {
     command("LINE 0,0");
     EXPECT_EQ(run(), kCommandFailed);
-    EXPECT_EQ(err_, "quorc: -c number 1: command LINE failed: the answers ran out in the middle of it.\n");
+    EXPECT_EQ(err_,
+              "quorc: -c number 1: command LINE failed: it was still asking when the answers ran out (a blank or an "
+              "empty line is Enter).\n");
 }
 
 TEST_F(RunConsoleTest, EscInAScriptIsNoFailure) {

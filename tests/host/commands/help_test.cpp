@@ -1,4 +1,8 @@
+#include "host/ed/input_stack.h"
+#include "host/ed/script_run.h"
+#include "host/ed/script_source.h"
 #include "host/sys/text_width.h"
+#include "host/sys/utf8.h"
 #include "host/texts/help.h"
 #include "tests/support/test_session.h"
 
@@ -6,6 +10,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <set>
 
 namespace quor {
@@ -51,6 +57,37 @@ TEST(HelpPages, ExamplesBeginWithTheCommand) {
         const std::wstring_view example = page.example;
         EXPECT_EQ(example.substr(0, example.find(L' ')), page.command);
     }
+}
+
+// An open drawing with a line and a layout, and beside it the files that the examples name.
+class HelpExample : public testing::Test {
+protected:
+    HelpExample() : before_(std::filesystem::current_path()) {
+        std::filesystem::current_path(host_.folder());
+        std::ofstream("lights.scr") << "LINE 1,1 2,2 \n";
+        host_.runScript("LINE 0,0 1,1 \nLINE 2,2 3,3 \nSAVEAS broken.dxf\nSAVEAS office.dxf\nLINE 3,3 4,4 \nU\n");
+    }
+    ~HelpExample() override { std::filesystem::current_path(before_); }
+
+    std::filesystem::path before_;
+    test::TestSession host_;
+};
+
+TEST_F(HelpExample, HoldsEveryAnswerThatItsCommandAsksFor) {
+    for (const texts::HelpPage& page : texts::helpPages()) {
+        host_.session().input().push(std::make_unique<ed::ScriptSource>(toUtf8(page.example) + "\n"));
+        const auto failure = ed::runSources(host_.session(), false).first;
+        EXPECT_FALSE(failure && failure->verdict.kind == ed::Verdict::Kind::EndOfInput) << page.example;
+        EXPECT_EQ(failure && failure->verdict.kind == ed::Verdict::Kind::Unknown, false) << page.example;
+    }
+}
+
+TEST(Help, ShowsTheBlankThatEndsAnExample) {
+    test::TestSession host;
+
+    host.run({L"HELP", L"LIST"});
+
+    EXPECT_TRUE(host.front().shows(L"例: \"LIST ALL \"(末尾的空格就是 Enter)"));
 }
 
 TEST(HelpPages, SummariesFitBesideTheNamesInTheOverview) {
