@@ -1,10 +1,20 @@
 #include "host/dxf/patch.h"
 
 #include <algorithm>
-#include <cassert>
+#include <stdexcept>
 #include <utility>
 
 namespace quor::dxf {
+namespace {
+
+// A mistake here would write a damaged drawing over a good one: the save fails instead, in every kind of build.
+void require(bool fits) {
+    if (!fits) {
+        throw std::logic_error("patches overlap or lie outside the file");
+    }
+}
+
+} // namespace
 
 std::size_t totalSize(const Segments& segments) {
     std::size_t size = 0;
@@ -24,7 +34,7 @@ std::string joined(const Segments& segments) {
 }
 
 void PatchList::replace(std::size_t begin, std::size_t end, std::string bytes) {
-    assert(begin <= end);
+    require(begin <= end);
     patches_.push_back({begin, end - begin, std::move(bytes)});
 }
 
@@ -47,7 +57,8 @@ Segments PatchList::segments(std::string_view image) const {
     };
     std::size_t done = 0;
     for (const Patch* patch : order) {
-        assert(patch->offset >= done && patch->offset + patch->length <= image.size());
+        require(patch->offset >= done && patch->length <= image.size() &&
+                patch->offset <= image.size() - patch->length);
         add(image.substr(done, patch->offset - done));
         add(patch->bytes);
         done = patch->offset + patch->length;

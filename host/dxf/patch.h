@@ -22,7 +22,8 @@ struct Patch {
 
 class PatchList {
 public:
-    // Puts bytes in place of [begin, end). Replaced slices must not overlap.
+    // Puts bytes in place of [begin, end). Replaced slices must not overlap; segments() throws std::logic_error when
+    // they do.
     void replace(std::size_t begin, std::size_t end, std::string bytes);
     void remove(std::size_t begin, std::size_t end) { replace(begin, end, {}); }
     // Several inserts at one place keep their order; they stand before a slice that is replaced from there.

@@ -1,6 +1,7 @@
 #include "host/dxf/patch.h"
 
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 namespace quor::dxf {
 namespace {
@@ -44,6 +45,17 @@ TEST(PatchList, EverythingMayBeRemoved) {
     PatchList patches;
     patches.remove(0, 3);
     EXPECT_TRUE(patches.segments("abc").empty());
+}
+
+TEST(PatchList, OverlapsAndPlacesOutsideTheFileAreRefused) {
+    PatchList overlapping;
+    overlapping.remove(1, 4);
+    overlapping.remove(3, 5);
+    EXPECT_THROW((void)overlapping.segments("0123456789"), std::logic_error);
+    PatchList outside;
+    outside.remove(2, 4);
+    EXPECT_THROW((void)outside.segments("012"), std::logic_error);
+    EXPECT_THROW(outside.replace(4, 2, ""), std::logic_error);
 }
 
 } // namespace
