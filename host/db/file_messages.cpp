@@ -36,8 +36,7 @@ ZrString describe(const dxf::Error& error, const ZrString& file) {
         return fill(texts::kSectionWithoutEnd, file, place(error), error.excerpt);
     case Kind::RecordTooLong:
         return fill(texts::kRecordTooLong, file, place(error));
-    case Kind::NoEnd:
-    case Kind::BinaryTruncated:
+    default:
         break;
     }
     return fill(texts::kNoEndOfFile, file, place(error));
@@ -50,8 +49,14 @@ ZrString describeProblem(const dxf::Error& error) {
     case Kind::MissingValue:
         return fill(texts::kProblemMissingValue, place(error), error.excerpt);
     case Kind::NoEnd:
-    case Kind::BinaryTruncated:
         return fill(texts::kProblemNoEnd, place(error));
+    case Kind::BinaryTruncated:
+        return fill(texts::kProblemCutValue, place(error));
+    case Kind::Incomplete:
+        return fill(error.excerpt.starts_with(L'$') ? texts::kProblemIncompleteVariable : texts::kProblemIncomplete,
+                    place(error), error.excerpt);
+    case Kind::BadNumber:
+        return fill(texts::kProblemBadNumber, place(error), error.excerpt);
     case Kind::SectionWithoutEnd:
         return fill(texts::kProblemSectionWithoutEnd, place(error), error.excerpt);
     default:

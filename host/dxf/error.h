@@ -20,6 +20,8 @@ struct Error {
         BinaryTruncated,   // binary form: the file breaks off inside a tag
         SectionWithoutEnd, // a SECTION or EOF comes while the section named by excerpt is open
         RecordTooLong,     // one record of 4 GB or more
+        Incomplete,        // recovery left out what the file breaks off in; excerpt is the type or the $variable
+        BadNumber,         // recovery found a value that is no number; excerpt is the value
     };
 
     Kind kind = Kind::NotDxf;

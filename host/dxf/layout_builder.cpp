@@ -193,13 +193,16 @@ void LayoutBuilder::closeVar(std::size_t end) {
     }
 }
 
-void LayoutBuilder::breakOff(std::size_t lastWhole) {
+void LayoutBuilder::breakOff(std::size_t lastWhole, bool recordWhole) {
     std::size_t end = lastWhole;
-    if (recordOpen_) {
+    if (recordOpen_ && (!recordWhole || closeRecord(lastWhole) == Step::Refuse)) {
         end = record_.begin;
         recordOpen_ = false;
+        const std::string_view type = layout_.names.name(record_.type);
+        (void)problem(Error::Kind::Incomplete, end, excerptOf(type));
     } else if (varOpen_) {
         end = layout_.headerVars.back().begin;
+        (void)problem(Error::Kind::Incomplete, end, excerptOf(layout_.headerVars.back().name));
         layout_.headerVars.pop_back();
         varOpen_ = false;
     } else if (nameless_) {

@@ -20,8 +20,9 @@ public:
     [[nodiscard]] bool problem(Error::Kind kind, std::size_t offset, std::wstring excerpt);
     // The bytes from here to the next tag are damaged: belong to the open record, if any.
     void markDamaged() { record_.damaged = true; }
-    // The file breaks off; everything before lastWhole was tags.
-    void breakOff(std::size_t lastWhole);
+    // The file breaks off; everything before lastWhole was tags. `recordWhole`: the open record ends there, nothing of
+    // it is missing; else it is left out and reported.
+    void breakOff(std::size_t lastWhole, bool recordWhole);
 
     [[nodiscard]] bool inHeader() const { return inHeader_; }
     [[nodiscard]] const Error& refusal() const { return refusal_; }

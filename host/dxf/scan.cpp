@@ -70,13 +70,21 @@ bool isBlankFrom(std::string_view file, std::size_t at) {
 
 bool isEnd(int code, std::string_view value) { return code == 0 && trimmed(value) == "EOF"; }
 
-// The file is at its end without 0/EOF.
-bool breakOff(LayoutBuilder& builder, Error::Kind kind, std::size_t at, std::size_t lastWhole, std::wstring excerpt) {
-    if (!builder.problem(kind, at, std::move(excerpt))) {
+// The file is at its end without 0/EOF: between two tags, inside one of a record, or inside one that begins the next.
+bool breakOff(LayoutBuilder& builder, const Error& error, std::size_t lastWhole, bool recordWhole) {
+    if (!builder.problem(error.kind, error.offset, error.excerpt)) {
         return false;
     }
-    builder.breakOff(lastWhole);
+    builder.breakOff(lastWhole, recordWhole);
     return true;
+}
+
+Error errorAt(Error::Kind kind, std::size_t offset, std::wstring excerpt = {}) {
+    Error error;
+    error.kind = kind;
+    error.offset = offset;
+    error.excerpt = std::move(excerpt);
+    return error;
 }
 
 // False when the file is refused.
@@ -97,7 +105,7 @@ bool scanAscii(std::string_view file, std::size_t at, LayoutBuilder& builder) {
             builder.markDamaged();
             const std::size_t next = findPlausibleTag(file, at, builder.inHeader());
             if (next >= file.size()) {
-                return breakOff(builder, Error::Kind::NoEnd, file.size() - 1, at, {});
+                return breakOff(builder, errorAt(Error::Kind::NoEnd, file.size() - 1), at, false);
             }
             at = next;
             ends.seek(at);
@@ -105,12 +113,14 @@ bool scanAscii(std::string_view file, std::size_t at, LayoutBuilder& builder) {
         }
         const std::size_t valueBegin = codeEnd + 1;
         if (valueBegin >= file.size()) [[unlikely]] {
-            return breakOff(builder, Error::Kind::MissingValue, at, at, excerptOf(lineAt(file, at)));
+            return breakOff(builder, errorAt(Error::Kind::MissingValue, at, excerptOf(lineAt(file, at))), at,
+                            tag.code == 0);
         }
         const std::size_t valueEnd = ends.next();
         tag.end = std::min(valueEnd + 1, file.size());
         if (valueEnd >= file.size() && !isEnd(tag.code, file.substr(valueBegin))) [[unlikely]] {
-            return breakOff(builder, Error::Kind::NoEnd, file.size() - 1, at, {}); // the value may be cut short
+            // The value may be cut short.
+            return breakOff(builder, errorAt(Error::Kind::NoEnd, file.size() - 1), at, tag.code == 0);
         }
         if (builder.wants(tag.code)) {
             tag.begin = at;
@@ -121,12 +131,13 @@ bool scanAscii(std::string_view file, std::size_t at, LayoutBuilder& builder) {
         }
         at = tag.end;
     }
-    return breakOff(builder, Error::Kind::NoEnd, file.size() - 1, at, {});
+    return breakOff(builder, errorAt(Error::Kind::NoEnd, file.size() - 1), at, true);
 }
 
 bool scanBinary(std::string_view file, Form form, std::size_t at, LayoutBuilder& builder) {
     Tag tag;
     while (true) {
+        tag.code = -1; // while it is not known
         const BinaryStep found = readBinaryTag(file, form, at, file.size(), tag);
         if (found == BinaryStep::Ok) {
             if (const Step step = builder.tag(tag); step != Step::Go) {
@@ -136,18 +147,18 @@ bool scanBinary(std::string_view file, Form form, std::size_t at, LayoutBuilder&
             continue;
         }
         if (found == BinaryStep::AtEnd) {
-            return breakOff(builder, Error::Kind::NoEnd, file.size(), at, {});
+            return breakOff(builder, errorAt(Error::Kind::NoEnd, file.size()), at, true);
         }
         const bool badCode = found == BinaryStep::BadCode;
         if (!builder.problem(badCode ? Error::Kind::BadGroupCode : Error::Kind::BinaryTruncated, at,
                              badCode ? std::to_wstring(tag.code) : std::wstring())) {
             return false;
         }
-        builder.markDamaged();
         const std::size_t next = findPlausibleBinaryTag(file, form, at + 1);
         if (next >= file.size()) {
-            return breakOff(builder, Error::Kind::NoEnd, file.size(), at, {});
+            return breakOff(builder, errorAt(Error::Kind::NoEnd, file.size()), at, !badCode && tag.code == 0);
         }
+        builder.markDamaged();
         at = next;
     }
 }

@@ -43,6 +43,14 @@ inline constexpr Text kProblemNoEnd{L"%s：缺少文件结束标记（0 EOF）�
                                     L"%s: the end of file marker (0 EOF) is missing."};
 inline constexpr Text kProblemSectionWithoutEnd{L"%s：段 %s 没有结束（0 ENDSEC）。",
                                                 L"%s: the section %s has no end (0 ENDSEC)."};
+inline constexpr Text kProblemCutValue{L"%s：此处的值不完整。", L"%s: the value here is not whole."};
+inline constexpr Text kProblemIncomplete{L"%s：对象 %s 不完整，已略去。",
+                                         L"%s: the object %s is incomplete and left out."};
+inline constexpr Text kProblemIncompleteVariable{L"%s：图形设置 %s 不完整，已略去。",
+                                                 L"%s: the setting %s is incomplete and left out."};
+inline constexpr Text kProblemBadNumber{
+    L"%s：值“%s”不是数字，使用时按未给出处理，文件中按原样保留。",
+    L"%s: the value \"%s\" is no number; it counts as not given and is kept in the file as it is."};
 inline constexpr Text kProblemOther{L"%s：无法识别的内容，按原样保留。",
                                     L"%s: something that is not understood; kept as it is."};
 inline constexpr Text kMoreFileProblems{L"另有 %d 个问题未列出。", L"%d more problems are not listed."};

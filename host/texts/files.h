@@ -30,11 +30,14 @@ inline constexpr Text kOpening{L"正在打开 %s", L"Opening %s"};
 // What was done.
 inline constexpr Text kMadeNew{L"\n新建图形 %s。\n", L"\nNew drawing %s.\n"};
 inline constexpr Text kOpened{L"\n已打开 %s: 版本 %s，%d 个图元。\n", L"\nOpened %s: version %s, entities: %d.\n"};
+inline constexpr Text kHoldsNoLights{
+    L"\n%s 版本的图形不能包含光源；含有光源时无法保存。需要光源时，请使用 AC1015 或更高版本的图形。\n",
+    L"\nA drawing of version %s cannot hold lights and is not saved with any. For lights, use a drawing of version "
+    L"AC1015 or later.\n"};
 inline constexpr Text kOpenAlready{L"\n%s 已经打开，现切换到该图形。\n",
                                    L"\n%s is open already; it is now the current drawing.\n"};
 inline constexpr Text kRecoveredWhole{L"\n未发现错误。\n", L"\nNo errors were found.\n"};
-inline constexpr Text kRecoveredProblems{L"\n发现 %d 处问题，已跳过有问题的部分:\n",
-                                         L"\nProblems found: %d. The parts concerned were left out:\n"};
+inline constexpr Text kRecoveredProblems{L"\n发现 %d 处问题:\n", L"\nProblems found: %d.\n"};
 inline constexpr Text kMoreProblems{L"\n  … 另有 %d 处。\n", L"\n  … and %d more.\n"};
 inline constexpr Text kSavedTo{L"\n已保存到 %s。\n", L"\nSaved to %s.\n"};
 inline constexpr Text kClosed{L"\n已关闭 %s。\n", L"\nClosed %s.\n"};
@@ -48,6 +51,9 @@ inline constexpr Text kNoSuchFile{L"\n找不到文件 %s。请检查路径后再
                                   L"\nThe file %s was not found. Check the path.\n"};
 inline constexpr Text kIsFolder{L"\n%s 是文件夹。请给出其中图形文件的名称。\n",
                                 L"\n%s is a folder. Give the name of a drawing file in it.\n"};
+inline constexpr Text kNoRegularFile{L"\n%s 不是普通文件，不能用于图形。请给出图形文件的名称。\n",
+                                     L"\n%s is no regular file and cannot hold a drawing. Give the name of a drawing "
+                                     L"file.\n"};
 inline constexpr Text kNoSuchFolder{
     L"\n文件夹 %s 不存在，图形未保存。请先创建该文件夹，或换一个位置。\n",
     L"\nThe folder %s does not exist; the drawing was not saved. Make it first or choose "

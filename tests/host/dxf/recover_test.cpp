@@ -1,5 +1,6 @@
 #include "tests/host/dxf/samples.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace quor::dxf {
@@ -18,14 +19,51 @@ TEST(Recover, AWholeFileHasNoProblems) {
     EXPECT_EQ(layout.problemCount, 0U);
 }
 
-TEST(Recover, KeepsWholeRecordsOfAFileThatBreaksOff) {
-    const Layout layout = recovered(kHead + "0\nARC\n5\nB\n");
-    ASSERT_EQ(layout.records.size(), 1U);
+TEST(Recover, KeepsTheLastRecordWhenOnlyTheEndIsMissing) {
+    const std::string file = kHead + "0\nARC\n5\nB\n";
+    const Layout layout = recovered(file);
+    ASSERT_EQ(layout.records.size(), 2U);
+    EXPECT_EQ(layout.records[1].handle, 0xBU);
     EXPECT_FALSE(layout.hasEnd);
     EXPECT_FALSE(layout.sections[0].closed);
+    EXPECT_EQ(layout.sections[0].bodyEnd, file.size());
+    EXPECT_EQ(layout.endTag.begin, file.size());
+    ASSERT_EQ(layout.problems.size(), 1U);
+    EXPECT_EQ(layout.problems[0].kind, Kind::NoEnd);
+}
+
+TEST(Recover, LeavesOutTheRecordThatTheFileBreaksOffInAndSaysSo) {
+    const Layout layout = recovered(kHead + "0\nARC\n5\nB");
+    ASSERT_EQ(layout.records.size(), 1U);
     EXPECT_EQ(layout.sections[0].bodyEnd, kHead.size());
-    EXPECT_EQ(layout.endTag.begin, kHead.size());
-    EXPECT_EQ(layout.problems.at(0).kind, Kind::NoEnd);
+    ASSERT_EQ(layout.problems.size(), 2U);
+    EXPECT_EQ(layout.problems[1].kind, Kind::Incomplete);
+    EXPECT_EQ(layout.problems[1].excerpt, L"ARC");
+    EXPECT_EQ(layout.problems[1].line, 11U);
+}
+
+TEST(Recover, AGroupCodeWithoutValueLeavesItsRecordOut) {
+    const Layout layout = recovered(kHead + "0\nARC\n5\n");
+    EXPECT_EQ(layout.records.size(), 1U);
+    ASSERT_EQ(layout.problems.size(), 2U);
+    EXPECT_EQ(layout.problems[0].kind, Kind::MissingValue);
+    EXPECT_EQ(layout.problems[1].kind, Kind::Incomplete);
+}
+
+TEST(Recover, AVariableThatTheFileBreaksOffInIsLeftOutAndReported) {
+    const Layout layout = recovered("0\nSECTION\n2\nHEADER\n9\n$LIMMIN\n10\n1.0");
+    EXPECT_TRUE(layout.headerVars.empty());
+    ASSERT_EQ(layout.problems.size(), 2U);
+    EXPECT_EQ(layout.problems[1].excerpt, L"$LIMMIN");
+    EXPECT_EQ(layout.problems[1].line, 5U);
+}
+
+TEST(Recover, ACutBinaryFileLacksItsEndOnce) {
+    const std::string file = samples::written(Form::Binary16);
+    const Layout layout = recovered(std::string_view(file).substr(0, file.size() - 3));
+    const auto ends = std::count_if(layout.problems.begin(), layout.problems.end(),
+                                    [](const Error& problem) { return problem.kind == Kind::NoEnd; });
+    EXPECT_EQ(ends, 1);
 }
 
 TEST(Recover, ClosingTheRestMakesADrawingAgain) {
@@ -37,10 +75,11 @@ TEST(Recover, ClosingTheRestMakesADrawingAgain) {
     EXPECT_EQ(layout->records.size(), 1U);
 }
 
-TEST(Recover, AValueThatTheFileBreaksOffInIsNotWhole) {
+TEST(Recover, TheRecordBeforeACutEndIsWhole) {
     const Layout layout = recovered(kHead + "0\nENDSEC");
+    EXPECT_EQ(layout.records.size(), 1U);
     EXPECT_FALSE(layout.sections[0].closed);
-    EXPECT_EQ(layout.endTag.begin, kHead.size() - std::string("0\nLINE\n5\nA\n8\n0\n").size());
+    EXPECT_EQ(layout.endTag.begin, kHead.size());
 }
 
 TEST(Recover, SkipsADamagedRecordToTheNextOne) {
