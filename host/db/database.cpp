@@ -8,9 +8,11 @@
 #include "host/db/object_reader.h"
 #include "host/db/saver.h"
 #include "host/dxf/file_saver.h"
+#include "host/dxf/number_check.h"
 #include "host/sys/utf8.h"
 #include "host/texts/drawing_files.h"
 
+#include <array>
 #include <cassert>
 
 namespace quor::db {
@@ -19,6 +21,9 @@ namespace {
 
 // A light has an extension dictionary with one record: three handles in a row.
 constexpr std::uint64_t kLightHandles = 3;
+
+// The records whose numbers mean something here.
+constexpr std::array<std::string_view, 4> kTypesRead{"LINE", "3DFACE", "LIGHT", "LAYER"};
 
 } // namespace
 
@@ -50,6 +55,8 @@ Result<std::unique_ptr<Database>, FileProblem> Database::make(dxf::Image image, 
     Result<dxf::Layout, dxf::Error> layout = dxf::scan(image, {options.recover, options.progress});
     if (!layout.ok())
         return fail(FileProblem{describe(layout.error(), what)});
+    if (options.recover)
+        dxf::checkNumbers(image, layout.value(), kTypesRead);
     return std::unique_ptr<Database>(new Database(std::move(image), std::move(layout).value(), false));
 }
 
@@ -136,6 +143,7 @@ ObjectEntry& Database::appendEntity(Block& block, std::unique_ptr<ZrDbEntity> en
         auto& data = static_cast<ZrDbLightData&>(*entity->hostData());
         data.dictionaryHandle = handle + 1;
         data.photometryHandle = handle + 2;
+        variables_.reserveRoot();
     }
     auto& data = static_cast<ZrDbEntityData&>(*entity->hostData());
     if (data.layer == nullptr)
@@ -146,6 +154,15 @@ ObjectEntry& Database::appendEntity(Block& block, std::unique_ptr<ZrDbEntity> en
     adopt(std::move(entity), entry);
     LightNames::entityErased(entry, false);
     return entry;
+}
+
+void Database::reservePhotometry(ZrDbLightData& light) {
+    if (light.photometryHandle != 0)
+        return;
+    light.photometryHandle = objects_.takeHandles(1);
+    if (light.dictionaryHandle == 0)
+        light.dictionaryHandle = objects_.takeHandles(1);
+    variables_.reserveRoot();
 }
 
 ObjectEntry& Database::addLayer(std::unique_ptr<ZrDbLayerTableRecord> layer) {

@@ -52,7 +52,10 @@ Quor::ErrorStatus ZrDbLight::change(bool accepted, T Data::*member, const T& val
         return Quor::eInvalidInput;
     if (const Quor::ErrorStatus status = aboutToModify(); status != Quor::eOk)
         return status;
-    static_cast<ZrDbLightData&>(*data_).*member = value;
+    auto& values = static_cast<ZrDbLightData&>(*data_);
+    if (!objectId().isNull())
+        objectId().entry()->database->reservePhotometry(values);
+    values.*member = value;
     return Quor::eOk;
 }
 

@@ -113,12 +113,19 @@ std::uint64_t handleInGroup(const DrawingFile& file, const dxf::Record& record, 
 
 } // namespace
 
+ObjectEntry* extensionDictionary(Database& database, const dxf::Record& record) {
+    const DrawingFile& file = database.file();
+    const std::uint64_t handle = handleInGroup(file, record, "{ACAD_XDICTIONARY");
+    ObjectEntry* found = handle == 0 ? nullptr : database.objects().find(handle);
+    const bool isDictionary = found != nullptr && found->isInFile() && file.typeName(found->type) == "DICTIONARY";
+    return isDictionary ? found : nullptr;
+}
+
 PhotometryPlace findPhotometry(Database& database, const ObjectEntry& light) {
     DrawingFile& file = database.file();
     PhotometryPlace place;
-    const std::uint64_t handle = handleInGroup(file, file.record(light.record), "{ACAD_XDICTIONARY");
-    ObjectEntry* dictionary = handle == 0 ? nullptr : database.objects().find(handle);
-    if (dictionary == nullptr || !dictionary->isInFile() || file.typeName(dictionary->type) != "DICTIONARY")
+    ObjectEntry* dictionary = extensionDictionary(database, file.record(light.record));
+    if (dictionary == nullptr)
         return place;
     place.dictionary = dictionary;
     ObjectEntry* record = dictionaryEntry(file, database.objects(), file.record(dictionary->record), kPhotometryName);

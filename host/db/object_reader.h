@@ -2,8 +2,13 @@
 #pragma once
 
 #include "host/db/object_entry.h"
+#include "host/dxf/layout.h"
 
 #include <memory>
+
+namespace quor::dxf {
+struct Record;
+}
 
 namespace quor::db {
 
@@ -15,6 +20,9 @@ struct FieldGroup;
 
 // The values of an entity, a light or a layer as they stand in the file.
 [[nodiscard]] std::unique_ptr<ZrDbObjectData> readData(Database& database, const ObjectEntry& entry);
+
+// The extension dictionary of an object in the file, or null.
+[[nodiscard]] ObjectEntry* extensionDictionary(Database& database, const dxf::Record& record);
 
 // Where the photometric data of a light stand: its extension dictionary and the record in it, null where there is none.
 struct PhotometryPlace {

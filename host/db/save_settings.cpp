@@ -15,6 +15,23 @@ constexpr int kInstanceCountCode = 91;
 constexpr int kFirstExtendedData = 1000;
 constexpr int kLightProxyFlags = 1025;
 
+// Header variables that older drawings have no place for; there they last for the session.
+struct HeaderSince {
+    std::wstring_view prefix;
+    int version;
+};
+constexpr std::array kHeadersSince{
+    HeaderSince{L"$UCS", versions::kFirstWithUcs},
+    HeaderSince{L"$PUCS", versions::kFirstWithPaperSpace},
+    HeaderSince{L"$TILEMODE", versions::kFirstWithPaperSpace},
+};
+
+bool hasPlaceFor(const ZrString& header, int version) {
+    return std::none_of(kHeadersSince.begin(), kHeadersSince.end(), [&](const HeaderSince& since) {
+        return version < since.version && header.starts_with(since.prefix);
+    });
+}
+
 } // namespace
 
 void SettingsToSave::collect(dxf::PatchList& patches, std::uint64_t& highestHandle) {
@@ -31,7 +48,7 @@ void SettingsToSave::collectHeaders(dxf::PatchList& patches) {
         HeaderStore::write(writer, file_.codec(), name, variable);
         if (const dxf::HeaderVar* place = file_.layout().findVar(toUtf8(name)))
             patches.replace(place->begin, place->end, writer.take());
-        else
+        else if (hasPlaceFor(name, file_.version()))
             sections_.addHeader(writer.take());
     }
 }

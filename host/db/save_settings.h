@@ -26,8 +26,9 @@ public:
     void addRootDictionary(const std::string& tags) { objects_.insert(0, tags); }
     [[nodiscard]] bool hasObjects() const { return !objects_.empty(); }
 
-    // Puts everything into its place. A broken-off file that gets something new is also given its end.
-    void finish(dxf::PatchList& patches);
+    // Puts everything into its place. A broken-off file that gets something new, or is to be mended, is also given its
+    // end.
+    void finish(dxf::PatchList& patches, bool mend);
 
 private:
     void put(dxf::PatchList& patches, std::string_view section, const std::string& tags);

@@ -3,6 +3,7 @@
 #include "host/db/entity_fields.h"
 #include "host/db/object_reader.h"
 #include "host/db/object_writer.h"
+#include "host/db/owned_objects.h"
 #include "host/db/save_settings.h"
 #include "host/db/versions.h"
 #include "host/sys/utf8.h"
@@ -19,7 +20,8 @@ namespace {
 class Collector {
 public:
     explicit Collector(Database& database)
-        : database_(database), file_(database.file()), writer_(database), sections_(database.file()) {}
+        : database_(database), file_(database.file()), writer_(database), sections_(database.file()), owned_(database) {
+    }
 
     Result<dxf::PatchList, FileProblem> run(const ZrString& name) {
         for (ObjectEntry* entry : database_.objects().touched())
@@ -30,7 +32,7 @@ public:
         settings.collect(patches_, highestHandle_);
         settings.countLights(patches_, lightChange_);
         settings.raiseSeed(patches_, highestHandle_);
-        sections_.finish(patches_);
+        sections_.finish(patches_, database_.mendsOnSave());
         return std::move(patches_);
     }
 
@@ -51,12 +53,15 @@ private:
         }
     }
 
+    // Goes with all objects that belong to it.
     void remove(const ObjectEntry& entry, bool isLight) {
         patches_.remove(file_.record(entry.record).begin, lastRecord(entry).end());
-        if (!isLight)
-            return;
-        const PhotometryPlace place = findPhotometry(database_, entry);
-        for (const ObjectEntry* part : {place.dictionary, place.record})
+        std::vector<const ObjectEntry*> parts = owned_.of(entry);
+        if (isLight) {
+            const PhotometryPlace place = findPhotometry(database_, entry);
+            parts.insert(parts.end(), {place.dictionary, place.record});
+        }
+        for (const ObjectEntry* part : parts)
             if (part != nullptr && isOwn(*part))
                 patches_.remove(file_.record(part->record).begin, file_.record(part->record).end());
     }
@@ -76,7 +81,7 @@ private:
 
     // Photometric data that differ from those in the file; a light that has none there gets them.
     void rewritePhotometry(ObjectEntry& entry, std::string& lightBytes) {
-        auto& light = static_cast<ZrDbLightData&>(*entry.object->hostData());
+        const auto& light = static_cast<const ZrDbLightData&>(*entry.object->hostData());
         const std::unique_ptr<ZrDbObjectData> original = readData(database_, entry);
         if (!fieldsDiffer(photometryGroups().front().fields, *original, light, {database_, file_.version()}))
             return;
@@ -88,13 +93,12 @@ private:
             patches_.replace(record.begin, record.end(), writer_.changedPhotometry(*place.record, *original, light));
             return;
         }
-        if (light.photometryHandle == 0)
-            light.photometryHandle = database_.objects().takeHandles(1);
+        if (place.dictionary != nullptr && !isOwn(*place.dictionary))
+            return;
         if (place.dictionary == nullptr) {
-            if (light.dictionaryHandle == 0)
-                light.dictionaryHandle = database_.objects().takeHandles(1);
             insertDictionaryLink(entry, lightBytes, light.dictionaryHandle);
-            sections_.addObject(writer_.photometryDictionary(light, entry.handle));
+            // A light without a handle in the file cannot be named as owner.
+            sections_.addObject(writer_.photometryDictionary(light, file_.record(entry.record).handle));
         } else {
             dxf::TagWriter link = file_.writer();
             link.text(3, kPhotometryName);
@@ -148,6 +152,7 @@ private:
     DrawingFile& file_;
     ObjectWriter writer_;
     SectionAdditions sections_;
+    OwnedObjects owned_;
     dxf::PatchList patches_;
     std::unordered_set<const ObjectEntry*> patchedParts_;
     std::uint64_t highestHandle_ = 0;

@@ -85,10 +85,11 @@ bool SectionAdditions::breaksOffIn(std::string_view section) const {
     return !sections.empty() && !sections.back().closed && sections.back().name == section;
 }
 
-void SectionAdditions::finish(dxf::PatchList& patches) {
+void SectionAdditions::finish(dxf::PatchList& patches, bool mend) {
     const std::array<const std::string*, kSectionOrder.size()> additions{&header_, &classes_,  nullptr,
                                                                          nullptr,  &entities_, &objects_};
-    bool somethingNew = !patches.empty() || !layers_.empty() || !blockEntities_.empty();
+    bool somethingNew =
+        (mend && !file_.layout().hasEnd) || !patches.empty() || !layers_.empty() || !blockEntities_.empty();
     for (const std::string* tags : additions)
         somethingNew = somethingNew || (tags != nullptr && !tags->empty());
     if (!somethingNew)

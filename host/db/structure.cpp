@@ -45,6 +45,14 @@ Structure::Structure(DrawingFile& file, ObjectTable& objects) : file_(file), obj
         }
     }
     readLayouts();
+    numberEntities();
+}
+
+void Structure::numberEntities() {
+    for (const auto& block : blocks_)
+        for (ObjectEntry* entity : block->entities)
+            if (entity->handle == 0)
+                entity->handle = objects_.takeHandles(1);
 }
 
 ObjectEntry& Structure::addEntry(std::size_t record, ObjectKind kind, ObjectEntry* owner) {

@@ -79,6 +79,8 @@ private:
     void readObjects(const dxf::Section& section);
     void readLayouts();
     void makeMissing();
+    // Entities that have no handle in the file get one in memory, to be named by; it is never written.
+    void numberEntities();
     void readLayout(const ObjectEntry& entry);
 
     ObjectEntry& addEntry(std::size_t record, ObjectKind kind, ObjectEntry* owner);

@@ -3,7 +3,7 @@
 
 namespace quor::db::versions {
 
-inline constexpr int kOldest = 1009;              // counts for files that name no version
+inline constexpr int kOldest = 1009; // counts for files that name no version
 inline constexpr int kFirstWithUcs = 1006;
 inline constexpr int kFirstWithPaperSpace = 1009;
 inline constexpr int kFirstWithSubclasses = 1012; // subclass markers, owners, handles everywhere
