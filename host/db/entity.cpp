@@ -40,6 +40,8 @@ Quor::ErrorStatus ZrDbEntity::setLayer(const wchar_t* name, bool doSubents, bool
     ZrDbDatabase* drawing = database() != nullptr ? database() : zrdbWorkingDatabase();
     if (drawing == nullptr)
         return Quor::eNoDatabase;
+    if (name == nullptr)
+        return Quor::eInvalidLayer;
     return setLayer(ZrDbObjectId(drawing->host().layers().find(name)), doSubents, allowHiddenLayer);
 }
 

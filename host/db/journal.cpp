@@ -51,12 +51,20 @@ std::optional<ZrString> Journal::redo() {
     return undo_.back().name;
 }
 
-bool Journal::isModified() const {
-    const std::size_t top = undo_.empty() ? 0 : undo_.back().number;
-    return top != savedNumber_ || !open_.changes.empty();
+std::size_t Journal::top() const {
+    if (!open_.changes.empty())
+        return open_.number;
+    return undo_.empty() ? 0 : undo_.back().number;
 }
 
-void Journal::markSaved() { savedNumber_ = undo_.empty() ? 0 : undo_.back().number; }
+bool Journal::isModified() const { return top() != savedNumber_; }
+
+void Journal::markSaved() { savedNumber_ = top(); }
+
+void Journal::leaveSaved() {
+    if (open_.number == savedNumber_)
+        open_.number = nextNumber_++;
+}
 
 void Journal::addReactor(ZrDbDatabaseReactor* reactor) { reactors_.push_back(reactor); }
 
@@ -84,6 +92,7 @@ void Journal::record(Change change) {
     const bool alone = !isOpen();
     if (alone)
         begin(ZrString());
+    leaveSaved();
     open_.changes.push_back(std::move(change));
     if (alone)
         end();
@@ -102,6 +111,7 @@ void Journal::aboutToModify(ObjectEntry& entry) {
         record(Modify{&entry, entry.object->hostData()->clone(), entry.changed});
         entry.keptInGroup = serial_;
     }
+    leaveSaved();
     entry.changed = true;
     if (first)
         tell(&ZrDbDatabaseReactor::objectOpenedForModify, *entry.object);

@@ -81,6 +81,10 @@ private:
 
     // A change outside any group becomes a group of its own.
     void record(Change change);
+    // The number of the last group that changed the drawing, the open one included.
+    [[nodiscard]] std::size_t top() const;
+    // What is changed in a group after a save within it is not saved.
+    void leaveSaved();
     void apply(Group& group, bool undoing);
     void applyChange(Append& change, bool undoing);
     void applyChange(Modify& change, bool undoing);

@@ -34,6 +34,8 @@ SetResult writeTileMode(Session& session, const VariableValue& value) {
 VariableValue readCvPort(Session& session) { return static_cast<short>(drawing(session).currentViewport()); }
 
 SetResult writeCvPort(Session& session, const VariableValue& value) {
+    if (!drawing(session).hasViewport(std::get<short>(value)))
+        return SetResult::OutOfRange;
     drawing(session).setCurrentViewport(std::get<short>(value));
     return SetResult::Ok;
 }
