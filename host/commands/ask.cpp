@@ -44,6 +44,16 @@ std::optional<bool> askYesNo(const ZrString& prompt, bool onEnter) {
 std::optional<ZrString> askLine(const ZrString& prompt) { return askText(true, prompt); }
 std::optional<ZrString> askWord(const ZrString& prompt) { return askText(false, prompt); }
 
+int askUntilTaken(const ZrString& prompt, const std::function<bool(const ZrString&)>& take) {
+    while (true) {
+        const std::optional<ZrString> answer = askLine(prompt);
+        if (!answer)
+            return RTCAN;
+        if (answer->empty() || take(*answer))
+            return RTNORM;
+    }
+}
+
 std::filesystem::path pathFromText(const ZrString& text) {
     ZrString plain = trimmed(text);
     const bool quoted =

@@ -12,14 +12,14 @@ int closeDrawing(Session& session) {
     Document& document = *session.documents().current();
     const ZrString name = shortName(document);
     if (document.isModified()) {
-        const std::optional<bool> save = askYesNo(fill(texts::kAskSaveChanges, name), true);
+        const std::optional<bool> save = askYesNo(fillShown(texts::kAskSaveChanges, name), true);
         if (!save)
             return RTCAN;
         if (const int result = *save ? saveInPlace(session, document) : RTNORM; result != RTNORM)
             return result;
     }
     session.documents().close(document);
-    say(texts::kClosed, name);
+    sayShown(texts::kClosed, name);
     return RTNORM;
 }
 
@@ -29,10 +29,11 @@ int quit(Session& session) {
         if (!document->isModified() || RxCommand::isCalledByCommand())
             continue;
         const ZrString name = shortName(*document);
-        if (!askYesNo(fill(texts::kAskDiscard, name), false).value_or(false)) {
-            say(texts::kNotQuit, name);
+        const std::optional<bool> discard = askYesNo(fillShown(texts::kAskDiscard, name), false);
+        if (!discard)
             return RTCAN;
-        }
+        if (!*discard)
+            return failWith(texts::kNotQuit, name);
     }
     session.processor().requestQuit();
     return RTNORM;

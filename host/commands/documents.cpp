@@ -17,14 +17,14 @@ using Documents = std::vector<std::unique_ptr<Document>>;
 void show(const Documents& documents, const Document* current) {
     int width = 0;
     for (const auto& document : documents)
-        width = std::max(width, columnsOf(shortName(*document)));
+        width = std::max(width, columnsOf(visibleText(shortName(*document))));
     const int digits = columnsOf(std::to_wstring(documents.size()));
     for (std::size_t i = 0; i < documents.size(); ++i) {
         const Document& document = *documents[i];
         ZrString row = document.isModified() ? ZrString(L"  ") + texts::kModifiedMark.get() : ZrString();
         if (!document.path().empty())
-            row += L"  " + textOf(document.path());
-        row = padRight(shortName(document), row.empty() ? 0 : width) + row;
+            row += L"  " + visibleText(textOf(document.path()));
+        row = padRight(visibleText(shortName(document)), row.empty() ? 0 : width) + row;
         printText(ZrString(L"\n") + (&document == current ? L"* " : L"  ") + padLeft(std::to_wstring(i + 1), digits) +
                   L"  " + row + L"\n");
     }
@@ -42,6 +42,17 @@ std::vector<Document*> matching(const Documents& documents, const ZrString& answ
     return found;
 }
 
+bool switchTo(DocumentManager& manager, const ZrString& answer) {
+    const std::vector<Document*> found = matching(manager.all(), answer);
+    if (found.size() != 1) {
+        sayShown(found.empty() ? texts::kNoSuchDocument : texts::kAmbiguousDocument, shortened(answer));
+        return false;
+    }
+    manager.setCurrent(found.front());
+    sayShown(texts::kSwitched, shortName(*found.front()));
+    return true;
+}
+
 } // namespace
 
 int listDocuments(Session& session) {
@@ -51,17 +62,7 @@ int listDocuments(Session& session) {
         return RTNORM;
     }
     show(manager.all(), manager.current());
-    const std::optional<ZrString> answer = askLine(texts::kAskDocument.get());
-    if (!answer)
-        return RTCAN;
-    if (answer->empty())
-        return RTNORM;
-    const std::vector<Document*> found = matching(manager.all(), *answer);
-    if (found.size() != 1)
-        return failWith(found.empty() ? texts::kNoSuchDocument : texts::kAmbiguousDocument, shortened(*answer));
-    manager.setCurrent(found.front());
-    say(texts::kSwitched, shortName(*found.front()));
-    return RTNORM;
+    return askUntilTaken(texts::kAskDocument.get(), [&](const ZrString& answer) { return switchTo(manager, answer); });
 }
 
 } // namespace quor::commands

@@ -1,6 +1,7 @@
 #include "host/commands/drawing_files.h"
 
 #include "host/commands/ask.h"
+#include "host/db/versions.h"
 #include "host/session.h"
 #include "host/texts/files.h"
 
@@ -34,24 +35,28 @@ std::size_t entityCount(const db::Database& drawing, ZrDbDatabase& database) {
 
 void sayProblems(const std::vector<ZrString>& problems) {
     if (problems.empty())
-        return say(texts::kRecoveredWhole);
-    say(texts::kRecoveredProblems, problems.size());
+        return sayShown(texts::kRecoveredWhole);
+    sayShown(texts::kRecoveredProblems, problems.size());
     const std::size_t shown = std::min(problems.size(), kProblemsShown);
     for (std::size_t i = 0; i < shown; ++i)
-        printText(L"\n  " + problems[i] + L"\n");
+        printText(L"\n  " + visibleText(problems[i]) + L"\n");
     if (shown < problems.size())
-        say(texts::kMoreProblems, problems.size() - shown);
+        sayShown(texts::kMoreProblems, problems.size() - shown);
 }
 
 // Says why a path cannot be read; true when it can.
 bool isReadableFile(const fs::path& path) {
     std::error_code error;
     if (fs::is_directory(path, error)) {
-        say(texts::kIsFolder, textOf(path));
+        sayShown(texts::kIsFolder, textOf(path));
         return false;
     }
     if (!fs::exists(path, error)) {
-        say(texts::kNoSuchFile, textOf(path));
+        sayShown(texts::kNoSuchFile, textOf(path));
+        return false;
+    }
+    if (!fs::is_regular_file(path, error)) {
+        sayShown(texts::kNoRegularFile, textOf(path));
         return false;
     }
     return true;
@@ -61,17 +66,21 @@ bool isReadableFile(const fs::path& path) {
 bool isPlaceToSave(Session& session, const Document& document, const fs::path& path) {
     std::error_code error;
     if (fs::is_directory(path, error)) {
-        say(texts::kIsFolder, textOf(path));
+        sayShown(texts::kIsFolder, textOf(path));
+        return false;
+    }
+    if (fs::exists(path, error) && !fs::is_regular_file(path, error)) {
+        sayShown(texts::kNoRegularFile, textOf(path));
         return false;
     }
     const fs::path folder = path.parent_path();
     if (!folder.empty() && !fs::is_directory(folder, error)) {
-        say(texts::kNoSuchFolder, textOf(folder));
+        sayShown(texts::kNoSuchFolder, textOf(folder));
         return false;
     }
     const Document* other = openDocument(session, path);
     if (other != nullptr && other != &document) {
-        say(texts::kOpenElsewhere, textOf(path));
+        sayShown(texts::kOpenElsewhere, textOf(path));
         return false;
     }
     return true;
@@ -85,22 +94,24 @@ int openPath(Session& session, const fs::path& file, bool recover) {
         return RTERROR;
     if (Document* open = openDocument(session, path)) {
         session.documents().setCurrent(open);
-        say(texts::kOpenAlready, textOf(path));
+        sayShown(texts::kOpenAlready, textOf(path));
         return RTNORM;
     }
-    const ZrString what = fill(texts::kOpening, textOf(path.filename()));
+    const ZrString what = fillShown(texts::kOpening, textOf(path.filename()));
     db::OpenOptions options;
     options.recover = recover;
     options.progress = [&](double fraction) { session.front().progress(what, fraction); };
     auto read = db::Database::open(path, options);
     session.front().progress(what, 1.0);
     if (!read) {
-        printText(L"\n" + read.error().message + L"\n");
+        printText(L"\n" + visibleText(read.error().message) + L"\n");
         return RTERROR;
     }
     const Document& document = session.documents().adopt(std::move(read).value(), path);
     const db::Database& drawing = document.drawing();
-    say(texts::kOpened, textOf(path), versionText(drawing.version()), entityCount(drawing, *document.database()));
+    sayShown(texts::kOpened, textOf(path), versionText(drawing.version()), entityCount(drawing, *document.database()));
+    if (drawing.file().version() < db::versions::kFirstWithLights)
+        sayShown(texts::kHoldsNoLights, drawing.version());
     if (recover)
         sayProblems(drawing.problems());
     return RTNORM;
@@ -125,20 +136,21 @@ int askSavePath(Session& session, const Document& document, fs::path& path) {
     const bool own = !document.path().empty() && sameFile(path, document.path());
     if (own || !fs::exists(path, error))
         return RTNORM;
-    if (askYesNo(fill(texts::kAskReplace, textOf(path)), false).value_or(false))
-        return RTNORM;
-    say(texts::kNotReplaced, textOf(path));
-    return RTCAN;
+    const std::optional<bool> replace = askYesNo(fillShown(texts::kAskReplace, textOf(path)), false);
+    if (!replace)
+        return RTCAN;
+    return *replace ? RTNORM : failWith(texts::kNotReplaced, textOf(path));
 }
 
 int saveTo(Document& document, const fs::path& path) {
+    document.drawing().mendOnSave();
     if (const auto saved = document.drawing().save(path); !saved) {
-        printText(L"\n" + saved.error().message + L"\n");
+        printText(L"\n" + visibleText(saved.error().message) + L"\n");
         return RTERROR;
     }
     document.setPath(path);
     document.drawing().journal().markSaved();
-    say(texts::kSavedTo, textOf(path));
+    sayShown(texts::kSavedTo, textOf(path));
     return RTNORM;
 }
 

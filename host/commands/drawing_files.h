@@ -17,10 +17,10 @@ int openPath(Session& session, const std::filesystem::path& file, bool recover);
 // The path with ".dxf" behind a name that has no extension. A folder or a device stays what it is.
 [[nodiscard]] std::filesystem::path withExtension(std::filesystem::path path);
 // Asks where to save. A name without extension gets ".dxf". Asks before it replaces a file other than the drawing's
-// own. RTNORM with a path, RTCAN for Esc, Enter or a file that is to be kept, RTERROR for a place where nothing can be
-// saved.
+// own. RTNORM with a path, RTCAN for Esc or Enter, RTERROR after a message for a file that is to be kept and a place
+// where nothing can be saved.
 [[nodiscard]] int askSavePath(Session& session, const Document& document, std::filesystem::path& path);
-// Saves and says where; RTNORM or RTERROR.
+// Saves and says where; a file that broke off is given its end. RTNORM or RTERROR.
 int saveTo(Document& document, const std::filesystem::path& path);
 // Saves to the drawing's own file; asks for one when it has none.
 int saveInPlace(Session& session, Document& document);

@@ -10,7 +10,8 @@
 #include "host/texts/commands.h"
 
 #include <algorithm>
-#include <map>
+#include <utility>
+#include <vector>
 
 namespace quor::commands {
 
@@ -47,6 +48,8 @@ void showPage(Session& session, const HelpPage& page) {
     printText(text);
 }
 
+ZrString firstLine(const ZrString& page) { return page.substr(0, page.find(L'\n')); }
+
 void showHostCommands() {
     int width = 0;
     for (const HelpPage& page : texts::helpPages())
@@ -56,30 +59,32 @@ void showHostCommands() {
         if (topic != &page.topic)
             printText(ZrString(L"\n") + page.topic.get() + L"\n");
         topic = &page.topic;
-        const std::wstring_view summary = page.summary.get();
-        printText(L"\n  " + padRight(page.command, width) + L"  " + ZrString(summary.substr(0, summary.find(L'\n'))) +
-                  L"\n");
+        printText(L"\n  " + padRight(page.command, width) + L"  " + firstLine(page.summary.get()) + L"\n");
     }
 }
 
-// The commands of modules have no pages here; their names are listed by group.
+// The commands of modules, each with the first line of the page that its module gave for it.
 void showModuleCommands(const ed::CommandTable& commands) {
-    std::map<ZrString, std::vector<ZrString>> groups;
-    for (const ed::Command* command : commands.all())
-        if (!command->isHost)
-            groups[command->group].push_back(command->localName == command->globalName
-                                                 ? command->globalName
-                                                 : command->globalName + L" (" + command->localName + L")");
-    for (const auto& [group, names] : groups) {
-        printText(L"\n" + fill(texts::kHelpModuleCommands, group) + L"\n");
-        for (const ZrString& name : names)
-            printText(L"\n  " + name + L"\n");
+    std::vector<std::pair<ZrString, ZrString>> rows;
+    int width = 0;
+    for (const ed::Command* command : commands.all()) {
+        if (command->isHost)
+            continue;
+        const bool hasLocalName = command->localName != command->globalName;
+        const ZrString name =
+            hasLocalName ? command->globalName + L" (" + command->localName + L")" : command->globalName;
+        width = std::max(width, columnsOf(name));
+        rows.emplace_back(name, firstLine(command->help));
     }
+    if (!rows.empty())
+        printText(ZrString(L"\n") + texts::kHelpModuleCommands.get() + L"\n");
+    for (const auto& [name, summary] : rows)
+        printText(L"\n  " + (summary.empty() ? name : padRight(name, width) + L"  " + summary) + L"\n");
 }
 
 void showModuleCommand(const ed::Command& command) {
     if (command.help.empty())
-        return say(texts::kHelpModulePage, command.globalName, command.group);
+        return say(texts::kHelpModulePage, command.globalName);
     printText(ZrString(L"\n") + command.globalName + L"\n" + indented(command.help) + L"\n");
 }
 

@@ -38,7 +38,7 @@ int listLayers(const db::Database& drawing) {
     for (const ZrDbObjectId id : drawing.layerIds()) {
         const LayerForRead layer(id, ZrDb::kForRead);
         if (layer && !layer->isHidden())
-            rows.push_back({layer->getName(), stateText(*layer), colorText(layer->color())});
+            rows.push_back({visibleText(layer->getName()), stateText(*layer), colorText(layer->color())});
     }
     int nameWidth = 0;
     int stateWidth = 0;
@@ -67,51 +67,51 @@ ZrDbObjectId findLayer(ZrDbDatabase& database, const ZrString& name) {
     return id;
 }
 
-// Makes a layer current unless it is one that nothing may be drawn on.
-int makeCurrent(db::Database& drawing, ZrDbObjectId id, const ZrString& name) {
+bool refuse(const Text& why, const ZrString& name) {
+    sayShown(why, shortened(name), kNotInLayerNames);
+    return false;
+}
+
+// Makes a layer current unless it is one that nothing may be drawn on; says why not.
+bool makeCurrent(db::Database& drawing, ZrDbObjectId id, const ZrString& name) {
     {
         const LayerForRead layer(id, ZrDb::kForRead);
         if (!layer)
-            return failWith(texts::kNoSuchLayer, shortened(name));
+            return refuse(texts::kNoSuchLayer, name);
         if (layer->isHidden())
-            return failWith(texts::kLayerIsHidden, name);
+            return refuse(texts::kLayerIsHidden, name);
         if (layer->isFrozen())
-            return failWith(texts::kLayerIsFrozen, name);
+            return refuse(texts::kLayerIsFrozen, name);
     }
     drawing.setCurrentLayer(id);
-    say(texts::kCurrentLayer, currentLayerName(drawing.interface()));
-    return RTNORM;
+    sayShown(texts::kCurrentLayer, currentLayerName(drawing.interface()));
+    return true;
 }
 
 int makeLayer(db::Database& drawing) {
-    const std::optional<ZrString> name = askLine(texts::kAskLayerToMake.get());
-    if (!name)
-        return RTCAN;
-    if (name->empty())
-        return RTNORM;
-    ZrDbObjectId id = findLayer(drawing.interface(), *name);
-    if (id.isNull() && !isLayerName(*name))
-        return failWith(texts::kBadLayerName, shortened(*name), kNotInLayerNames);
-    if (id.isNull())
-        id = drawing.makeLayer(*name);
-    return makeCurrent(drawing, id, *name);
+    return askUntilTaken(texts::kAskLayerToMake.get(), [&](const ZrString& name) {
+        ZrDbObjectId id = findLayer(drawing.interface(), name);
+        if (id.isNull() && !isLayerName(name))
+            return refuse(texts::kBadLayerName, name);
+        if (id.isNull())
+            id = drawing.makeLayer(name);
+        return makeCurrent(drawing, id, name);
+    });
 }
 
 int setLayer(db::Database& drawing) {
-    const ZrString prompt = fill(texts::kAskLayerToSet, currentLayerName(drawing.interface()));
-    const std::optional<ZrString> name = askLine(prompt);
-    if (!name)
-        return RTCAN;
-    return name->empty() ? RTNORM : makeCurrent(drawing, findLayer(drawing.interface(), *name), *name);
+    const ZrString prompt = fillShown(texts::kAskLayerToSet, currentLayerName(drawing.interface()));
+    return askUntilTaken(
+        prompt, [&](const ZrString& name) { return makeCurrent(drawing, findLayer(drawing.interface(), name), name); });
 }
 
 } // namespace
 
-// Options until Enter; the first one that cannot be carried out ends the command, what was done before it stays.
+// Options until Enter; Esc ends the command, what was done before it stays.
 int layer(Session& session) {
     Document& document = *session.documents().current();
     db::Database& drawing = document.drawing();
-    say(texts::kCurrentLayer, currentLayerName(drawing.interface()));
+    sayShown(texts::kCurrentLayer, currentLayerName(drawing.interface()));
     while (true) {
         armKeywords(0, L"? Make Set");
         ZrString keyword;

@@ -14,14 +14,13 @@ namespace {
 
 constexpr int kSheet = 1;         // CVPORT of a layout's own paper space
 constexpr int kFirstViewport = 2; // of the model as it is seen through the sheet
-const wchar_t* const kModelName = L"Model";
 
 int sayWhere(const db::Database& drawing) {
     if (drawing.isModelTab())
         say(texts::kInModelSpace);
     else
-        say(drawing.currentViewport() > kSheet ? texts::kInModelOfLayout : texts::kInPaperSpace,
-            drawing.currentLayout());
+        sayShown(drawing.currentViewport() > kSheet ? texts::kInModelOfLayout : texts::kInPaperSpace,
+                 drawing.currentLayout());
     return RTNORM;
 }
 
@@ -29,7 +28,8 @@ int listLayouts(const db::Database& drawing) {
     const ZrString current = drawing.isModelTab() ? ZrString() : drawing.currentLayout();
     printText(ZrString(L"\n") + (drawing.isModelTab() ? L"* " : L"  ") + texts::kModelTab.get() + L"\n");
     for (const db::LayoutInfo& layout : drawing.layouts())
-        printText(ZrString(L"\n") + (equalFolded(layout.name, current) ? L"* " : L"  ") + layout.name + L"\n");
+        printText(ZrString(L"\n") + (equalFolded(layout.name, current) ? L"* " : L"  ") + visibleText(layout.name) +
+                  L"\n");
     return RTNORM;
 }
 
@@ -39,26 +39,33 @@ int goToModel(db::Database& drawing) {
     return sayWhere(drawing);
 }
 
-// The name is answered in any case; the model tab goes by its name in either language.
-int setLayout(db::Database& drawing) {
-    const ZrString shown = drawing.isModelTab() ? ZrString(texts::kModelTab.get()) : drawing.currentLayout();
-    const std::optional<ZrString> answer = askLine(fill(texts::kAskLayoutName, shown));
-    if (!answer)
-        return RTCAN;
-    if (answer->empty())
-        return RTNORM;
+// The model tab goes by its name in either language.
+bool isModelName(const ZrString& name) {
+    return equalFolded(name, texts::kModelTab.english) || equalFolded(name, texts::kModelTab.chinese);
+}
+
+// Names are answered in any case.
+bool switchTo(db::Database& drawing, const ZrString& name) {
     const std::vector<db::LayoutInfo> layouts = drawing.layouts();
-    const auto layout = std::ranges::find_if(layouts, [&](const auto& l) { return equalFolded(l.name, *answer); });
-    if (layout == layouts.end()) {
-        const bool isModel = equalFolded(*answer, kModelName) || *answer == texts::kModelTab.get();
-        return isModel ? goToModel(drawing) : failWith(texts::kNoSuchLayout, shortened(*answer));
+    const auto layout = std::ranges::find_if(layouts, [&](const auto& l) { return equalFolded(l.name, name); });
+    if (layout == layouts.end() && isModelName(name)) {
+        goToModel(drawing);
+        return true;
     }
-    if (!drawing.setCurrentLayout(layout->name))
-        return failWith(texts::kNoSuchLayout, shortened(*answer));
+    if (layout == layouts.end() || !drawing.setCurrentLayout(layout->name)) {
+        sayShown(texts::kNoSuchLayout, shortened(name));
+        return false;
+    }
     if (drawing.isModelTab())
         drawing.setModelTab(false);
-    say(texts::kLayoutNow, layout->name);
-    return RTNORM;
+    sayShown(texts::kLayoutNow, layout->name);
+    return true;
+}
+
+int setLayout(db::Database& drawing) {
+    const ZrString current = drawing.isModelTab() ? ZrString(texts::kModelTab.get()) : drawing.currentLayout();
+    return askUntilTaken(fillShown(texts::kAskLayoutName, current),
+                         [&](const ZrString& name) { return switchTo(drawing, name); });
 }
 
 int setViewport(Session& session, const wchar_t* command, int viewport) {

@@ -7,15 +7,16 @@
 #include "sdk/db/units.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numbers>
 
 namespace quor::commands {
 
 namespace {
 
-ZrString coordinates(double x, double y, double z, ZrString (*text)(double)) {
-    return L"X=" + text(x) + L"  Y=" + text(y) + L"  Z=" + text(z);
-}
+constexpr double kMostInFull = 1e15; // beyond it the digits of a length are no longer its own
+constexpr int kScientific = 1;       // as in LUNITS
+constexpr const wchar_t* kNoLength = L"—";
 
 } // namespace
 
@@ -32,19 +33,25 @@ ZrString Listing::text() const {
 }
 
 ZrString lengthText(double length) {
+    if (!std::isfinite(length))
+        return kNoLength;
     ZrString text;
-    zrdbRToS(length, -1, -1, text);
+    zrdbRToS(length, std::abs(length) > kMostInFull ? kScientific : -1, -1, text);
     return text;
+}
+
+ZrString coordinatesText(double x, double y, double z) {
+    return L"X=" + lengthText(x) + L"  Y=" + lengthText(y) + L"  Z=" + lengthText(z);
 }
 
 ZrString pointText(const ZrGePoint3d& world) {
     const ZrGePoint3d point = zrdbWcs2Ucs(world);
-    return coordinates(point.x, point.y, point.z, lengthText);
+    return coordinatesText(point.x, point.y, point.z);
 }
 
 ZrString vectorText(const ZrGeVector3d& world) {
     const ZrGeVector3d vector = zrdbWcs2Ucs(world);
-    return coordinates(vector.x, vector.y, vector.z, lengthText);
+    return coordinatesText(vector.x, vector.y, vector.z);
 }
 
 // "%.8g" may give "-0", which is no number that people write.

@@ -1,6 +1,8 @@
-// A block of aligned lines about one thing, and the values in it as people read them.
+// A block of aligned lines about one thing, and the values in it as people read them. Control characters in it, which
+// come from drawings, are spelled out.
 #pragma once
 
+#include "host/sys/visible_text.h"
 #include "host/texts/text.h"
 #include "sdk/cm/color.h"
 #include "sdk/ge/point3d.h"
@@ -12,11 +14,13 @@ namespace quor::commands {
 
 class Listing {
 public:
-    void heading(ZrString text) { heading_ = std::move(text); }
-    void row(const ZrString& label, const ZrString& value) { rows_.emplace_back(label, value); }
+    void heading(const ZrString& text) { heading_ = visibleText(text); }
+    void row(const ZrString& label, const ZrString& value) {
+        rows_.emplace_back(visibleText(label), visibleText(value));
+    }
     void row(const Text& label, const ZrString& value) { row(label.get(), value); }
     // Behind the rows, as it stands.
-    void line(ZrString text) { lines_.push_back(std::move(text)); }
+    void line(const ZrString& text) { lines_.push_back(visibleText(text)); }
 
     // A fresh line with the heading, then one for each row with its value in a common column.
     [[nodiscard]] ZrString text() const;
@@ -27,8 +31,10 @@ private:
     std::vector<ZrString> lines_;
 };
 
-// A length in the drawing's units and precision.
+// A length in the drawing's units and precision, a huge one with an exponent; a dash for what no number can hold.
 [[nodiscard]] ZrString lengthText(double length);
+// Three lengths as they are.
+[[nodiscard]] ZrString coordinatesText(double x, double y, double z);
 // World coordinates, shown in the current UCS.
 [[nodiscard]] ZrString pointText(const ZrGePoint3d& world);
 [[nodiscard]] ZrString vectorText(const ZrGeVector3d& world);

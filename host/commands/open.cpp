@@ -29,7 +29,7 @@ int askAndOpen(Session& session, const Text& prompt, const Text& caption, bool r
 
 int newDrawing(Session& session) {
     const Document& document = session.documents().newDocument();
-    say(texts::kMadeNew, document.fileName());
+    sayShown(texts::kMadeNew, document.fileName());
     return RTNORM;
 }
 

@@ -16,7 +16,7 @@ int listModules(Session& session) {
     if (modules.empty())
         say(texts::kNoModules);
     for (const std::filesystem::path& module : modules)
-        printText(L"\n  " + textOf(module) + L"\n");
+        printText(L"\n  " + visibleText(textOf(module)) + L"\n");
     return RTNORM;
 }
 
@@ -29,11 +29,11 @@ int script(Session& session) {
         return RTCAN;
     auto source = ed::ScriptSource::open(pathFromText(*answer));
     if (!source) {
-        printText(L"\n" + source.error() + L"\n");
+        printText(L"\n" + visibleText(source.error()) + L"\n");
         return RTERROR;
     }
     if (const std::optional<ZrString> refusal = session.input().pushScript(std::move(source).value())) {
-        printText(L"\n" + *refusal + L"\n");
+        printText(L"\n" + visibleText(*refusal) + L"\n");
         return RTERROR;
     }
     return RTNORM;
@@ -47,10 +47,10 @@ int loadModule(Session& session) {
         return listModules(session);
     const ZrString file = textOf(pathFromText(*answer));
     if (session.modules().loadModule(file) != Quor::eOk) {
-        printText(L"\n" + session.modules().lastError() + L"\n");
+        printText(L"\n" + visibleText(session.modules().lastError()) + L"\n");
         return RTERROR;
     }
-    say(texts::kModuleLoaded, file);
+    sayShown(texts::kModuleLoaded, file);
     return RTNORM;
 }
 

@@ -1,6 +1,5 @@
 #include "host/commands/ask.h"
 #include "host/commands/commands.h"
-#include "host/commands/listing.h"
 #include "host/commands/upper_case.h"
 #include "host/commands/wildcard.h"
 #include "host/document.h"
@@ -40,32 +39,25 @@ int listVariables(const SystemVariables& variables) {
         width = std::max(width, columnsOf(name));
     for (const ZrString& name : names) {
         const ZrString mark = isReadOnly(variables.row(name)) ? ZrString(L"  ") + texts::kReadOnlyMark.get() : L"";
-        printText(L"\n" + padRight(name, width) + L"  " + variables.toText(*variables.get(name)) + mark + L"\n");
+        printText(L"\n" + padRight(name, width) + L"  " + visibleText(variables.text(name).value_or(ZrString())) +
+                  mark + L"\n");
     }
     return RTNORM;
 }
 
-void sayRefused(SetResult result, const VariableRow& row, const ZrString& name) {
-    if (result == SetResult::OutOfRange)
-        return say(texts::kVariableOutOfRange, name, numberText(row.low), numberText(row.high));
-    if (result != SetResult::WrongType)
-        return say(texts::kVariableRefused, name);
-    switch (row.type) {
-    case VariableType::Short:
-        return say(texts::kVariableNeedsInteger, name);
-    case VariableType::Real:
-        return say(texts::kVariableNeedsNumber, name);
-    case VariableType::Point:
-        return say(texts::kVariableNeedsPoint, name);
-    case VariableType::Text:
-        return say(texts::kVariableRefused, name);
-    }
+// A text that is neither one of a list nor the name of something may be empty; "." stands for that.
+bool maySetEmpty(const VariableRow& row) {
+    return row.type == VariableType::Text && row.choices == nullptr && row.write == nullptr;
+}
+
+void sayRefusal(const SystemVariables& variables, const ZrString& name, SetResult result) {
+    printText(L"\n" + visibleText(variables.refusal(name, result)) + L"\n");
 }
 
 // A value may hold for less, or from later on, than people expect.
 void sayWhenItCounts(const SystemVariables& variables, const VariableRow& row, SetResult result) {
     if (result == SetResult::NotSaved)
-        printText(L"\n" + variables.refusal(row.name, result) + L"\n");
+        sayRefusal(variables, row.name, result);
     else if (row.fromNextStart)
         say(texts::kVariableFromNextStart, row.name);
 }
@@ -73,20 +65,21 @@ void sayWhenItCounts(const SystemVariables& variables, const VariableRow& row, S
 // Asks until the variable takes the answer; Enter keeps the value.
 int askValue(SystemVariables& variables, const VariableRow& row, const ZrString& name) {
     const bool isText = row.type == VariableType::Text;
+    const bool mayBeEmpty = maySetEmpty(row);
     while (true) {
-        const ZrString now = variables.toText(*variables.get(name));
-        const ZrString prompt = fill(isText ? texts::kAskVariableText : texts::kAskVariableValue, name, now);
+        const ZrString now = variables.text(name).value_or(ZrString());
+        const ZrString prompt = fillShown(mayBeEmpty ? texts::kAskVariableText : texts::kAskVariableValue, name, now);
         const std::optional<ZrString> answer = isText ? askLine(prompt) : askWord(prompt);
         if (!answer)
             return RTCAN;
         if (answer->empty())
             return RTNORM;
-        const SetResult result = variables.setFromText(name, isText && *answer == L"." ? L"" : *answer);
+        const SetResult result = variables.setFromText(name, mayBeEmpty && *answer == L"." ? L"" : *answer);
         if (result == SetResult::Ok || result == SetResult::NotSaved) {
             sayWhenItCounts(variables, row, result);
             return RTNORM;
         }
-        sayRefused(result, row, name);
+        sayRefusal(variables, name, result);
     }
 }
 
@@ -104,13 +97,13 @@ int setVariable(Session& session) {
     const ZrString name = upperCase(*answer);
     if (!variables.has(name))
         return failWith(texts::kNoSuchVariable, shortened(*answer));
-    const auto value = variables.get(name);
+    const std::optional<ZrString> value = variables.text(name);
     if (!value)
         return failWith(texts::kVariableNeedsDrawing, name);
     const VariableRow* row = variables.row(name);
     if (!isReadOnly(row))
         return askValue(variables, *row, name);
-    say(texts::kVariableReadOnly, name, variables.toText(*value));
+    sayShown(texts::kVariableReadOnly, name, *value);
     return RTNORM;
 }
 

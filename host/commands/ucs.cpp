@@ -1,5 +1,6 @@
 #include "host/commands/ask.h"
 #include "host/commands/commands.h"
+#include "host/commands/listing.h"
 #include "host/commands/ucs_math.h"
 #include "host/document.h"
 #include "host/session.h"
@@ -149,12 +150,19 @@ constexpr Option kOptions[] = {
     {L"Z", [](Document& document) { return byRotation(document, L'Z'); }},
 };
 
+// Where it lies in the world.
+void sayCurrent(const db::Ucs& ucs) {
+    if (sameUcs(ucs, db::Ucs()))
+        return say(texts::kUcsIsWorld);
+    say(texts::kUcsIs, coordinatesText(ucs.origin.x, ucs.origin.y, ucs.origin.z),
+        coordinatesText(ucs.xAxis.x, ucs.xAxis.y, ucs.xAxis.z), coordinatesText(ucs.yAxis.x, ucs.yAxis.y, ucs.yAxis.z));
+}
+
 } // namespace
 
 int ucs(Session& session) {
     Document& document = *session.documents().current();
-    if (sameUcs(document.drawing().ucs(), db::Ucs()))
-        say(texts::kUcsIsWorld);
+    sayCurrent(document.drawing().ucs());
     zredInitGet(0, kKeywords);
     ZrGePoint3d origin;
     const int result = askPoint(texts::kAskUcs, nullptr, origin);

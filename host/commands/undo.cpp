@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::size_t kAll = std::numeric_limits<std::size_t>::max();
 constexpr std::size_t kNamesShown = 8;
+constexpr int kMostSteps = 32767;
 
 struct Direction {
     std::optional<ZrString> (db::Journal::*step)();
@@ -62,9 +63,9 @@ int setMark(Document& document) {
 
 // The number that was answered; Enter is one. Nothing when a keyword or Esc was (`result`).
 std::optional<std::size_t> askCount(const Text& prompt, const wchar_t* keywords, int& result) {
-    armKeywords(RSG_NOZERO | RSG_NONEG, keywords);
+    armKeywords(0, keywords);
     int count = 1;
-    result = zredGetInt(prompt.get(), count);
+    result = zredGetIntInRange(prompt.get(), 1, kMostSteps, count);
     if (result == RTNONE)
         return std::size_t{1};
     if (result == RTNORM)

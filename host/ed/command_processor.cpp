@@ -6,6 +6,7 @@
 #include "host/sys/system_variables.h"
 #include "host/sys/text_width.h"
 #include "host/sys/utf8.h"
+#include "host/sys/visible_text.h"
 #include "host/texts/input.h"
 #include "sdk/rx/result_codes.h"
 
@@ -90,7 +91,7 @@ Verdict CommandProcessor::runTransparent(std::wstring_view typed) {
 Verdict CommandProcessor::runCall(const Call& call, const ZrString& typed, bool byProgram, bool transparent) {
     if (call.command == nullptr) {
         session_.input().dropTypedAhead();
-        say(texts::kUnknownCommand, shortened(typed));
+        say(texts::kUnknownCommand, visibleText(shortened(typed)));
         return {Verdict::Kind::Unknown, RTREJ, shortened(typed)};
     }
     // The host's own commands say themselves what they need.
@@ -100,7 +101,14 @@ Verdict CommandProcessor::runCall(const Call& call, const ZrString& typed, bool 
     }
     if (call.answer)
         session_.input().push(std::make_unique<ReadyAnswers>(std::vector<ZrString>{*call.answer}, byProgram));
-    return execute(*call.command, byProgram, transparent);
+    Verdict verdict = execute(*call.command, byProgram, transparent);
+    // A variable that was typed by its name goes by that name, and Enter asks for it again.
+    if (call.answer) {
+        verdict.command = *call.answer;
+        if (frames_.empty())
+            last_ = *call.answer;
+    }
+    return verdict;
 }
 
 Verdict CommandProcessor::execute(const Command& command, bool byProgram, bool transparent) {

@@ -49,6 +49,8 @@ inline constexpr Text kNotAppended{
 
 // UCS.
 inline constexpr Text kUcsIsWorld{L"\n当前 UCS: 世界\n", L"\nCurrent UCS: World\n"};
+inline constexpr Text kUcsIs{L"\n当前 UCS (世界坐标):\n  原点  %s\n  X 轴  %s\n  Y 轴  %s\n",
+                             L"\nCurrent UCS (in world coordinates):\n  Origin  %s\n  X axis  %s\n  Y axis  %s\n"};
 inline constexpr Text kAskUcs{
     L"\n指定 UCS 的原点或 [世界(W)/原点(O)/Z 轴(ZA)/上一个(P)/三点(3P)/X(X)/Y(Y)/Z(Z)] <世界>: ",
     L"\nOrigin of the UCS or [World/Origin/ZAxis/Previous/3Point/X/Y/Z] <World>: "};
@@ -122,13 +124,8 @@ inline constexpr Text kVariableNeedsDrawing{L"\n变量 %s 属于图形，但没�
                                             L"\nThe variable %s belongs to a drawing and none is open. Use NEW or OPEN "
                                             L"first.\n"};
 inline constexpr Text kNoVariableMatches{L"\n没有变量与“%s”匹配。\n", L"\nNo variable matches \"%s\".\n"};
-inline constexpr Text kVariableNeedsInteger{L"\n%s 需要整数。\n", L"\n%s needs a whole number.\n"};
-inline constexpr Text kVariableNeedsNumber{L"\n%s 需要数值。\n", L"\n%s needs a number.\n"};
-inline constexpr Text kVariableNeedsPoint{L"\n%s 需要形如 x,y,z 的点。\n", L"\n%s needs a point such as x,y,z.\n"};
-inline constexpr Text kVariableOutOfRange{L"\n%s 的值须在 %s 到 %s 之间。\n", L"\n%s takes values from %s to %s.\n"};
 inline constexpr Text kVariableFromNextStart{L"\n%s 的新值从下次启动起有效。\n",
                                              L"\nThe new value of %s takes effect at the next start.\n"};
-inline constexpr Text kVariableRefused{L"\n%s 不接受该值。\n", L"\n%s does not take that value.\n"};
 
 // SCRIPT, LOADMODULE.
 inline constexpr Text kAskScript{L"\n输入脚本文件名: ", L"\nFile name of the script: "};
@@ -140,13 +137,13 @@ inline constexpr Text kNoModules{L"\n未加载任何模块。\n", L"\nNo module 
 inline constexpr Text kAskHelp{L"\n输入命令名 <概览>: ", L"\nCommand <overview>: "};
 inline constexpr Text kHelpHow{L"\n输入 HELP 和命令名可查看该命令的说明。\n",
                                L"\nHELP with the name of a command explains it.\n"};
-inline constexpr Text kHelpModuleCommands{L"模块 %s", L"Module %s"};
+inline constexpr Text kHelpModuleCommands{L"模块命令", L"Commands of modules"};
 inline constexpr Text kHelpAliases{L"别名: %s", L"Also: %s"};
 inline constexpr Text kHelpExample{L"例: %s", L"Example: %s"};
 inline constexpr Text kHelpExampleWithBlank{L"例: \"%s\"(末尾的空格就是 Enter)",
                                             L"Example: \"%s\" (the blank at the end is Enter)"};
-inline constexpr Text kHelpModulePage{L"\n%s 是模块 %s 的命令；按其提示回答即可。\n",
-                                      L"\n%s is a command of the module %s; answer its questions.\n"};
+inline constexpr Text kHelpModulePage{L"\n%s 是已加载模块的命令；按其提示回答即可。\n",
+                                      L"\n%s is a command of a loaded module; answer its questions.\n"};
 inline constexpr Text kHelpVariable{L"\n%s 是系统变量。输入其名称可查看或更改它的值。\n",
                                     L"\n%s is a system variable. Type its name to see or change its value.\n"};
 inline constexpr Text kNoHelp{L"\n没有名为“%s”的命令。输入 HELP 可列出所有命令。\n",

@@ -75,7 +75,8 @@ TEST_F(FileCommands, AFileThatIsNotToBeReplacedStaysAsItIs) {
 
     const ed::Verdict verdict = host.run({L"SAVEAS", text("a.dxf"), L"N"});
 
-    EXPECT_EQ(verdict.kind, Kind::Cancelled);
+    EXPECT_EQ(verdict.kind, Kind::Failed);
+    EXPECT_FALSE(host.front().shows(L"*取消*"));
     EXPECT_EQ(contentOf(file("a.dxf")), "mine");
     EXPECT_TRUE(host.document().path().empty());
 }
@@ -144,6 +145,26 @@ TEST_F(FileCommands, OpenOfWhatIsNoDrawingFailsWithTheReason) {
     EXPECT_TRUE(host.front().shows(L"a.dxf"));
 }
 
+TEST_F(FileCommands, OpenOfADeviceFails) {
+    const ed::Verdict verdict = host.run({L"OPEN", L"/dev/null"});
+
+    EXPECT_EQ(verdict.kind, Kind::Failed);
+    EXPECT_TRUE(host.front().shows(L"/dev/null 不是普通文件"));
+}
+
+TEST_F(FileCommands, ADeviceIsNoPlaceToSave) {
+    const ed::Verdict verdict = host.run({L"SAVEAS", L"/dev/null"});
+
+    EXPECT_EQ(verdict.kind, Kind::Failed);
+    EXPECT_TRUE(host.front().shows(L"/dev/null 不是普通文件"));
+}
+
+TEST_F(FileCommands, ControlCharactersInAFileNameAreSpelledOut) {
+    host.run({L"OPEN", text("a\x1B[31mb.dxf")});
+
+    EXPECT_TRUE(host.front().shows(L"a^[[31mb.dxf"));
+}
+
 TEST_F(FileCommands, EnterAtOpenOpensTheChosenFile) {
     host.run({L"SAVE", text("a.dxf"), L"CLOSE"});
     host.front().choose(text("a.dxf"));
@@ -205,7 +226,8 @@ TEST_F(FileCommands, QuitWithYesEndsTheProgram) {
 TEST_F(FileCommands, QuitWithEnterStays) {
     drawLine();
 
-    EXPECT_EQ(host.run({L"QUIT", L""}).kind, Kind::Cancelled);
+    EXPECT_EQ(host.run({L"QUIT", L""}).kind, Kind::Failed);
+    EXPECT_FALSE(host.front().shows(L"*取消*"));
     EXPECT_FALSE(host.session().processor().quitRequested());
 }
 

@@ -107,23 +107,35 @@ TEST(Help, ShowsAPageByAliasWithoutRegardToCase) {
     EXPECT_TRUE(host.front().shows(L"LI, LS"));
 }
 
-TEST(Help, NamesTheCommandsOfModulesByGroup) {
+TEST(Help, NamesTheCommandsOfModules) {
     test::TestSession host;
     host.addCommand(L"GLOW", [] { return 5100; });
 
     host.run({L"HELP", L""});
 
-    EXPECT_TRUE(host.front().shows(L"模块 TEST\n  GLOW\n"));
+    EXPECT_TRUE(host.front().shows(L"模块命令\n  GLOW\n"));
 }
 
-TEST(Help, SaysWhichModuleACommandBelongsTo) {
+TEST(Help, ShowsTheFirstLineOfThePageBesideTheNameOfAModulesCommand) {
+    test::TestSession host;
+    host.addCommand(L"GLOW", [] { return 5100; });
+    host.addCommand(L"GLOWING", [] { return 5100; });
+    host.session().commands().setHelp(L"TEST", L"glow", L"发光。\n例: GLOW");
+    host.session().commands().setHelp(L"TEST", L"glowing", L"一直发光。");
+
+    host.run({L"HELP", L""});
+
+    EXPECT_TRUE(host.front().shows(L"模块命令\n  GLOW     发光。\n  GLOWING  一直发光。\n"));
+}
+
+TEST(Help, SaysThatACommandWithoutAPageComesFromAModule) {
     test::TestSession host;
     host.addCommand(L"GLOW", [] { return 5100; });
 
     const ed::Verdict verdict = host.run({L"HELP", L"glow"});
 
     EXPECT_EQ(verdict.kind, ed::Verdict::Kind::Done);
-    EXPECT_TRUE(host.front().shows(L"GLOW 是模块 TEST 的命令"));
+    EXPECT_TRUE(host.front().shows(L"GLOW 是已加载模块的命令"));
 }
 
 TEST(Help, ShowsThePageThatAModuleGaveForItsCommand) {

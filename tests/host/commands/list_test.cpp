@@ -94,6 +94,16 @@ TEST_F(ListOfALight, ShowsLampTemperatureAndPresetBoth) {
     EXPECT_TRUE(host.front().shows(L"2700 K"));
 }
 
+TEST(ListOfALine, ShowsHugeLengthsWithAnExponentAndThoseThatOverflowAsADash) {
+    test::TestSession host{{.language = L"en"}};
+
+    host.run({L"LINE", L"-1e308,0", L"1e308,1e15", L"", L"LIST", L"ALL", L""});
+
+    EXPECT_TRUE(host.front().shows(L"X=-1.0000E+308  Y=0.0000"));
+    EXPECT_TRUE(host.front().shows(L"X=1.0000E+308  Y=1000000000000000.0000"));
+    EXPECT_TRUE(host.front().shows(L"Length      —"));
+}
+
 } // namespace
 
 } // namespace quor

@@ -1,6 +1,7 @@
 #include "host/commands/layer_name.h"
 #include "host/commands/upper_case.h"
 #include "host/commands/wildcard.h"
+#include "tests/support/test_session.h"
 
 #include <gtest/gtest.h>
 
@@ -59,6 +60,28 @@ TEST(LayerName, HoldsNoControlCharacter) {
     EXPECT_FALSE(isLayerName(L"a\nb"));
     EXPECT_FALSE(isLayerName(L"a\tb"));
     EXPECT_FALSE(isLayerName(L"a\x7F"));
+    EXPECT_FALSE(isLayerName(L"a\x009B"));
+    EXPECT_TRUE(isLayerName(L"a\x00A0"));
+}
+
+TEST(LayerName, HoldsNoMarkOfWritingDirection) {
+    EXPECT_FALSE(isLayerName(L"a\x202E"));
+    EXPECT_FALSE(isLayerName(L"a\x2066"));
+    EXPECT_TRUE(isLayerName(L"a\x2010"));
+}
+
+TEST(NamesInMessages, AreShownWithTheirControlCharactersSpelledOut) {
+    test::TestSession host;
+
+    host.run({L"LAYER", L"M", L"a\x009B", L"", L"", L"LAYOUT", L"S", L"b\x202E", L"", L"DOCUMENTS", L"c\x009B", L"",
+              L"HELP", L"d\x202E", L"SETVAR", L"e\x009B", L"f\x202E"});
+
+    EXPECT_TRUE(host.front().shows(L"“aU+009B”不能作为图层名"));
+    EXPECT_TRUE(host.front().shows(L"没有名为“bU+202E”的布局"));
+    EXPECT_TRUE(host.front().shows(L"没有编号或名称为“cU+009B”的图形"));
+    EXPECT_TRUE(host.front().shows(L"没有名为“dU+202E”的命令"));
+    EXPECT_TRUE(host.front().shows(L"没有名为“eU+009B”的系统变量"));
+    EXPECT_TRUE(host.front().shows(L"未知命令“fU+202E”"));
 }
 
 TEST(UpperCase, ChangesAsciiLettersOnly) { EXPECT_EQ(upperCase(L"3dFace-ä"), L"3DFACE-ä"); }
