@@ -69,6 +69,12 @@ TEST_F(Variables, NewDrawingHasTheUsualSettings) {
     EXPECT_EQ(text(L"WORLDUCS"), L"1");
 }
 
+TEST_F(Variables, ViewportThatIsNotThereIsRefused) {
+    EXPECT_EQ(variables().set(L"CVPORT", short{1}), SetResult::OutOfRange);
+    EXPECT_EQ(variables().set(L"CVPORT", short{3}), SetResult::OutOfRange);
+    EXPECT_EQ(variables().set(L"CVPORT", short{2}), SetResult::Ok);
+}
+
 TEST_F(Variables, NamesAreFoundWithoutRegardToCase) {
     EXPECT_EQ(variables().set(L"luprec", short{6}), SetResult::Ok);
     EXPECT_EQ(variables().number(L"LuPrec"), 6);
