@@ -295,8 +295,8 @@ TEST_F(Processor, LongUnknownCommandIsShownShortened) {
     EXPECT_TRUE(test_.front().shows(L"未知命令“" + ZrString(60, L'x') + L"…”"));
 }
 
-TEST_F(Processor, SystemVariableNameRunsSetvarOnIt) {
-    EXPECT_EQ(test_.run({L"LUPREC", L"3"}).command, L"SETVAR");
+TEST_F(Processor, SystemVariableNameAsksForItsValueAndIsTheCommandsName) {
+    EXPECT_EQ(test_.run({L"LUPREC", L"3"}).command, L"LUPREC");
     EXPECT_EQ(test_.front().echoed(), std::vector<ZrString>{});
 }
 
