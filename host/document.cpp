@@ -26,7 +26,7 @@ void drop(std::vector<Listener*>& listeners, Listener* listener) {
 // A listener may take itself or others off while it is told.
 template <class Listener, class Tell>
 void tellAll(const std::vector<Listener*>& listeners, Tell&& tell) {
-    const std::vector<Listener*> copy = listeners;
+    const std::vector<Listener*> copy(listeners.begin(), listeners.end());
     for (Listener* listener : copy)
         if (std::find(listeners.begin(), listeners.end(), listener) != listeners.end())
             tell(*listener);

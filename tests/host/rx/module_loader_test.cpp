@@ -13,9 +13,7 @@ using quor::test::TestSession;
 
 namespace {
 
-ZrString moduleFile(const std::string& name) {
-    return quor::fromUtf8(QUOR_BUILD_DIR "/lib/quor/test-modules/" + name);
-}
+ZrString moduleFile(const std::string& name) { return quor::fromUtf8(QUOR_BUILD_DIR "/lib/quor/test-modules/" + name); }
 
 bool contains(const ZrString& text, std::wstring_view part) { return text.find(part) != ZrString::npos; }
 
