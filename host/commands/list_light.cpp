@@ -79,7 +79,7 @@ const LightRow kRows[] = {
     {texts::kLightPosition, [](L light) { return pointText(light.position()); }, always},
     {texts::kLightTarget, [](L light) { return pointText(light.targetLocation()); }, always},
     {texts::kLightTargeted, [](L light) { return yesNoText(light.hasTarget()); }, always},
-    {texts::kLightDirection, [](L light) { return vectorText(light.lightDirection()); }, always},
+    {texts::kLightDirection, [](L light) { return directionText(light.lightDirection()); }, always},
     {texts::kLightHotspot, [](L light) { return degreesText(light.hotspotAngle()); }, isSpot},
     {texts::kLightFalloff, [](L light) { return degreesText(light.falloffAngle()); }, isSpot},
     {texts::kLightAttenuation,

@@ -16,6 +16,7 @@ namespace {
 
 constexpr double kMostInFull = 1e15; // beyond it the digits of a length are no longer its own
 constexpr int kScientific = 1;       // as in LUNITS
+constexpr int kDecimal = 2;
 constexpr const wchar_t* kNoLength = L"—";
 
 } // namespace
@@ -49,9 +50,14 @@ ZrString pointText(const ZrGePoint3d& world) {
     return coordinatesText(point.x, point.y, point.z);
 }
 
-ZrString vectorText(const ZrGeVector3d& world) {
+ZrString directionText(const ZrGeVector3d& world) {
     const ZrGeVector3d vector = zrdbWcs2Ucs(world);
-    return coordinatesText(vector.x, vector.y, vector.z);
+    const auto decimal = [](double value) {
+        ZrString text;
+        zrdbRToS(value, kDecimal, -1, text);
+        return text;
+    };
+    return L"X=" + decimal(vector.x) + L"  Y=" + decimal(vector.y) + L"  Z=" + decimal(vector.z);
 }
 
 // "%.8g" may give "-0", which is no number that people write.

@@ -46,6 +46,14 @@ TEST_F(ListOfALight, ShowsIlluminanceInFootCandlesWithAmericanUnits) {
     EXPECT_TRUE(host.front().shows(L"40 fc (illuminance)"));
 }
 
+TEST_F(ListOfALight, ShowsTheDirectionInPlainNumbersInEveryUnitFormat) {
+    ASSERT_EQ(host.session().variables().set(L"LUNITS", short{4}), sys::SetResult::Ok);
+
+    list([](ZrDbLight& light) { light.setTargetLocation({0, 0, -10}); });
+
+    EXPECT_TRUE(host.front().shows(L"X=0.0000  Y=0.0000  Z=-1.0000"));
+}
+
 TEST_F(ListOfALight, ShowsFluxInLumen) {
     list([](ZrDbLight& light) { light.setPhysicalIntensityMethod(PhysicalIntensityMethod::kFlux); });
 
