@@ -16,9 +16,9 @@ class SectionAdditions {
 public:
     explicit SectionAdditions(const DrawingFile& file) : file_(file) {}
 
-    void addHeader(std::string tags) { header_ += tags; }
-    void addClass(std::string tags) { classes_ += tags; }
-    void addLayer(const SymbolTable& layers, std::string tags);
+    void addHeader(const std::string& tags) { header_ += tags; }
+    void addClass(const std::string& tags) { classes_ += tags; }
+    void addLayer(const SymbolTable& layers, const std::string& tags);
     // `at`: where in the file; 0: the end of the ENTITIES section.
     void addEntity(std::uint64_t at, const std::string& tags);
     void addObject(const std::string& tags) { objects_ += tags; }

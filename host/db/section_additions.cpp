@@ -17,7 +17,7 @@ std::size_t orderOf(std::string_view section) {
 
 } // namespace
 
-void SectionAdditions::addLayer(const SymbolTable& layers, std::string tags) {
+void SectionAdditions::addLayer(const SymbolTable& layers, const std::string& tags) {
     layers_ += tags;
     layersAt_ = layers.insertAt;
     layerTable_ = layers.entry;
