@@ -50,6 +50,11 @@ ZrString pointText(const ZrGePoint3d& world) {
     return coordinatesText(point.x, point.y, point.z);
 }
 
+ZrString vectorText(const ZrGeVector3d& world) {
+    const ZrGeVector3d vector = zrdbWcs2Ucs(world);
+    return coordinatesText(vector.x, vector.y, vector.z);
+}
+
 ZrString directionText(const ZrGeVector3d& world) {
     const ZrGeVector3d vector = zrdbWcs2Ucs(world);
     const auto decimal = [](double value) {

@@ -37,6 +37,7 @@ private:
 [[nodiscard]] ZrString coordinatesText(double x, double y, double z);
 // World coordinates, shown in the current UCS.
 [[nodiscard]] ZrString pointText(const ZrGePoint3d& world);
+[[nodiscard]] ZrString vectorText(const ZrGeVector3d& world);
 // A direction has no unit: its components are plain numbers in every unit format.
 [[nodiscard]] ZrString directionText(const ZrGeVector3d& world);
 // As few digits as tell it, at most eight.
