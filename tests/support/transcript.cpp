@@ -16,11 +16,6 @@ std::vector<std::string_view> splitLines(std::string_view text) {
     return lines;
 }
 
-std::string_view withoutBlanksAtEnd(std::string_view line) {
-    const std::size_t last = line.find_last_not_of(" \t\r");
-    return last == std::string_view::npos ? std::string_view() : line.substr(0, last + 1);
-}
-
 constexpr std::string_view kMarks = ">#\\";
 
 } // namespace
@@ -82,9 +77,8 @@ void TranscriptRecording::writeComments(bool beforeOutput) {
 
 void TranscriptRecording::writePrinted() {
     for (const std::string_view line : splitLines(printed_)) {
-        const std::string_view kept = withoutBlanksAtEnd(line);
-        const bool looksTyped = !kept.empty() && kMarks.find(kept.front()) != std::string_view::npos;
-        writeLine((looksTyped ? "\\" : "") + std::string(kept));
+        const bool looksTyped = !line.empty() && kMarks.find(line.front()) != std::string_view::npos;
+        writeLine((looksTyped ? "\\" : "") + std::string(line));
     }
     printed_.clear();
 }

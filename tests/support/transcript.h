@@ -20,7 +20,7 @@ struct TranscriptLine {
 [[nodiscard]] std::vector<TranscriptLine> readTranscript(std::string_view file);
 
 // The file as the session makes it: the same lines, with what the program printed between them. A printed line that
-// could be taken for one of the others gets a leading backslash; blanks at its end are left out.
+// could be taken for one of the others gets a leading backslash. Blanks at the end of a line belong to it.
 class TranscriptRecording {
 public:
     explicit TranscriptRecording(std::vector<TranscriptLine> lines) : lines_(std::move(lines)) {}

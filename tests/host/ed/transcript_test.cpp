@@ -7,7 +7,7 @@ using namespace quor::test;
 namespace {
 
 TEST(Transcript, ReplayOfTheSameOutputGivesTheSameFile) {
-    const std::string file = "# About.\n命令:\n> LINE\n起点:\n# Enter next.\n>\nthe end\n";
+    const std::string file = "# About.\n命令: \n> LINE\n起点: \n# Enter next.\n>\nthe end\n";
     TranscriptRecording recording(readTranscript(file));
     recording.print("命令: \n");
     EXPECT_EQ(recording.next()->text, "LINE");
@@ -15,6 +15,13 @@ TEST(Transcript, ReplayOfTheSameOutputGivesTheSameFile) {
     EXPECT_EQ(recording.next()->text, "");
     recording.print("the end");
     EXPECT_EQ(recording.finish(), file);
+}
+
+TEST(Transcript, BlanksAtTheEndOfAPromptBelongToIt) {
+    TranscriptRecording recording(readTranscript("起点:\n> 0,0\n"));
+    recording.print("起点: \n");
+    recording.next();
+    EXPECT_EQ(recording.finish(), "起点: \n> 0,0\n");
 }
 
 TEST(Transcript, CommentsStayWithTheirTypedLineWhenOutputChanges) {
