@@ -1,8 +1,10 @@
 #include "host/db/entity_fields.h"
 
+#include "host/db/color_fields.h"
 #include "host/db/data.h"
 #include "host/db/database.h"
 #include "host/db/layers.h"
+#include "host/db/versions.h"
 
 #include <array>
 #include <cmath>
@@ -15,14 +17,6 @@ namespace {
 using Entity = ZrDbEntityData;
 
 constexpr int kByLayerWeight = -1;
-constexpr int kFirstWithTrueColor = 1018; // older files keep the nearest numbered colour only
-
-// A colour-book colour as one text, the book before the last dollar sign.
-std::optional<std::wstring> bookText(const ZrCmColor& color) {
-    if (!color.hasColorName())
-        return std::nullopt;
-    return color.bookName() + L"$" + color.colorName();
-}
 
 void readLayer(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext& context) {
     const ZrString name = context.database.file().text(tag);
@@ -74,26 +68,21 @@ FieldValue writeInvisible(const ZrDbObjectData& data, const FieldContext&) {
 }
 
 void readTrueColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
-    if (const auto rgb = tag.asInt())
-        as<Entity>(data).color.setRGB(static_cast<std::uint8_t>(*rgb >> 16), static_cast<std::uint8_t>(*rgb >> 8),
-                                      static_cast<std::uint8_t>(*rgb));
+    takeTrueColor(as<Entity>(data).color, tag);
 }
 
 FieldValue writeTrueColor(const ZrDbObjectData& data, const FieldContext& context) {
     const ZrCmColor& color = as<Entity>(data).color;
-    return color.isByColor() && context.version >= kFirstWithTrueColor ? FieldValue(std::int64_t{color.rgb()})
-                                                                       : FieldValue();
+    return color.isByColor() && context.version >= versions::kFirstWithTrueColor ? FieldValue(std::int64_t{color.rgb()})
+                                                                                 : FieldValue();
 }
 
 void readBookColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext& context) {
-    const ZrString text = context.database.file().text(tag);
-    if (const auto dollar = text.rfind(L'$'); dollar != ZrString::npos)
-        (void)as<Entity>(data).color.setNames(text.substr(dollar + 1), text.substr(0, dollar));
+    takeBookColor(as<Entity>(data).color, tag, context.database.file());
 }
 
 FieldValue writeBookColor(const ZrDbObjectData& data, const FieldContext& context) {
-    const auto text = bookText(as<Entity>(data).color);
-    return text && context.version >= kFirstWithTrueColor ? FieldValue(*text) : FieldValue();
+    return context.version >= versions::kFirstWithTrueColor ? bookColorText(as<Entity>(data).color) : std::nullopt;
 }
 
 constexpr std::array kEntityFields{

@@ -1,6 +1,7 @@
 // The fields of a layer.
 #include "host/db/entity_fields.h"
 
+#include "host/db/color_fields.h"
 #include "host/db/data.h"
 #include "host/db/database.h"
 #include "host/db/layers.h"
@@ -78,9 +79,7 @@ FieldValue writeLinetype(const ZrDbObjectData& data, const FieldContext&) {
 }
 
 void readTrueColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
-    if (const auto rgb = tag.asInt())
-        as<Layer>(data).color.setRGB(static_cast<std::uint8_t>(*rgb >> 16), static_cast<std::uint8_t>(*rgb >> 8),
-                                     static_cast<std::uint8_t>(*rgb));
+    takeTrueColor(as<Layer>(data).color, tag);
 }
 
 FieldValue writeTrueColor(const ZrDbObjectData& data, const FieldContext& context) {

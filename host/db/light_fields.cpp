@@ -1,6 +1,7 @@
 // The fields of a light and of the record with its photometric data.
 #include "host/db/entity_fields.h"
 
+#include "host/db/color_fields.h"
 #include "host/db/data.h"
 #include "host/db/database.h"
 #include "host/db/versions.h"
@@ -145,9 +146,7 @@ FieldValue writeColorIndex(const ZrDbObjectData& data, const FieldContext& conte
 }
 
 void readTrueColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
-    if (const auto rgb = tag.asInt())
-        as<Light>(data).lightColor.setRGB(static_cast<std::uint8_t>(*rgb >> 16), static_cast<std::uint8_t>(*rgb >> 8),
-                                          static_cast<std::uint8_t>(*rgb));
+    takeTrueColor(as<Light>(data).lightColor, tag);
 }
 
 FieldValue writeTrueColor(const ZrDbObjectData& data, const FieldContext& context) {
@@ -156,16 +155,11 @@ FieldValue writeTrueColor(const ZrDbObjectData& data, const FieldContext& contex
 }
 
 void readBookColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext& context) {
-    const ZrString text = context.database.file().text(tag);
-    if (const auto dollar = text.rfind(L'$'); dollar != ZrString::npos)
-        (void)as<Light>(data).lightColor.setNames(text.substr(dollar + 1), text.substr(0, dollar));
+    takeBookColor(as<Light>(data).lightColor, tag, context.database.file());
 }
 
 FieldValue writeBookColor(const ZrDbObjectData& data, const FieldContext& context) {
-    const ZrCmColor& color = as<Light>(data).lightColor;
-    if (context.version <= versions::kOnlyWithRawLightColor || !color.hasColorName())
-        return none();
-    return color.bookName() + L"$" + color.colorName();
+    return context.version > versions::kOnlyWithRawLightColor ? bookColorText(as<Light>(data).lightColor) : none();
 }
 
 void readRawColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
