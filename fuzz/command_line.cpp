@@ -6,13 +6,26 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <dlfcn.h>
 #include <string_view>
+
+namespace {
+
+// The fuzzer keeps writing the module's coverage counters after the session has unloaded it: it must stay mapped.
+void keepModuleMapped() {
+    static void* const kept = dlopen(QUOR_BUILD_DIR "/lib/quor/modules/light.so", RTLD_NOW | RTLD_NODELETE);
+    if (kept == nullptr)
+        std::abort();
+}
+
+} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using quor::test::TestSession;
     TestSession session;
     if (!session.loadLight(QUOR_BUILD_DIR))
         std::abort();
+    keepModuleMapped();
     for (const wchar_t* name : {L"SAVE", L"SAVEAS", L"OPEN", L"RECOVER", L"SCRIPT", L"LOADMODULE", L"SETVAR"})
         (void)session.session().commands().remove(L"QUOR", name);
 
