@@ -21,10 +21,12 @@ void show(const Documents& documents, const Document* current) {
     const int digits = columnsOf(std::to_wstring(documents.size()));
     for (std::size_t i = 0; i < documents.size(); ++i) {
         const Document& document = *documents[i];
-        ZrString row = document.isModified() ? ZrString(L"  ") + texts::kModifiedMark.get() : ZrString();
+        ZrString details;
+        if (document.isModified())
+            details.append(L"  ").append(texts::kModifiedMark.get());
         if (!document.path().empty())
-            row += L"  " + visibleText(textOf(document.path()));
-        row = padRight(visibleText(shortName(document)), row.empty() ? 0 : width) + row;
+            details.append(L"  ").append(visibleText(textOf(document.path())));
+        const ZrString row = padRight(visibleText(shortName(document)), details.empty() ? 0 : width) + details;
         printText(ZrString(L"\n") + (&document == current ? L"* " : L"  ") + padLeft(std::to_wstring(i + 1), digits) +
                   L"  " + row + L"\n");
     }

@@ -44,7 +44,7 @@ private:
     Structure& structure_;
     std::map<ZrString, Set> set_;
     mutable std::map<ZrString, std::optional<ZrString>> read_; // what was looked up in the file before
-    std::map<ZrString, std::uint64_t> handles_; // given out before, so that redo gives the same again
+    std::map<ZrString, std::uint64_t> handles_;                // given out before, so that redo gives the same again
     std::uint64_t newDictionaryHandle_ = 0;
     std::uint64_t newRootHandle_ = 0;
 };

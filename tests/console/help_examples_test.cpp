@@ -41,7 +41,8 @@ protected:
         for (const char* script : {"lights.scr", "灯光.scr"})
             std::ofstream(folder_ / script) << "POINTLIGHT 1,2,3 \n";
         for (const char* drawing : {"plan.dxf", "户型.dxf"})
-            EXPECT_EQ(run("quorc --quiet --set LIGHTINGUNITS=2 -c 'LINE 0,0 1,1 ' -o " + std::string(drawing)).status, 0);
+            EXPECT_EQ(run("quorc --quiet --set LIGHTINGUNITS=2 -c 'LINE 0,0 1,1 ' -o " + std::string(drawing)).status,
+                      0);
     }
     void TearDown() override { fs::remove_all(folder_); }
 
