@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <sstream>
 
 namespace quor {
@@ -55,43 +56,45 @@ std::size_t differingBytes(const std::string& before, const std::string& after) 
     return before.size() - begin - static_cast<std::size_t>(c - before.rbegin());
 }
 
-class RealLights : public testing::TestWithParam<fs::path> {};
+// A drawing with a light in it; drawings without one, and those that need recovery, are skipped.
+class RealLights : public testing::TestWithParam<fs::path> {
+protected:
+    void SetUp() override {
+        auto opened = db::Database::open(GetParam());
+        if (!opened.ok())
+            GTEST_SKIP() << "not to be opened without recovery";
+        drawing = std::move(opened).value();
+        const std::vector<ZrDbObjectId> lights = lightsOf(*drawing);
+        if (lights.empty())
+            GTEST_SKIP() << "no lights";
+        first = lights.front();
+    }
+
+    std::unique_ptr<db::Database> drawing;
+    ZrDbObjectId first;
+};
 
 TEST_P(RealLights, ChangingTheIntensityOfOneChangesThatValueAndNothingElse) {
-    auto opened = db::Database::open(GetParam());
-    if (!opened.ok())
-        GTEST_SKIP() << "not to be opened without recovery";
-    db::Database& drawing = *opened.value();
-    const std::vector<ZrDbObjectId> lights = lightsOf(drawing);
-    if (lights.empty())
-        GTEST_SKIP() << "no lights";
     {
-        const ZrDbObjectPointer<ZrDbLight> light(lights.front(), ZrDb::kForWrite);
+        const ZrDbObjectPointer<ZrDbLight> light(first, ZrDb::kForWrite);
         ASSERT_EQ(light->setIntensity(light->intensity() + 0.5), Quor::eOk);
     }
 
     const std::string before = bytesOf(GetParam());
-    const std::string after = drawing.toBytes().value();
+    const std::string after = drawing->toBytes().value();
 
     EXPECT_NE(before, after);
     EXPECT_LE(differingBytes(before, after), 24U) << "more than one number of the file";
 }
 
 TEST_P(RealLights, UndoOfAnIntensityGivesTheSameBytesAsTheFile) {
-    auto opened = db::Database::open(GetParam());
-    if (!opened.ok())
-        GTEST_SKIP() << "not to be opened without recovery";
-    db::Database& drawing = *opened.value();
-    const std::vector<ZrDbObjectId> lights = lightsOf(drawing);
-    if (lights.empty())
-        GTEST_SKIP() << "no lights";
     {
-        const ZrDbObjectPointer<ZrDbLight> light(lights.front(), ZrDb::kForWrite);
+        const ZrDbObjectPointer<ZrDbLight> light(first, ZrDb::kForWrite);
         ASSERT_EQ(light->setIntensity(7.25), Quor::eOk);
     }
-    drawing.journal().undo();
+    drawing->journal().undo();
 
-    EXPECT_EQ(drawing.toBytes().value(), bytesOf(GetParam()));
+    EXPECT_EQ(drawing->toBytes().value(), bytesOf(GetParam()));
 }
 
 INSTANTIATE_TEST_SUITE_P(Drawings, RealLights, testing::ValuesIn(drawings()), [](const auto& test) {
