@@ -22,6 +22,8 @@ public:
     // Behind the rows, as it stands.
     void line(const ZrString& text) { lines_.push_back(visibleText(text)); }
 
+    // Labels with their values.
+    [[nodiscard]] const std::vector<std::pair<ZrString, ZrString>>& rows() const { return rows_; }
     // A fresh line with the heading, then one for each row with its value in a common column.
     [[nodiscard]] ZrString text() const;
 

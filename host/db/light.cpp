@@ -196,7 +196,11 @@ Quor::ErrorStatus ZrDbLight::setLampColorPreset(LampColorPreset preset) {
 
 const ZrString& ZrDbLight::webFile() const { return data().webFile; }
 
-Quor::ErrorStatus ZrDbLight::setWebFile(const ZrString& path) { return change(true, &ZrDbLightData::webFile, path); }
+Quor::ErrorStatus ZrDbLight::setWebFile(const ZrString& path, ZrString*) {
+    return change(true, &ZrDbLightData::webFile, path);
+}
+
+double ZrDbLight::webFlux() const { return data().webFlux; }
 
 Quor::ErrorStatus ZrDbLight::webRotation(ZrGeVector3d& rotation) const {
     rotation = data().webRotation;

@@ -49,9 +49,52 @@ protected:
     // The whole option loop from a command's description of it.
     int runOptionLoop(const quor::light::OptionLoop& loop);
 
+    // The prompts behind the options, a source for each group. Each changes the open light as its answers come; what
+    // they answer is for their callers here, the option loops ignore it.
+
+    // Name, intensity factor, status.
     void promptName();
     void promptIntensity();
     void promptStatus();
+
+    // Photometric intensity and lamp colour. The menu answers how it was left.
+    int promptPhotometry();
+    int promptLampColor();
+    int promptFlux();        // 1 when a value was entered, else -1
+    int promptIlluminance(); // a result code
+    // 0, or why not: -1 for a name that is no preset (which is said), else the light's status.
+    int setLampColorPresetByName(const wchar_t* name);
+    // The light's intensity in the unit of a method: 0 candela, 1 lumen, 2 illuminance at the light's distance.
+    [[nodiscard]] double convertPhotometricIntensity(int target) const;
+
+    // Shadows. The first answers the result code of its own question.
+    int promptShadow();
+    int promptShadowMapSize(); // 1 when a size was set or kept, 0 when the question was left
+    bool promptShadowSoftness();
+    bool promptShadowSampledOptions();
+    bool promptShadowShape();
+    int promptShadowSamples(); // 1 when the count was set
+    bool promptShadowVisibility();
+    int promptShadowLength(); // 0 when it was cancelled, else 1; the radius too
+    bool promptShadowWidth();
+    int promptShadowRadius();
+
+    // Attenuation. The sub-prompts answer 1 when the record was written, 0 when the question was left.
+    int promptAttenuation();
+    int promptAttenuationType();
+    int promptAttenuationLimits();
+
+    // The light's colour. They answer the status of the light's setter, or the result code with which they were left.
+    int promptColor();
+    int promptIndexColor();
+    int promptHslColor();
+    int promptColorBookColor();
+
+    // The photometric web: its file and its rotation. They answer result codes.
+    int promptWeb();
+    int promptWebFile();
+    int promptWebRotation(const wchar_t* axis, double& value);
+    int chooseWebFile(const ZrString& reply);
 
     // Makes the light, has it placed and posts it to the current space; then m_pLight is open for write.
     [[nodiscard]] bool createLight();

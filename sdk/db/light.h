@@ -31,6 +31,15 @@ enum class LampColorPreset {
     kLowPressureSodium,
     kCustom,
 };
+// What the planes of a photometric web mirror, in its own angles.
+enum class WebSymmetry {
+    kUnknown = -1,
+    kNone = 0,    // all planes are given
+    kAxial,       // the same all around
+    kQuadrants,   // mirrored at the planes 0-180 and 90-270
+    kMirror0_180, // mirrored at the plane 0-180
+    kMirror90_270,
+};
 enum class GlyphDisplay { kAutomatic = 0, kOn = 1, kOff = 2 };
 enum class DrawableType { kDistantLight = 1, kPointLight = 2, kSpotLight = 3, kWebLight = 10 };
 
@@ -111,9 +120,16 @@ public:
     [[nodiscard]] LampColorPreset lampColorPreset() const;
     Quor::ErrorStatus setLampColorPreset(LampColorPreset preset);
 
-    // The photometric web file and the rotation of the web about X, Y and Z, kept as it was given.
+    // The photometric web file. Setting it reads it: a file that cannot be read, or is no photometric web, is refused
+    // and `reason`, where it is wanted, tells why: eFileNotFound, eFileAccessErr, or eUnsupportedFileFormat with the
+    // line. An empty path takes the web away.
     [[nodiscard]] const ZrString& webFile() const;
-    Quor::ErrorStatus setWebFile(const ZrString& path);
+    Quor::ErrorStatus setWebFile(const ZrString& path, ZrString* reason = nullptr);
+    // The luminous flux of the web in lumen, found by integration when the file was set; 0 without a web.
+    [[nodiscard]] double webFlux() const;
+    // How the web repeats itself; the file tells, and kUnknown stands for one that cannot be read now.
+    [[nodiscard]] WebSymmetry webSymmetry() const;
+    // The rotation of the web about X, Y and Z, kept as it was given.
     Quor::ErrorStatus webRotation(ZrGeVector3d& rotation) const;
     Quor::ErrorStatus setWebRotation(const ZrGeVector3d& rotation);
 

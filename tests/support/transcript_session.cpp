@@ -1,6 +1,7 @@
 #include "tests/support/transcript_session.h"
 
 #include "host/commands/drawing_files.h"
+#include "host/commands/list_kinds.h"
 #include "host/ed/screen_text.h"
 #include "host/ed/script_run.h"
 #include "host/ed/script_source.h"
@@ -9,9 +10,15 @@
 #include "host/sys/system_variables.h"
 #include "host/sys/utf8.h"
 #include "host/ui/task_dialog_text.h"
+#include "sdk/db/database.h"
+#include "sdk/db/light.h"
 #include "sdk/rx/result_codes.h"
 #include "tests/support/test_session.h"
 #include "tests/support/transcript.h"
+
+#include <algorithm>
+#include <sstream>
+#include <system_error>
 
 namespace quor::test {
 
@@ -133,7 +140,11 @@ private:
             setVariable(rest);
         else if (word == "script")
             runScript();
-        else if (word != "keyboard" && word != "lang" && word != "no-module")
+        else if (word == "light")
+            showLight(rest);
+        else if (word == "copy")
+            copyFile(rest);
+        else if (word != "keyboard" && word != "lang" && word != "no-module" && word != "trial-lights")
             problem_ = "unknown directive: " + std::string(directive);
     }
 
@@ -148,6 +159,50 @@ private:
         const ZrString name = fromUtf8(assignment.substr(0, sign));
         if (session_.variables().setFromText(name, fromUtf8(value)) != sys::SetResult::Ok)
             problem_ = "cannot set " + assignment;
+    }
+
+    void showLight(const std::string& labels) {
+        const ZrDbObjectPointer<ZrDbLight> light(lastLight(), ZrDb::kForRead);
+        if (!light) {
+            problem_ = "there is no light to show";
+            return;
+        }
+        commands::Listing listing;
+        commands::listLight(*light, listing);
+        std::istringstream words(labels);
+        for (std::string word; problem_.empty() && words >> word;)
+            showRow(listing, word);
+    }
+
+    static ZrDbObjectId lastLight() {
+        ZrDbObjectId last;
+        const ZrDbObjectPointer<ZrDbBlockTableRecord> space(zrdbWorkingDatabase()->currentSpaceId(), ZrDb::kForRead);
+        for (auto at = space->newIterator(ZrDbLight::desc()); !at->done(); at->step())
+            last = at->entityId();
+        return last;
+    }
+
+    void showRow(const commands::Listing& listing, const std::string& label) {
+        const auto& rows = listing.rows();
+        const auto row = std::find_if(rows.begin(), rows.end(), [name = fromUtf8(label)](const auto& candidate) {
+            return candidate.first == name;
+        });
+        if (row == rows.end())
+            problem_ = "the light has no row " + label;
+        else
+            recording_.print("  " + label + " = " + toUtf8(row->second) + "\n");
+    }
+
+    void copyFile(const std::string& names) {
+        std::istringstream words(names);
+        std::string from;
+        words >> from;
+        std::string to = from;
+        words >> to;
+        std::error_code error;
+        std::filesystem::copy_file(folder_ / from, to, error);
+        if (error)
+            problem_ = "cannot copy " + from;
     }
 
     void runScript() {
@@ -166,7 +221,8 @@ private:
 
 } // namespace
 
-TranscriptResult runTranscript(const std::filesystem::path& path, std::string_view text) {
+TranscriptResult runTranscript(const std::filesystem::path& path, std::string_view text,
+                               const std::function<void(Session&)>& addTrialLights) {
     const std::vector<TranscriptLine> lines = readTranscript(text);
     const std::filesystem::path home = std::filesystem::absolute(path).parent_path();
     const TemporaryFolder folder;
@@ -182,6 +238,8 @@ TranscriptResult runTranscript(const std::filesystem::path& path, std::string_vi
         session.documents().newDocument();
         if (!hasDirective(lines, "#! no-module") && session.modules().loadModule(L"light.so") != Quor::eOk)
             result.problem = toUtf8(session.modules().lastError());
+        if (hasDirective(lines, "#! trial-lights"))
+            addTrialLights(session);
         if (result.problem.empty())
             result.problem = Player(session, recording, home).play();
     }

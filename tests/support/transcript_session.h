@@ -2,8 +2,13 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
+
+namespace quor {
+class Session;
+}
 
 namespace quor::test {
 
@@ -20,6 +25,10 @@ struct TranscriptResult {
 //   #! keyboard        ends that
 //   #! lang en         the language of the whole session
 //   #! no-module       the session runs without the module of lighting commands
-[[nodiscard]] TranscriptResult runTranscript(const std::filesystem::path& path, std::string_view text);
+//   #! trial-lights    adds light commands that the module does not have: `addTrialLights` does
+//   #! light LABEL…    shows what LIST says under these labels of the light that was made last
+//   #! copy FILE [AS]  copies a file from beside the transcript into the working folder, under another name if given
+[[nodiscard]] TranscriptResult runTranscript(const std::filesystem::path& path, std::string_view text,
+                                             const std::function<void(Session&)>& addTrialLights);
 
 } // namespace quor::test
