@@ -26,4 +26,10 @@ inline constexpr int replyTooLong = -5008;
     return checkReplyLength(result, reply);
 }
 
+// A question whose answer is a text without blanks; Enter answers the empty text.
+[[nodiscard]] inline int askWord(const wchar_t* prompt, ZrString& reply) {
+    const int result = zredGetString(0, prompt, reply);
+    return checkReplyLength(result, reply);
+}
+
 } // namespace quor::light
