@@ -23,6 +23,10 @@ int CZrPointLightCmd::optionLoop() {
         {L"Name", ask<&CZrPointLightCmd::promptName>},
         {L"Intensity", ask<&CZrPointLightCmd::promptIntensity>},
         {L"Status", ask<&CZrPointLightCmd::promptStatus>},
+        {L"shadoW", ask<&CZrPointLightCmd::promptShadow>},
+        {L"Attenuation", ask<&CZrPointLightCmd::promptAttenuation>},
+        {L"Color", ask<&CZrPointLightCmd::promptColor>},
+        {L"filterColor", ask<&CZrPointLightCmd::promptColor>},
     };
     m_pLight->setHasTarget(false);
     return runOptionLoop({

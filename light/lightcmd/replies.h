@@ -3,6 +3,8 @@
 
 #include "sdk/ed/get.h"
 
+#include <algorithm>
+
 namespace quor::light {
 
 // Replies go into buffers of this many characters, the terminating one included.
@@ -31,5 +33,8 @@ inline constexpr int replyTooLong = -5008;
     const int result = zredGetString(0, prompt, reply);
     return checkReplyLength(result, reply);
 }
+
+// Leaves of a reply what its buffer holds; for the questions that do not refuse one that is longer.
+inline void cutTo(ZrString& reply, std::size_t longest) { reply.resize(std::min(reply.size(), longest)); }
 
 } // namespace quor::light

@@ -43,6 +43,10 @@ protected:
     int optionLoop() override {
         static constexpr LightOption options[] = {
             {L"Name", ask<&TrialLight::promptName>},
+            {L"shadoW", ask<&TrialLight::promptShadow>},
+            {L"Attenuation", ask<&TrialLight::promptAttenuation>},
+            {L"Color", ask<&TrialLight::promptColor>},
+            {L"filterColor", ask<&TrialLight::promptColor>},
         };
         return runOptionLoop({
             .standardPrompt = kind_.prompt,
