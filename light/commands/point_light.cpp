@@ -23,6 +23,7 @@ int CZrPointLightCmd::optionLoop() {
         {L"Name", ask<&CZrPointLightCmd::promptName>},
         {L"Intensity", ask<&CZrPointLightCmd::promptIntensity>},
         {L"Status", ask<&CZrPointLightCmd::promptStatus>},
+        {L"Photometry", ask<&CZrPointLightCmd::promptPhotometry>, true},
         {L"shadoW", ask<&CZrPointLightCmd::promptShadow>},
         {L"Attenuation", ask<&CZrPointLightCmd::promptAttenuation>},
         {L"Color", ask<&CZrPointLightCmd::promptColor>},

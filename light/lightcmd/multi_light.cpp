@@ -69,9 +69,6 @@ int CZrMultiLight::execute() {
 
 int CZrMultiLight::optionLoop() { return RTNORM; }
 
-// Nothing is asked for a light whose command has no photometry menu.
-int CZrMultiLight::promptPhotometricIntensity() { return RTNONE; }
-
 ZrString& CZrMultiLight::defaultNamePrefix(ZrString& out) {
     out.clear();
     return out;
