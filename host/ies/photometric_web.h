@@ -16,13 +16,15 @@ enum class Edition : std::uint16_t { Lm1986 = 1986, Lm1991 = 1991, Lm1995 = 1995
 // along the luminaire, A about the one across. The numbers are those of the file.
 enum class Photometry : std::uint8_t { C = 1, B = 2, A = 3 };
 
-// What the given planes stand for; the rest follows by mirroring.
+// What the given planes (horizontal angles) stand for; the rest follows by mirroring. Vertical angles are never
+// mirrored: what lies beyond them is dark.
 enum class Symmetry : std::uint8_t {
-    None,         // all planes are given
+    None,         // all planes are given; what lies beyond them is dark
     Axial,        // one plane, the same all around
     Quadrants,    // 0..90, mirrored at both planes
     Mirror0_180,  // 0..180
     Mirror90_270, // 90..270
+    MirrorAtZero, // types A and B: 0..90, mirrored at the plane 0
 };
 
 // How the lamps' output changes with the tilt of the luminaire; kept for information.
@@ -33,7 +35,7 @@ struct Tilt {
 };
 
 struct Keyword {
-    std::wstring name; // without brackets
+    std::wstring name; // without brackets; empty for a line of free text
     std::wstring text; // continuation lines joined with a line break
 };
 
@@ -43,6 +45,7 @@ struct Warning {
         UnknownVersionLine, // read by the rules of 1986 or 1995
         Missing360,         // the plane at 360 degrees was missing and is that at 0
         TrailingText,       // something stands behind the last number
+        MissingPlanes,      // the planes leave out a part of the directions and no symmetry fills it; it is dark
     };
     Kind kind;
     std::size_t line; // from 1
@@ -80,7 +83,7 @@ struct PhotometricWeb {
 [[nodiscard]] double intensityAt(const PhotometricWeb& web, double horizontal, double vertical);
 [[nodiscard]] double maxIntensity(const PhotometricWeb& web);
 // The luminous flux in lumen: the intensity integrated over all directions, each cell of the grid with the mean of its
-// corners.
+// corners. 0 for a web that is dark or has no extent, so look before dividing by it.
 [[nodiscard]] double luminousFlux(const PhotometricWeb& web);
 
 } // namespace quor::ies

@@ -10,23 +10,29 @@
 
 namespace quor::ies {
 
+// No web that exists comes near to any of these. The last keeps each sum over a web finite, also in single precision.
+inline constexpr std::size_t kMostBytes = std::size_t{16} << 20U;
+inline constexpr double kMostAngles = 10000;
+inline constexpr double kMostCandela = 1e30;
+
 // Why a file is no web that can be used.
 struct Error {
     enum class Kind : std::uint8_t {
         NotFound,            // there is no such file
-        Unreadable,          // no regular file, or reading failed; systemError says why
-        TooLarge,            // larger than any web
+        Unreadable,          // reading failed, systemError says why; 0 for what is no regular file
+        TooLarge,            // more than kMostBytes
         Empty,               // nothing but blanks
-        NoTilt,              // the line TILT= is missing
+        NoTilt,              // the line TILT= is missing, or nothing stands behind the "="
         TiltFile,            // TILT names another file; excerpt is the name
         MissingNumber,       // the text ends where another number is needed
-        BadNumber,           // excerpt is no finite number
-        BadCount,            // a count of angles that is none, or is beyond all reason; excerpt is the number
+        BadNumber,           // excerpt is no decimal number, or an intensity beyond kMostCandela
+        BadCount,            // a count of angles that is not whole or not from 1 to kMostAngles; excerpt is the number
+        BadTilt,             // no position of the lamp (1, 2 or 3) behind TILT=INCLUDE; excerpt is the number
         BadType,             // no photometry of type 1, 2 or 3; excerpt is the number
         BadUnit,             // neither 1 (feet) nor 2 (metres); excerpt is the number
         AnglesNotIncreasing, // excerpt is the angle that is not larger than the one before
         AnglesOutOfRange,    // excerpt is the first angle beyond what the type of photometry has
-        NegativeIntensity,   // excerpt is the number
+        NegativeIntensity,   // excerpt is the number, or the factor that makes intensities negative
     };
 
     Kind kind = Kind::Empty;

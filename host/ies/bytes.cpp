@@ -1,0 +1,72 @@
+#include "host/ies/bytes.h"
+
+#include "host/sys/utf8.h"
+#include "host/sys/visible_text.h"
+
+#include <algorithm>
+
+namespace quor::ies {
+
+namespace {
+
+bool isBlank(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte <= ' ' || byte == 0x7F;
+}
+
+char capital(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+} // namespace
+
+bool Lines::next(std::string_view& line) {
+    if (rest_.empty())
+        return false;
+    const std::size_t end = std::min(rest_.find_first_of("\r\n"), rest_.size());
+    line = rest_.substr(0, end);
+    rest_.remove_prefix(end);
+    if (!rest_.empty())
+        rest_.remove_prefix(rest_.starts_with("\r\n") ? 2 : 1);
+    ++number_;
+    return true;
+}
+
+std::string_view trimmed(std::string_view text) {
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+bool isWord(std::string_view text, std::string_view capitals) {
+    return std::equal(text.begin(), text.end(), capitals.begin(), capitals.end(),
+                      [](char a, char b) { return capital(a) == b; });
+}
+
+bool startsWithWord(std::string_view text, std::string_view capitals) {
+    return isWord(text.substr(0, capitals.size()), capitals);
+}
+
+std::wstring decoded(std::string_view bytes) {
+    if (isValidUtf8(bytes))
+        return fromUtf8(bytes);
+    std::wstring text(bytes.size(), L' ');
+    std::transform(bytes.begin(), bytes.end(), text.begin(),
+                   [](char c) { return static_cast<wchar_t>(static_cast<unsigned char>(c)); });
+    return text;
+}
+
+std::wstring excerptOf(std::string_view bytes) {
+    constexpr std::size_t kLength = 40;
+    constexpr std::size_t kMostBytes = 4; // of one character
+    // A character cut in two at the end must not make the rest look like Latin-1.
+    std::string_view front = bytes.substr(0, kLength * kMostBytes);
+    if (const std::size_t valid = validUtf8Prefix(front);
+        front.size() < bytes.size() && valid + kMostBytes > front.size())
+        front = front.substr(0, valid);
+    std::wstring text = decoded(front).substr(0, kLength);
+    std::replace_if(text.begin(), text.end(), isControl, L'?');
+    return text;
+}
+
+} // namespace quor::ies

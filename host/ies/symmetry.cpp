@@ -1,0 +1,92 @@
+#include "host/ies/symmetry.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quor::ies {
+
+namespace {
+
+constexpr double kCircle = 360;
+
+// From 0 up to, not including, 360.
+double aroundOnce(double angle) {
+    const double rest = std::fmod(angle, kCircle);
+    const double turned = rest < 0 ? rest + kCircle : rest;
+    return turned < kCircle ? turned : 0;
+}
+
+} // namespace
+
+AngleRange verticalRange(Photometry photometry) {
+    return photometry == Photometry::C ? AngleRange{0, 180} : AngleRange{-90, 90};
+}
+
+AngleRange horizontalRange(Photometry photometry) {
+    return photometry == Photometry::C ? AngleRange{0, kCircle} : AngleRange{-90, 90};
+}
+
+Symmetry symmetryOf(const PhotometricWeb& web) {
+    const double first = web.horizontal.front();
+    const double last = web.horizontal.back();
+    if (web.photometry != Photometry::C)
+        return first == 0 && last > 0 ? Symmetry::MirrorAtZero : Symmetry::None;
+    if (web.horizontal.size() == 1)
+        return Symmetry::Axial;
+    if (first == 0 && last == 90)
+        return Symmetry::Quadrants;
+    if (first == 0 && last == 180)
+        return Symmetry::Mirror0_180;
+    if (first == 90 && last == 270)
+        return Symmetry::Mirror90_270;
+    return Symmetry::None;
+}
+
+bool lacks360(const PhotometricWeb& web) {
+    const std::vector<double>& planes = web.horizontal;
+    if (web.photometry != Photometry::C || planes.front() != 0 || symmetryOf(web) != Symmetry::None)
+        return false;
+    double widest = 0;
+    for (std::size_t i = 1; i < planes.size(); ++i)
+        widest = std::max(widest, planes[i] - planes[i - 1]);
+    constexpr double kRounding = 1e-3; // of angles written with few digits
+    return planes.back() < kCircle && kCircle - planes.back() <= widest + kRounding;
+}
+
+bool lacksPlanes(const PhotometricWeb& web) {
+    const AngleRange all = horizontalRange(web.photometry);
+    const bool startsLate = web.horizontal.front() > all.first;
+    const bool endsEarly = web.horizontal.back() < all.last;
+    switch (web.symmetry) {
+    case Symmetry::None:
+        return startsLate || endsEarly;
+    case Symmetry::MirrorAtZero:
+        return endsEarly;
+    default:
+        return false;
+    }
+}
+
+double foldedHorizontal(const PhotometricWeb& web, double horizontal) {
+    const double around = aroundOnce(horizontal);
+    const double fromZero = std::min(around, kCircle - around);
+    switch (web.symmetry) {
+    case Symmetry::Axial:
+        return web.horizontal.front();
+    case Symmetry::Quadrants:
+        return std::min(fromZero, 180 - fromZero);
+    case Symmetry::Mirror0_180:
+    case Symmetry::MirrorAtZero:
+        return fromZero;
+    case Symmetry::Mirror90_270:
+        return around < 90 ? 180 - around : around > 270 ? 540 - around : around;
+    case Symmetry::None:
+        break;
+    }
+    // The same direction by its other name, where the planes use that one.
+    if (around > web.horizontal.back())
+        return around - kCircle;
+    return around < web.horizontal.front() ? around + kCircle : around;
+}
+
+} // namespace quor::ies
