@@ -1,5 +1,7 @@
 #include "host/session.h"
 
+#include "host/cm/color_books.h"
+#include "host/cm/color_names.h"
 #include "host/commands/command_list.h"
 #include "host/document.h"
 #include "host/ed/command_processor.h"
@@ -11,6 +13,7 @@
 #include "host/sys/settings_store.h"
 #include "host/sys/system_variables.h"
 #include "host/texts/text.h"
+#include "sdk/sys/resources.h"
 
 #include <cassert>
 
@@ -38,6 +41,30 @@ std::unique_ptr<SettingsStore> openSettings(const std::filesystem::path& file) {
     return file.empty() ? std::make_unique<SettingsStore>() : std::make_unique<SettingsStore>(file);
 }
 
+// The texts 6924 to 6930 of the command library's resource module: the names of the numbered colours 1 to 7.
+ZrString colorNameOfPack(int index) {
+    constexpr unsigned beforeFirstName = 6923;
+    constexpr int longestName = 260;
+    wchar_t name[longestName];
+    LoadStringW(zwCommandLibraryResources(), beforeFirstName + static_cast<unsigned>(index), name, longestName);
+    return name;
+}
+
+// Nothing is read here: names and colour books are looked up when somebody asks for them. A person adds a colour book
+// by a file beside the settings.
+void setUpColors(const SettingsStore& settings, const SessionOptions& options) {
+    cm::setColorNameSource(colorNameOfPack);
+    std::vector<std::filesystem::path> folders{options.resourceFolder / "colorbooks"};
+    if (settings.path().has_filename())
+        folders.push_back(settings.path().parent_path() / "colorbooks");
+    cm::setColorBookFolders(std::move(folders));
+}
+
+void forgetColors() {
+    cm::setColorNameSource(nullptr);
+    cm::setColorBookFolders({});
+}
+
 } // namespace
 
 Session::Session(FrontEnd& front, SessionOptions options) : front_(front) {
@@ -55,6 +82,7 @@ Session::Session(FrontEnd& front, SessionOptions options) : front_(front) {
     processor_ = std::make_unique<ed::CommandProcessor>(*this);
     modules_ = std::make_unique<rx::ModuleLoader>(*this);
     registerHostCommands(*this);
+    setUpColors(*settings_, options_);
 }
 
 // Modules go first, then the drawings; both may use everything else while they do.
@@ -67,6 +95,7 @@ Session::~Session() {
     input_.reset();
     documents_.reset();
     variables_.reset();
+    forgetColors();
     resources_.reset();
     settings_.reset();
     running = nullptr;

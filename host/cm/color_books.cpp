@@ -1,39 +1,23 @@
 #include "host/cm/color_books.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <cerrno>
 #include <fstream>
 #include <iterator>
 #include <system_error>
-#include <unordered_set>
+#include <unordered_map>
 #include <utility>
 
 #include "host/cm/rgb_text.h"
 #include "host/sys/case_fold.h"
-#include "host/sys/program_folder.h"
+#include "host/sys/system_error.h"
 #include "host/sys/utf8.h"
+#include "host/texts/color_books.h"
 
 namespace quor::cm {
 namespace {
 
 namespace fs = std::filesystem;
-
-// What can be wrong with a book, for people.
-constexpr const wchar_t* noUtf8 = L"不是有效的 UTF-8 文本 (not valid UTF-8)";
-constexpr const wchar_t* noBookLine = L"缺少 book = \"名称\" 行 (the line book = \"Name\" must come first)";
-constexpr const wchar_t* secondBookLine = L"book 行只能出现一次 (only one book line is allowed)";
-constexpr const wchar_t* badBookName =
-    L"配色系统名称须加引号，4 到 131 个字符，不含 $ (a book name stands in quotes, has 4 "
-    L"to 131 characters and no $)";
-constexpr const wchar_t* badColorName =
-    L"颜色名称须为 1 到 131 个字符，不含 $ (a colour name has 1 to 131 characters and no $)";
-constexpr const wchar_t* noEqualSign = L"应为 名称 = r,g,b (expected: name = r,g,b)";
-constexpr const wchar_t* badRgb =
-    L"颜色须为 r,g,b，每个数为 0 到 255 的整数 (a colour is r,g,b, whole numbers from 0 to 255)";
-constexpr const wchar_t* doubleColor = L"颜色名称重复 (this colour name stands in the book already)";
-constexpr const wchar_t* doubleBook = L"已有同名的配色系统 (another book has this name)";
-constexpr const wchar_t* noColors = L"没有颜色 (the book holds no colour)";
-constexpr const wchar_t* cannotRead = L"无法读取 (cannot be read)";
 
 // Names are typed at prompts that take so many characters; shorter book names are taken for a slip of the finger there.
 constexpr std::size_t shortestBookName = 4;
@@ -50,66 +34,70 @@ bool isName(std::wstring_view name, std::size_t shortest) {
     return name.size() >= shortest && name.size() <= longestName && name.find(L'$') == std::wstring_view::npos;
 }
 
+// What is wrong with a line; nothing when it is right.
+using Complaint = std::optional<ZrString>;
+
 // Takes one line of a book after the other.
 class BookParser {
 public:
-    // Null when the line is right, else what is wrong with it.
-    const wchar_t* take(std::wstring_view rawLine) {
+    Complaint take(std::wstring_view rawLine, std::size_t number) {
         const std::wstring_view line = trim(rawLine);
         if (line.empty() || line.front() == L'#')
-            return nullptr;
+            return std::nullopt;
         const std::size_t equals = line.rfind(L'=');
         if (equals == std::wstring_view::npos)
-            return book_.name.empty() ? noBookLine : noEqualSign;
+            return fill(book_.name.empty() ? texts::colorBookNoName : texts::colorBookNoEquals);
         const std::wstring_view left = trim(line.substr(0, equals));
         const std::wstring_view right = trim(line.substr(equals + 1));
         if (!right.empty() && right.front() == L'"')
             return takeBookName(left, right);
-        return book_.name.empty() ? noBookLine : takeColor(left, right);
+        return book_.name.empty() ? fill(texts::colorBookNoName) : takeColor(left, right, number);
     }
 
-    [[nodiscard]] const wchar_t* finish() const {
+    [[nodiscard]] Complaint finish() const {
         if (book_.name.empty())
-            return noBookLine;
-        return book_.colors.empty() ? noColors : nullptr;
+            return fill(texts::colorBookNoName);
+        return book_.colors.empty() ? Complaint(fill(texts::colorBookEmpty)) : std::nullopt;
     }
 
     [[nodiscard]] ColorBook result() { return std::move(book_); }
 
 private:
-    const wchar_t* takeBookName(std::wstring_view left, std::wstring_view right) {
+    Complaint takeBookName(std::wstring_view left, std::wstring_view right) {
         if (!equalFolded(left, L"book"))
-            return badRgb;
+            return fill(texts::colorBookBadColor);
         if (!book_.name.empty())
-            return secondBookLine;
+            return fill(texts::colorBookSecondName);
         if (right.size() < 2 || right.back() != L'"')
-            return badBookName;
+            return fill(texts::colorBookBadName);
         const std::wstring_view name = right.substr(1, right.size() - 2);
         if (!isName(name, shortestBookName) || name.find(L'"') != std::wstring_view::npos || trim(name) != name)
-            return badBookName;
+            return fill(texts::colorBookBadName);
         book_.name = name;
-        return nullptr;
+        return std::nullopt;
     }
 
-    const wchar_t* takeColor(std::wstring_view left, std::wstring_view right) {
+    Complaint takeColor(std::wstring_view left, std::wstring_view right, std::size_t number) {
         if (!isName(left, 1))
-            return badColorName;
+            return fill(texts::colorBookBadColorName);
         const auto rgb = parseRgb(right);
         if (!rgb)
-            return badRgb;
-        if (!seen_.emplace(left).second)
-            return doubleColor;
-        book_.colors.push_back({std::wstring(left), static_cast<std::uint8_t>(*rgb >> 16),
+            return fill(texts::colorBookBadColor);
+        const auto [earlier, added] = lines_.try_emplace(ZrString(left), number);
+        if (!added)
+            return fill(texts::colorBookColorTwice, left, earlier->second);
+        book_.colors.push_back({ZrString(left), static_cast<std::uint8_t>(*rgb >> 16),
                                 static_cast<std::uint8_t>(*rgb >> 8 & 0xFF), static_cast<std::uint8_t>(*rgb & 0xFF)});
-        return nullptr;
+        return std::nullopt;
     }
 
     ColorBook book_;
-    std::unordered_set<std::wstring, FoldedHash, FoldedEqual> seen_;
+    std::unordered_map<ZrString, std::size_t, FoldedHash, FoldedEqual> lines_; // on which each colour stands
 };
 
-// The text of a file; nothing when it cannot be read.
+// The text of a file; nothing, and errno, when it cannot be read.
 std::optional<std::string> readFile(const fs::path& file) {
+    errno = 0;
     std::ifstream stream(file, std::ios::binary);
     std::string bytes{std::istreambuf_iterator<char>(stream), {}};
     if (!stream)
@@ -126,14 +114,14 @@ std::vector<fs::path> bookFiles(const fs::path& folder, std::vector<ColorBookErr
             files.push_back(it->path());
     }
     if (failure && failure != std::errc::no_such_file_or_directory)
-        errors.push_back({folder, 0, std::wstring(cannotRead) + L": " + fromUtf8(failure.message())});
+        errors.push_back({folder, 0, fill(texts::colorBookFolderNotRead, systemErrorText(failure.value()))});
     std::sort(files.begin(), files.end());
     return files;
 }
 
 struct HostBooks {
-    std::optional<fs::path> folder;
-    std::optional<ColorBooks> books;
+    std::vector<fs::path> folders;
+    std::optional<ColorBooks> books; // nothing: not asked for yet
 };
 
 HostBooks& hostBooks() {
@@ -149,40 +137,40 @@ const BookColor* ColorBook::find(std::wstring_view colorName) const {
     return it == colors.end() ? nullptr : &*it;
 }
 
-std::wstring ColorBookError::message() const {
-    std::wstring text = fromUtf8(file.native());
-    if (line != 0)
-        text += L", line " + std::to_wstring(line);
-    return text + L": " + reason;
+ZrString ColorBookError::message() const {
+    const ZrString name = fromUtf8(file.native());
+    return line > 0 ? fill(texts::colorBookLineProblem, name, line, reason)
+                    : fill(texts::colorBookFileProblem, name, reason);
 }
 
 std::optional<ColorBook> parseColorBook(std::string_view utf8, ColorBookError& error) {
     BookParser parser;
-    std::size_t lineNumber = 0;
-    const auto refuse = [&](std::size_t line, const wchar_t* reason) {
+    std::size_t number = 0;
+    const auto refuse = [&](std::size_t line, ZrString reason) {
         error.line = line;
-        error.reason = reason;
+        error.reason = std::move(reason);
         return std::nullopt;
     };
     for (std::size_t at = 0; at < utf8.size();) {
         const std::size_t end = std::min(utf8.find('\n', at), utf8.size());
         const std::string_view line = utf8.substr(at, end - at);
-        ++lineNumber;
+        ++number;
         if (!isValidUtf8(line))
-            return refuse(lineNumber, noUtf8);
-        if (const wchar_t* reason = parser.take(fromUtf8(line)))
-            return refuse(lineNumber, reason);
+            return refuse(number, fill(texts::colorBookNotUtf8));
+        if (Complaint complaint = parser.take(fromUtf8(line), number))
+            return refuse(number, std::move(*complaint));
         at = end + 1;
     }
-    if (const wchar_t* reason = parser.finish())
-        return refuse(0, reason);
+    if (Complaint complaint = parser.finish())
+        return refuse(0, std::move(*complaint));
     return parser.result();
 }
 
-ColorBooks ColorBooks::load(const fs::path& folder) {
+ColorBooks ColorBooks::load(const std::vector<fs::path>& folders) {
     ColorBooks books;
-    for (const fs::path& file : bookFiles(folder, books.errors_))
-        books.add(file);
+    for (const fs::path& folder : folders)
+        for (const fs::path& file : bookFiles(folder, books.errors_))
+            books.add(file);
     std::sort(books.books_.begin(), books.books_.end(),
               [](const ColorBook& a, const ColorBook& b) { return compareFolded(a.name, b.name) < 0; });
     return books;
@@ -191,20 +179,18 @@ ColorBooks ColorBooks::load(const fs::path& folder) {
 void ColorBooks::add(const fs::path& file) {
     ColorBookError error{file, 0, {}};
     const auto bytes = readFile(file);
-    if (!bytes) {
-        error.reason = cannotRead;
+    auto book = bytes ? parseColorBook(*bytes, error) : std::nullopt;
+    if (!bytes)
+        error.reason = fill(texts::colorBookNotRead, systemErrorText(errno));
+    const ColorBook* const earlier = book ? find(book->name) : nullptr;
+    if (earlier != nullptr)
+        error.reason = fill(texts::colorBookTwice, earlier->name, fromUtf8(earlier->file.native()));
+    if (!book || earlier != nullptr) {
         errors_.push_back(std::move(error));
         return;
     }
-    auto book = parseColorBook(*bytes, error);
-    if (book && find(book->name) != nullptr) {
-        error.reason = doubleBook;
-        book.reset();
-    }
-    if (book)
-        books_.push_back(std::move(*book));
-    else
-        errors_.push_back(std::move(error));
+    book->file = file;
+    books_.push_back(std::move(*book));
 }
 
 const ColorBook* ColorBooks::find(std::wstring_view bookName) const {
@@ -213,22 +199,18 @@ const ColorBook* ColorBooks::find(std::wstring_view bookName) const {
     return it == books_.end() ? nullptr : &*it;
 }
 
-fs::path defaultColorBookFolder() {
-    const char* resources = std::getenv("QUOR_RESOURCES");
-    if (resources != nullptr && *resources != '\0')
-        return fs::path(resources) / "colorbooks";
-    return sys::programFolder() / ".." / "share" / "quor" / "colorbooks";
-}
-
 const ColorBooks& colorBooks() {
     HostBooks& host = hostBooks();
-    if (!host.books)
-        host.books = ColorBooks::load(host.folder ? *host.folder : defaultColorBookFolder());
+    if (!host.books) {
+        host.books = ColorBooks::load(host.folders);
+        for (const ColorBookError& error : host.books->errors())
+            printText(L"\n" + error.message());
+    }
     return *host.books;
 }
 
-void setColorBookFolder(const fs::path& folder) {
-    hostBooks().folder = folder;
+void setColorBookFolders(std::vector<fs::path> folders) {
+    hostBooks().folders = std::move(folders);
     hostBooks().books.reset();
 }
 

@@ -4,22 +4,24 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
+
+#include "sdk/sys/string.h"
 
 namespace quor::cm {
 
 struct BookColor {
-    std::wstring name;
+    ZrString name;
     std::uint8_t red = 0;
     std::uint8_t green = 0;
     std::uint8_t blue = 0;
 };
 
 struct ColorBook {
-    std::wstring name;
+    ZrString name;
     std::vector<BookColor> colors; // in the order of the file
+    std::filesystem::path file;    // from which it was loaded
 
     // Without regard to case; null when the book has no such colour.
     [[nodiscard]] const BookColor* find(std::wstring_view colorName) const;
@@ -28,21 +30,21 @@ struct ColorBook {
 struct ColorBookError {
     std::filesystem::path file; // or the folder, when that could not be listed
     std::size_t line = 0;       // from 1; 0 when the whole file is meant
-    std::wstring reason;
+    ZrString reason;
 
-    // "file, line n: reason".
-    [[nodiscard]] std::wstring message() const;
+    // One line for people: file, line, reason, and that it was left out.
+    [[nodiscard]] ZrString message() const;
 };
 
 // One book from the text of a file: a line `book = "Name"` first, then lines `colour name = r,g,b`; blank lines and
 // lines that begin with # are skipped. Empty and `error` (line and reason) for a text that breaks a rule.
 [[nodiscard]] std::optional<ColorBook> parseColorBook(std::string_view utf8, ColorBookError& error);
 
-// All books of one folder (files *.book), sorted by name. A book that is broken, or has the name of another, is
-// reported and left out; a folder that does not exist holds no books.
+// All books of some folders (files *.book), sorted by name. A book that is broken, or has the name of one before it, is
+// kept as an error and left out; a folder that does not exist holds no books.
 class ColorBooks {
 public:
-    [[nodiscard]] static ColorBooks load(const std::filesystem::path& folder);
+    [[nodiscard]] static ColorBooks load(const std::vector<std::filesystem::path>& folders);
 
     [[nodiscard]] const std::vector<ColorBook>& books() const { return books_; }
     [[nodiscard]] const std::vector<ColorBookError>& errors() const { return errors_; }
@@ -56,12 +58,9 @@ private:
     std::vector<ColorBookError> errors_;
 };
 
-// $QUOR_RESOURCES/colorbooks when that variable is set, else ../share/quor/colorbooks from the program's folder.
-[[nodiscard]] std::filesystem::path defaultColorBookFolder();
-
-// The books of the host, loaded at the first use from the folder set before, else from the default one.
+// The books of the host, loaded at the first use; what is wrong with them is then told on the command line.
 [[nodiscard]] const ColorBooks& colorBooks();
-// Takes another folder from now on.
-void setColorBookFolder(const std::filesystem::path& folder);
+// Where they are loaded from, from now on; the books of an earlier folder come first. None unless set.
+void setColorBookFolders(std::vector<std::filesystem::path> folders);
 
 } // namespace quor::cm

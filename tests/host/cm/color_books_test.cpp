@@ -1,5 +1,6 @@
 #include "host/cm/color_books.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <string>
@@ -87,7 +88,7 @@ TEST_F(BookFolder, BrokenAndDoubleBooksAreReportedAndTheOthersLoadSorted) {
     write("3.book", "book = \"ZEBRA\"\na = 4,5,6\n");
     write("4.book", "book = \"Banana\"\na = 7,8,9\n");
     write("notes.txt", "no book");
-    const ColorBooks books = ColorBooks::load(folder_);
+    const ColorBooks books = ColorBooks::load({folder_});
     ASSERT_EQ(books.books().size(), 2U);
     EXPECT_EQ(books.books()[0].name, L"Banana");
     EXPECT_EQ(books.books()[1].name, L"zebra");
@@ -95,25 +96,50 @@ TEST_F(BookFolder, BrokenAndDoubleBooksAreReportedAndTheOthersLoadSorted) {
     ASSERT_EQ(books.errors().size(), 2U);
     EXPECT_EQ(books.errors()[0].file, folder_ / "2.book");
     EXPECT_EQ(books.errors()[0].line, 2U);
-    EXPECT_NE(books.errors()[0].message().find(L"2.book, line 2: "), std::wstring::npos);
+    EXPECT_NE(books.errors()[0].message().find(L"2.book，第 2 行: "), std::wstring::npos);
     EXPECT_EQ(books.errors()[1].file, folder_ / "3.book");
+    EXPECT_NE(books.errors()[1].message().find(L"3.book: 配色系统“zebra”已由 "), std::wstring::npos);
+}
+
+TEST_F(BookFolder, ABookOfAnEarlierFolderIsNotReplacedByOneOfTheSameName) {
+    fs::create_directory(folder_ / "own");
+    write("1.book", "book = \"Apple\"\na = 1,2,3\n");
+    write("own/1.book", "book = \"apple\"\na = 4,5,6\n");
+    write("own/2.book", "book = \"Quince\"\na = 7,8,9\n");
+    const ColorBooks books = ColorBooks::load({folder_, folder_ / "own"});
+    ASSERT_EQ(books.books().size(), 2U);
+    EXPECT_EQ(books.find(L"Apple")->find(L"a")->red, 1);
+    EXPECT_EQ(books.find(L"Apple")->file, folder_ / "1.book");
+    EXPECT_EQ(books.find(L"Quince")->find(L"a")->red, 7);
+    ASSERT_EQ(books.errors().size(), 1U);
+    EXPECT_EQ(books.errors()[0].file, folder_ / "own" / "1.book");
+}
+
+TEST_F(BookFolder, AColourGivenTwiceIsToldWithTheLineOfTheFirst) {
+    write("1.book", "book = \"Apple\"\n\nRed = 1,2,3\nRED = 1,2,3\n");
+    const ColorBooks books = ColorBooks::load({folder_});
+    ASSERT_EQ(books.errors().size(), 1U);
+    EXPECT_EQ(books.errors()[0].line, 4U);
+    EXPECT_EQ(books.errors()[0].reason, L"颜色“RED”已出现在第 3 行");
 }
 
 TEST_F(BookFolder, AFolderThatDoesNotExistHoldsNoBooks) {
-    const ColorBooks books = ColorBooks::load(folder_ / "none");
+    const ColorBooks books = ColorBooks::load({folder_ / "none"});
     EXPECT_TRUE(books.books().empty());
     EXPECT_TRUE(books.errors().empty());
 }
 
 TEST_F(BookFolder, AFileInPlaceOfTheFolderIsReported) {
     write("plain", "");
-    const ColorBooks books = ColorBooks::load(folder_ / "plain");
+    const ColorBooks books = ColorBooks::load({folder_ / "plain"});
     EXPECT_TRUE(books.books().empty());
-    EXPECT_EQ(books.errors().size(), 1U);
+    ASSERT_EQ(books.errors().size(), 1U);
+    EXPECT_EQ(books.errors()[0].line, 0U);
+    EXPECT_NE(books.errors()[0].message().find(L"plain: 无法列出文件夹("), std::wstring::npos);
 }
 
 TEST(ShippedBooks, LoadWithoutErrorAndComplete) {
-    const ColorBooks books = ColorBooks::load(shipped);
+    const ColorBooks books = ColorBooks::load({shipped});
     EXPECT_TRUE(books.errors().empty());
     ASSERT_NE(books.find(L"web colors"), nullptr);
     EXPECT_EQ(books.find(L"Web Colors")->colors.size(), 148U);
@@ -121,8 +147,23 @@ TEST(ShippedBooks, LoadWithoutErrorAndComplete) {
     EXPECT_EQ(books.find(L"Neutral Greys")->find(L"Grey 50")->green, 128);
 }
 
+bool isNeutral(const quor::cm::BookColor& color) { return color.red == color.green && color.green == color.blue; }
+
+bool isDarker(const quor::cm::BookColor& a, const quor::cm::BookColor& b) { return a.red < b.red; }
+
+TEST(ShippedBooks, TheGreysAreNeutralAndRiseFromBlackToWhite) {
+    const ColorBooks books = ColorBooks::load({shipped});
+    ASSERT_NE(books.find(L"Neutral Greys"), nullptr);
+    const auto& greys = books.find(L"Neutral Greys")->colors;
+    EXPECT_EQ(greys.size(), 21U);
+    EXPECT_TRUE(std::all_of(greys.begin(), greys.end(), isNeutral));
+    EXPECT_TRUE(std::is_sorted(greys.begin(), greys.end(), isDarker));
+    EXPECT_EQ(greys.front().red, 0);
+    EXPECT_EQ(greys.back().red, 255);
+}
+
 TEST(ColorBookName, GivesTheColourWithTheNamesAsTheBookSpellsThem) {
-    quor::cm::setColorBookFolder(shipped);
+    quor::cm::setColorBookFolders({shipped});
     ZrCmColor color;
     EXPECT_EQ(zrcmGetColorFromColorBookName(color, L"WEB colors", L"Tomato"), Quor::eOk);
     EXPECT_EQ(color.rgb(), 0xFF6347U);
@@ -130,7 +171,7 @@ TEST(ColorBookName, GivesTheColourWithTheNamesAsTheBookSpellsThem) {
 }
 
 TEST(ColorBookName, AnUnknownBookOrColourLeavesTheColourAlone) {
-    quor::cm::setColorBookFolder(shipped);
+    quor::cm::setColorBookFolders({shipped});
     ZrCmColor color = ZrCmColor::fromIndex(3);
     EXPECT_EQ(zrcmGetColorFromColorBookName(color, L"No Book", L"tomato"), Quor::eInvalidInput);
     EXPECT_EQ(zrcmGetColorFromColorBookName(color, L"Web Colors", L"potato"), Quor::eInvalidInput);
@@ -141,7 +182,7 @@ TEST(ColorBookName, AnUnknownBookOrColourLeavesTheColourAlone) {
 }
 
 TEST(ColorBookName, BothListsOfBooksAreReplaced) {
-    quor::cm::setColorBookFolder(shipped);
+    quor::cm::setColorBookFolders({shipped});
     std::vector<ZrString> names{L"old"};
     std::vector<ZrString> displayNames{L"old"};
     EnumBookNames(names, displayNames);
@@ -149,12 +190,10 @@ TEST(ColorBookName, BothListsOfBooksAreReplaced) {
     EXPECT_EQ(displayNames, names);
 }
 
-TEST(ColorBookFolder, FollowsTheResourceVariable) {
-    ::setenv("QUOR_RESOURCES", "/some/where", 1);
-    EXPECT_EQ(quor::cm::defaultColorBookFolder(), fs::path("/some/where/colorbooks"));
-    ::unsetenv("QUOR_RESOURCES");
-    EXPECT_EQ(quor::cm::defaultColorBookFolder().filename(), "colorbooks");
-    EXPECT_TRUE(quor::cm::defaultColorBookFolder().is_absolute());
+TEST(ColorBookName, WithoutFoldersThereAreNoBooks) {
+    quor::cm::setColorBookFolders({});
+    EXPECT_TRUE(quor::cm::colorBooks().books().empty());
+    EXPECT_TRUE(quor::cm::colorBooks().errors().empty());
 }
 
 } // namespace

@@ -1,0 +1,30 @@
+// What the host says of colour books.
+#pragma once
+
+#include "host/texts/text.h"
+
+namespace quor::texts {
+
+inline constexpr Text colorBookLineProblem{L"%s，第 %d 行: %s。已忽略整个文件。",
+                                           L"%s, line %d: %s. The whole file was left out."};
+inline constexpr Text colorBookFileProblem{L"%s: %s。已忽略。", L"%s: %s. It was left out."};
+inline constexpr Text colorBookFolderNotRead{L"无法列出文件夹(%s)", L"the folder cannot be listed (%s)"};
+inline constexpr Text colorBookNotRead{L"无法读取文件(%s)", L"the file cannot be read (%s)"};
+inline constexpr Text colorBookNotUtf8{L"该行不是 UTF-8 文本", L"the line is no UTF-8 text"};
+inline constexpr Text colorBookNoName{L"第一个条目应为 book = \"名称\"", L"the line book = \"name\" has to come first"};
+inline constexpr Text colorBookSecondName{L"book 行只能出现一次", L"there may be one book line only"};
+inline constexpr Text colorBookBadName{
+    L"配色系统名称应加双引号，长 4 到 131 个字符，不含 $ 和双引号，首尾没有空格",
+    L"the name of a book stands in double quotes and has 4 to 131 characters, no $, no double quotes and no blanks at "
+    L"its ends"};
+inline constexpr Text colorBookNoEquals{L"应为 颜色名称 = r,g,b", L"colour name = r,g,b is expected"};
+inline constexpr Text colorBookBadColorName{L"颜色名称应为 1 到 131 个字符，不含 $",
+                                            L"the name of a colour has 1 to 131 characters and no $"};
+inline constexpr Text colorBookBadColor{L"颜色应为 r,g,b，每个数为 0 到 255 的整数",
+                                        L"a colour is r,g,b, whole numbers from 0 to 255"};
+inline constexpr Text colorBookColorTwice{L"颜色“%s”已出现在第 %d 行",
+                                          L"the colour \"%s\" was given in line %d already"};
+inline constexpr Text colorBookEmpty{L"其中没有颜色", L"it holds no colour"};
+inline constexpr Text colorBookTwice{L"配色系统“%s”已由 %s 提供", L"the colour book \"%s\" was given by %s already"};
+
+} // namespace quor::texts
