@@ -1,9 +1,5 @@
 #include "host/commands/ask.h"
 
-#include "host/sys/utf8.h"
-
-#include <cstdlib>
-
 namespace quor::commands {
 
 namespace {
@@ -53,19 +49,5 @@ int askUntilTaken(const ZrString& prompt, const std::function<bool(const ZrStrin
             return RTNORM;
     }
 }
-
-std::filesystem::path pathFromText(const ZrString& text) {
-    ZrString plain = trimmed(text);
-    const bool quoted =
-        plain.size() >= 2 && (plain.front() == L'"' || plain.front() == L'\'') && plain.back() == plain.front();
-    if (quoted)
-        plain = plain.substr(1, plain.size() - 2);
-    const char* home = std::getenv("HOME");
-    if (home != nullptr && plain.starts_with(L"~/"))
-        return std::filesystem::path(home) / toUtf8(std::wstring_view(plain).substr(2));
-    return std::filesystem::path(toUtf8(plain));
-}
-
-ZrString textOf(const std::filesystem::path& path) { return fromUtf8(path.native()); }
 
 } // namespace quor::commands

@@ -1,11 +1,11 @@
 // The questions that several commands ask, on top of the get functions.
 #pragma once
 
+#include "host/sys/path_text.h"
 #include "host/sys/visible_text.h"
 #include "host/texts/text.h"
 #include "sdk/ed/get.h"
 
-#include <filesystem>
 #include <functional>
 #include <optional>
 #include <type_traits>
@@ -52,9 +52,5 @@ template <class... Args>
 // Asks for a text (askLine) until `take` answers true; it says itself why it did not. Enter leaves all as it is.
 // RTNORM, or RTCAN for Esc.
 [[nodiscard]] int askUntilTaken(const ZrString& prompt, const std::function<bool(const ZrString&)>& take);
-
-// A path as people type or paste it: without blanks and quotation marks around it, "~/" for the home folder.
-[[nodiscard]] std::filesystem::path pathFromText(const ZrString& text);
-[[nodiscard]] ZrString textOf(const std::filesystem::path& path);
 
 } // namespace quor::commands

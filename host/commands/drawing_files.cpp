@@ -15,12 +15,6 @@ namespace {
 
 constexpr std::size_t kProblemsShown = 20;
 
-// Drawings keep whole paths, so that they stay true when the current folder changes.
-fs::path absolutePath(const fs::path& path) {
-    std::error_code error;
-    return fs::absolute(path, error).lexically_normal();
-}
-
 ZrString versionText(const ZrString& version) {
     const auto* release = std::ranges::find_if(texts::kReleases, [&](const auto& r) { return version == r.version; });
     return release == std::end(texts::kReleases) ? version : version + L" (" + release->name + L")";

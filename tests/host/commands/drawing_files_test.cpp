@@ -267,26 +267,6 @@ TEST_F(FileCommands, AModuleThatIsNotThereFailsAndSaysWhich) {
     EXPECT_TRUE(host.front().shows(L"none.so"));
 }
 
-TEST(PathFromText, TakesBlanksAndQuotationMarksOff) {
-    EXPECT_EQ(commands::pathFromText(L"  a b.dxf \t"), fs::path("a b.dxf"));
-    EXPECT_EQ(commands::pathFromText(L"\"a b.dxf\""), fs::path("a b.dxf"));
-    EXPECT_EQ(commands::pathFromText(L"'a.dxf'"), fs::path("a.dxf"));
-}
-
-TEST(PathFromText, AQuotationMarkOnOneSideBelongsToTheName) {
-    EXPECT_EQ(commands::pathFromText(L"\"a.dxf"), fs::path("\"a.dxf"));
-    EXPECT_EQ(commands::pathFromText(L"\""), fs::path("\""));
-}
-
-TEST(PathFromText, KeepsChineseNames) { EXPECT_EQ(commands::pathFromText(L"办公室.dxf").native(), "办公室.dxf"); }
-
-TEST(PathFromText, ATildeBeforeASlashIsTheHomeFolder) {
-    const char* home = std::getenv("HOME");
-    ASSERT_NE(home, nullptr);
-    EXPECT_EQ(commands::pathFromText(L"~/a.dxf"), fs::path(home) / "a.dxf");
-    EXPECT_EQ(commands::pathFromText(L"~a.dxf"), fs::path("~a.dxf"));
-}
-
 } // namespace
 
 } // namespace quor
