@@ -2,7 +2,7 @@
 
 #include "host/ed/input_stack.h"
 #include "host/session.h"
-#include "host/texts/console.h"
+#include "host/ui/file_dialog_text.h"
 #include "host/ui/task_dialog_text.h"
 
 namespace quor::console {
@@ -62,16 +62,8 @@ TaskDialogAnswer ConsoleFrontEnd::showTaskDialog(const CZrUiTaskDialog& dialog) 
         [](const Question& question) { return Session::current().input().ask(question); });
 }
 
-std::optional<ZrString> ConsoleFrontEnd::chooseFile(const FileQuestion& file) {
-    const ZrString prompt = fill(texts::console::kFilePrompt, file.caption, file.filterPattern);
-    Question question;
-    question.kind = Question::Kind::Text;
-    question.prompt = prompt;
-    question.acceptsBlanks = true;
-    const Answer answer = Session::current().input().ask(question);
-    if (answer.kind != Answer::Kind::Text)
-        return std::nullopt;
-    return answer.text;
+FileAnswer ConsoleFrontEnd::chooseFile(const FileQuestion& file) {
+    return ui::askFile(file, [](const Question& question) { return Session::current().input().ask(question); });
 }
 
 } // namespace quor::console

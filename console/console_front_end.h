@@ -23,8 +23,7 @@ public:
     // There is nothing to point with: a drag is a question for a point.
     Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) override;
     TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) override;
-    // Asks for the path, blanks included.
-    std::optional<ZrString> chooseFile(const FileQuestion& question) override;
+    FileAnswer chooseFile(const FileQuestion& question) override;
     void progress(std::wstring_view what, double fraction) override { progress_.update(what, fraction); }
 
 private:

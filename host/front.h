@@ -45,10 +45,22 @@ struct TaskDialogAnswer {
 
 // A file that is to be chosen.
 struct FileQuestion {
+    struct Filter {
+        ZrString name;    // "IES"
+        ZrString pattern; // "*.ies"
+    };
     ZrString caption;
-    ZrString filterName;    // "IES"
-    ZrString filterPattern; // "*.ies"
+    std::vector<Filter> filters; // the first one holds until another is chosen
+    ZrString initialName;
     bool forSaving = false;
+    bool previews = false;       // a pane shows what the file under the cursor holds
+    bool offersReadOnly = false; // a box asks whether the file is only to be read
+};
+
+// The whole path of the file; empty when it was cancelled.
+struct FileAnswer {
+    std::optional<ZrString> file;
+    bool inputEnded = false; // cancelled because there is no more input
 };
 
 // Protocol of a question: print() its prompt is the front end's business inside ask(); the host prints everything else.
@@ -65,8 +77,7 @@ public:
     // As ask(), with each point that passes under the cursor (world coordinates) told on the way.
     virtual Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) = 0;
     virtual TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) = 0;
-    // Empty when cancelled.
-    virtual std::optional<ZrString> chooseFile(const FileQuestion& question) = 0;
+    virtual FileAnswer chooseFile(const FileQuestion& question) = 0;
     // Something that is shown has changed.
     virtual void redraw() {}
     // How far something long has come, 0 to 1; 1 takes the display away.

@@ -12,7 +12,7 @@ public:
     void echo(const Question&, std::wstring_view) override {}
     Answer drag(const Question&, const std::function<void(const ZrGePoint3d&)>&) override { return {}; }
     TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog&) override { return {}; }
-    std::optional<ZrString> chooseFile(const FileQuestion&) override { return std::nullopt; }
+    FileAnswer chooseFile(const FileQuestion&) override { return {}; }
 };
 
 } // namespace quor::bench

@@ -2,7 +2,9 @@
 #include "host/commands/commands.h"
 #include "host/commands/drawing_files.h"
 #include "host/session.h"
+#include "host/sys/utf8.h"
 #include "host/texts/files.h"
+#include "host/ui/file_dialog.h"
 #include "sdk/rx/command.h"
 
 namespace quor::commands {
@@ -18,11 +20,11 @@ int askAndOpen(Session& session, const Text& prompt, const Text& caption, bool r
         return openPath(session, pathFromText(*answer), recover);
     if (RxCommand::isCalledByCommand())
         return RTCAN;
-    const FileQuestion question{caption.get(), texts::kDxfFiles.get(), L"*.dxf", false};
-    const std::optional<ZrString> chosen = session.front().chooseFile(question);
-    if (!chosen || chosen->empty())
-        return RTCAN;
-    return openPath(session, pathFromText(*chosen), recover);
+    FileQuestion question;
+    question.caption = caption.get();
+    question.filters = {{texts::kDxfFiles.get(), L"*.dxf"}};
+    const std::optional<ZrString> chosen = ui::chooseFile(session, question);
+    return chosen ? openPath(session, toUtf8(*chosen), recover) : RTCAN;
 }
 
 } // namespace

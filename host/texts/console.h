@@ -146,7 +146,6 @@ inline constexpr Text kUnsavedEnd{L"\n图形有未保存的更改: 用 SAVE 保�
 inline constexpr Text kRecovered{L"\n图形 %s 有 %d 个问题，其余部分已保留:\n",
                                  L"\nThe drawing %s has %d problems; the rest was kept:\n"};
 inline constexpr Text kSaved{L"\n图形已保存到 %s。\n", L"\nThe drawing was saved to %s.\n"};
-inline constexpr Text kFilePrompt{L"\n%s(%s)，输入路径: ", L"\n%s (%s), path: "};
 
 // Progress.
 inline constexpr Text kProgressScript{L"正在执行 %s", L"Running %s"};

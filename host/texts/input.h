@@ -72,6 +72,9 @@ inline constexpr Text kDialogPrompt{L"\n请选择 [1-%d] <1>: ", L"\nChoose [1-%
 inline constexpr Text kDialogBadAnswer{L"\n请输入 1 到 %d 的编号，Esc 取消。\n",
                                        L"\nType a number from 1 to %d, or press Esc to cancel.\n"};
 
+// Choosing a file where there are no windows: caption, patterns.
+inline constexpr Text kFilePrompt{L"\n%s (%s)，输入路径 <取消>: ", L"\n%s (%s), path <cancel>: "};
+
 // Scripts.
 inline constexpr Text kScriptPlace{L"%s，第 %d 行", L"%s, line %d"};
 inline constexpr Text kScriptIsFolder{L"“%s”是文件夹，不是脚本文件。", L"\"%s\" is a folder, not a script file."};

@@ -1,5 +1,6 @@
 #include "tests/support/scripted_front_end.h"
 
+#include "host/ui/file_dialog_text.h"
 #include "host/ui/task_dialog_text.h"
 
 namespace quor::test {
@@ -85,9 +86,11 @@ TaskDialogAnswer ScriptedFrontEnd::showTaskDialog(const CZrUiTaskDialog& dialog)
         [this](const Question& question) { return ask(question); });
 }
 
-std::optional<ZrString> ScriptedFrontEnd::chooseFile(const FileQuestion&) {
-    const auto file = takeFirst(files_);
-    return file ? *file : std::nullopt;
+FileAnswer ScriptedFrontEnd::chooseFile(const FileQuestion& question) {
+    lastFileQuestion_ = question;
+    if (std::optional<std::optional<ZrString>> ready = takeFirst(files_))
+        return {std::move(*ready), false};
+    return ui::askFile(question, [this](const Question& asked) { return ask(asked); });
 }
 
 } // namespace quor::test

@@ -23,7 +23,7 @@ public:
     void breakInput() { lines_.emplace_back(Break{}); }
     // Answers the next task dialog directly; without one it is answered by what is typed.
     void answerDialog(const TaskDialogAnswer& answer) { dialogAnswers_.push_back(answer); }
-    // The file that is chosen next.
+    // The file that is chosen next; none: cancelled. Without one the path is typed.
     void choose(std::optional<ZrString> file) { files_.push_back(std::move(file)); }
 
     // Everything that a screen would show: prompts with their answers, messages.
@@ -37,6 +37,8 @@ public:
     [[nodiscard]] std::optional<ZrGePoint3d> lastBase() const { return lastBase_; }
     // The task dialog that was shown last, as it was asked for.
     [[nodiscard]] const std::optional<CZrUiTaskDialog>& lastDialog() const { return lastDialog_; }
+    // The file that was to be chosen last, as it was asked for.
+    [[nodiscard]] const std::optional<FileQuestion>& lastFileQuestion() const { return lastFileQuestion_; }
     [[nodiscard]] std::size_t linesLeft() const { return lines_.size(); }
 
     void print(std::wstring_view text) override;
@@ -44,7 +46,7 @@ public:
     void echo(const Question& question, std::wstring_view answer) override;
     Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) override;
     TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) override;
-    std::optional<ZrString> chooseFile(const FileQuestion& question) override;
+    FileAnswer chooseFile(const FileQuestion& question) override;
 
 private:
     struct Break {};
@@ -58,6 +60,7 @@ private:
 
     std::deque<std::variant<ZrString, Pick, Break>> lines_;
     std::optional<CZrUiTaskDialog> lastDialog_;
+    std::optional<FileQuestion> lastFileQuestion_;
     std::deque<TaskDialogAnswer> dialogAnswers_;
     std::deque<std::optional<ZrString>> files_;
     ZrString screen_;

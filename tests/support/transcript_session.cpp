@@ -9,6 +9,7 @@
 #include "host/session.h"
 #include "host/sys/system_variables.h"
 #include "host/sys/utf8.h"
+#include "host/ui/file_dialog_text.h"
 #include "host/ui/task_dialog_text.h"
 #include "sdk/db/database.h"
 #include "sdk/db/light.h"
@@ -55,13 +56,8 @@ public:
             dialog, [this](std::wstring_view text) { print(text); },
             [this](const Question& question) { return ask(question); });
     }
-    std::optional<ZrString> chooseFile(const FileQuestion& file) override {
-        Question question;
-        const ZrString prompt = L"\n" + file.caption + L": ";
-        question.prompt = prompt;
-        question.acceptsBlanks = true;
-        const Answer answer = ask(question);
-        return answer.kind == Answer::Kind::Text ? std::optional(answer.text) : std::nullopt;
+    FileAnswer chooseFile(const FileQuestion& file) override {
+        return ui::askFile(file, [this](const Question& question) { return ask(question); });
     }
 
 private:
