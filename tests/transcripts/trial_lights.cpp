@@ -42,9 +42,10 @@ protected:
     ZrString& defaultNamePrefix(ZrString& out) override { return out = kind_.namePrefix; }
     int optionLoop() override {
         static constexpr LightOption options[] = {
-            {L"Name", ask<&TrialLight::promptName>},     {L"Photometry", ask<&TrialLight::promptPhotometry>, true},
-            {L"shadoW", ask<&TrialLight::promptShadow>}, {L"Attenuation", ask<&TrialLight::promptAttenuation>},
-            {L"Color", ask<&TrialLight::promptColor>},   {L"filterColor", ask<&TrialLight::promptColor>},
+            {L"Name", ask<&TrialLight::promptName>},         {L"Photometry", ask<&TrialLight::promptPhotometry>, true},
+            {L"shadoW", ask<&TrialLight::promptShadow>},     {L"Attenuation", ask<&TrialLight::promptAttenuation>},
+            {L"weB", ask<&TrialLight::promptWeb>},           {L"Color", ask<&TrialLight::promptColor>},
+            {L"filterColor", ask<&TrialLight::promptColor>},
         };
         return runOptionLoop({
             .standardPrompt = kind_.prompt,
