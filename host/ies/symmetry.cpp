@@ -68,6 +68,8 @@ bool lacksPlanes(const PhotometricWeb& web) {
 }
 
 double foldedHorizontal(const PhotometricWeb& web, double horizontal) {
+    if (horizontal >= web.horizontal.front() && horizontal <= web.horizontal.back())
+        return horizontal;
     const double around = aroundOnce(horizontal);
     const double fromZero = std::min(around, kCircle - around);
     switch (web.symmetry) {
@@ -83,10 +85,8 @@ double foldedHorizontal(const PhotometricWeb& web, double horizontal) {
     case Symmetry::None:
         break;
     }
-    // The same direction by its other name, where the planes use that one.
-    if (around > web.horizontal.back())
-        return around - kCircle;
-    return around < web.horizontal.front() ? around + kCircle : around;
+    // The same direction by the name that the planes use for it.
+    return around > web.horizontal.back() ? around - kCircle : around;
 }
 
 } // namespace quor::ies
