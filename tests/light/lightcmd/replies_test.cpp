@@ -21,5 +21,21 @@ TEST(CheckReplyLength, OtherResultsStay) {
     EXPECT_EQ(checkReplyLength(RTERROR, L"abc"), RTERROR);
 }
 
+TEST(CutTo, ALongerReplyLosesWhatIsBehindTheLimit) {
+    ZrString reply = L"abcd";
+
+    cutTo(reply, 3);
+
+    EXPECT_EQ(reply, L"abc");
+}
+
+TEST(CutTo, AReplyWithinTheLimitStays) {
+    ZrString reply = L"abc";
+
+    cutTo(reply, 3);
+
+    EXPECT_EQ(reply, L"abc");
+}
+
 } // namespace
 } // namespace quor::light
