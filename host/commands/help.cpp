@@ -48,6 +48,9 @@ void showPage(Session& session, const HelpPage& page) {
     printText(text);
 }
 
+// Empty for a command whose module gave none.
+ZrString pageOf(const ed::Command& command) { return command.help ? command.help() : ZrString(); }
+
 ZrString firstLine(const ZrString& page) { return page.substr(0, page.find(L'\n')); }
 
 void showHostCommands() {
@@ -74,7 +77,7 @@ void showModuleCommands(const ed::CommandTable& commands) {
         const ZrString name =
             hasLocalName ? command->globalName + L" (" + command->localName + L")" : command->globalName;
         width = std::max(width, columnsOf(name));
-        rows.emplace_back(name, firstLine(command->help));
+        rows.emplace_back(name, firstLine(pageOf(*command)));
     }
     if (!rows.empty())
         printText(ZrString(L"\n") + texts::kHelpModuleCommands.get() + L"\n");
@@ -83,9 +86,10 @@ void showModuleCommands(const ed::CommandTable& commands) {
 }
 
 void showModuleCommand(const ed::Command& command) {
-    if (command.help.empty())
+    const ZrString page = pageOf(command);
+    if (page.empty())
         return say(texts::kHelpModulePage, command.globalName);
-    printText(ZrString(L"\n") + command.globalName + L"\n" + indented(command.help) + L"\n");
+    printText(ZrString(L"\n") + command.globalName + L"\n" + indented(page) + L"\n");
 }
 
 int showCommand(Session& session, const ZrString& name) {

@@ -3,6 +3,7 @@
 #include "host/sys/case_fold.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quor::ed {
 
@@ -60,10 +61,10 @@ bool CommandTable::add(Command command) {
     return true;
 }
 
-bool CommandTable::setHelp(const ZrString& group, const ZrString& globalName, const ZrString& page) {
+bool CommandTable::setHelp(const ZrString& group, const ZrString& globalName, std::function<ZrString()> page) {
     for (const std::unique_ptr<Command>& command : commands_)
         if (command->group == group && equalFolded(command->globalName, globalName)) {
-            command->help = page;
+            command->help = std::move(page);
             return true;
         }
     return false;

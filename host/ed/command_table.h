@@ -17,8 +17,8 @@ struct Command {
     ZrString localName;
     int flags = 0;
     std::function<int()> run;
-    bool isHost = false; // reached by a leading "."
-    ZrString help = {};  // the page that a module gave for it; the host's own have theirs in host/texts
+    bool isHost = false;                 // reached by a leading "."
+    std::function<ZrString()> help = {}; // the page that a module gave for it; the host's own have theirs in host/texts
 };
 
 inline constexpr int kTransparent = 1; // may run inside another command, with a leading "'"
@@ -40,7 +40,7 @@ public:
     // False when the group has a command of that global name.
     bool add(Command command);
     // False when the group has no such command.
-    bool setHelp(const ZrString& group, const ZrString& globalName, const ZrString& page);
+    bool setHelp(const ZrString& group, const ZrString& globalName, std::function<ZrString()> page);
     bool remove(const ZrString& group, const ZrString& globalName);
     void removeGroup(const ZrString& group);
     bool addAlias(const ZrString& alias, const ZrString& globalName);

@@ -10,6 +10,7 @@
 
 #include <exception>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -79,8 +80,8 @@ bool RxCmdManager::registerCmd2(RxCommandFactory, RxCommandEntry entry, const wc
     return true;
 }
 
-bool RxCmdManager::setHelp(const wchar_t* group, const wchar_t* globalName, const wchar_t* page) {
-    return quor::Session::exists() && quor::Session::current().commands().setHelp(group, globalName, page);
+bool RxCmdManager::setHelp(const wchar_t* group, const wchar_t* globalName, std::function<ZrString()> page) {
+    return quor::Session::exists() && quor::Session::current().commands().setHelp(group, globalName, std::move(page));
 }
 
 void RxCmdManager::cmdEntryPoint(RxCommandFactory factory) {

@@ -7,9 +7,9 @@
 namespace {
 
 void addHelp(RxCmdManager& manager) {
-    quor::light::checkTranslations();
     for (const quor::light::CommandRow& row : quor::light::commandRows())
-        manager.setHelp(quor::light::commandGroup, row.globalName, quor::light::LoadedText(row.help).c_str());
+        manager.setHelp(quor::light::commandGroup, row.globalName,
+                        [&row] { return quor::light::LoadedText(row.help).str(); });
 }
 
 } // namespace
@@ -17,6 +17,7 @@ void addHelp(RxCmdManager& manager) {
 Zr::AppRetCode CQUORCmdsApp::onInitAppMsg(void* applicationId) {
     const Zr::AppRetCode result = ZrRxZpxApp::onInitAppMsg(applicationId);
     RxCmdManager* manager = RxCmdManager::initInstance();
+    quor::light::checkKeywordTranslations();
     for (const quor::light::CommandRow& row : quor::light::commandRows()) {
         const quor::light::LoadedText localName(row.localName);
         manager->registerCmd2(row.make, row.run, quor::light::commandGroup, row.globalName, localName.c_str(), 0);

@@ -13,16 +13,27 @@ constexpr int textBufferSize = 1000;
 // Loaded together with the module, before the host sends it any message, and kept for the life of the process.
 const ZwResourceHandle keywordModule = zwLoadResourceModule(L"quorkwlres");
 
-ZwResourceHandle moduleOf(TextSource source) {
-    return source == TextSource::Keywords ? keywordModule : zwCommandLibraryResources();
-}
-
-std::vector<ZwResourceText> builtInTextsOf(TextSource source) {
-    std::vector<ZwResourceText> found;
+// Takes translations out that do not have the placeholders of the built-in texts.
+void checkTranslations(ZwResourceHandle module, TextSource source) {
+    std::vector<ZwResourceText> builtIn;
     for (const Text& text : allTexts())
         if (text.source == source)
-            found.push_back({text.number, text.builtIn});
-    return found;
+            builtIn.push_back({text.number, text.builtIn});
+    zwCheckResourceTexts(module, builtIn);
+}
+
+// Read when the first of its texts is needed: a program that is started has no use for any of them yet.
+ZwResourceHandle commandLibraryModule() {
+    static ZwResourceHandle checked = nullptr;
+    const ZwResourceHandle module = zwCommandLibraryResources();
+    if (module != nullptr && module != checked)
+        checkTranslations(module, TextSource::CommandLibrary);
+    checked = module;
+    return module;
+}
+
+ZwResourceHandle moduleOf(TextSource source) {
+    return source == TextSource::Keywords ? keywordModule : commandLibraryModule();
 }
 
 } // namespace
@@ -38,9 +49,9 @@ LoadedText::LoadedText(const Text& text) : builtIn_(text.builtIn) {
 
 void printText(const Text& text) { zrutPrintf(L"%s", LoadedText(text).c_str()); }
 
-void checkTranslations() {
-    for (const TextSource source : {TextSource::CommandLibrary, TextSource::Keywords})
-        zwCheckResourceTexts(moduleOf(source), builtInTextsOf(source));
+void checkKeywordTranslations() {
+    if (keywordModule != nullptr)
+        checkTranslations(keywordModule, TextSource::Keywords);
 }
 
 } // namespace quor::light

@@ -24,7 +24,8 @@ private:
 // Prints a text on the command line as it stands.
 void printText(const Text& text);
 
-// Takes translations out of both resource modules that do not have the placeholders of the built-in text.
-void checkTranslations();
+// Takes translations out of the keyword module that do not have the placeholders of the built-in text; called once,
+// when the module starts. The command library's are held against them when the first is needed.
+void checkKeywordTranslations();
 
 } // namespace quor::light

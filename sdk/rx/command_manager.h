@@ -1,6 +1,10 @@
 // The host's 3D command library: modules register their commands with it.
 #pragma once
 
+#include "sdk/sys/string.h"
+
+#include <functional>
+
 class RxCommand;
 
 using RxCommandFactory = RxCommand* (*)();
@@ -19,8 +23,9 @@ public:
     bool registerCmd2(RxCommandFactory factory, RxCommandEntry entry, const wchar_t* group, const wchar_t* globalName,
                       const wchar_t* localName, int flags);
     // The page that HELP shows for a registered command: what it does, what it asks, an example. Without one HELP tells
-    // only where the command comes from. False when there is no such command in the group.
-    bool setHelp(const wchar_t* group, const wchar_t* globalName, const wchar_t* page);
+    // only where the command comes from. `page` is called when HELP needs it. False when there is no such command in
+    // the group.
+    bool setHelp(const wchar_t* group, const wchar_t* globalName, std::function<ZrString()> page);
     // Makes the command object, runs it once and deletes it; the command processor receives its result code.
     static void cmdEntryPoint(RxCommandFactory factory);
 

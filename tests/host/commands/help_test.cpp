@@ -120,8 +120,8 @@ TEST(Help, ShowsTheFirstLineOfThePageBesideTheNameOfAModulesCommand) {
     test::TestSession host;
     host.addCommand(L"GLOW", [] { return 5100; });
     host.addCommand(L"GLOWING", [] { return 5100; });
-    host.session().commands().setHelp(L"TEST", L"glow", L"发光。\n例: GLOW");
-    host.session().commands().setHelp(L"TEST", L"glowing", L"一直发光。");
+    host.session().commands().setHelp(L"TEST", L"glow", [] { return ZrString(L"发光。\n例: GLOW"); });
+    host.session().commands().setHelp(L"TEST", L"glowing", [] { return ZrString(L"一直发光。"); });
 
     host.run({L"HELP", L""});
 
@@ -141,7 +141,7 @@ TEST(Help, SaysThatACommandWithoutAPageComesFromAModule) {
 TEST(Help, ShowsThePageThatAModuleGaveForItsCommand) {
     test::TestSession host;
     host.addCommand(L"GLOW", [] { return 5100; });
-    host.session().commands().setHelp(L"TEST", L"glow", L"发光。\n例: GLOW");
+    host.session().commands().setHelp(L"TEST", L"glow", [] { return ZrString(L"发光。\n例: GLOW"); });
 
     host.run({L"HELP", L"glow"});
 

@@ -1,5 +1,6 @@
 #include "host/ed/command_table.h"
 #include "host/rx/module_loader.h"
+#include "host/sys/resource_library.h"
 #include "light/app/command_rows.h"
 #include "sdk/rx/application.h"
 #include "sdk/rx/command.h"
@@ -103,19 +104,22 @@ TEST(CommandRows, PointLightMakesItsCommandObject) {
     EXPECT_STREQ(command->typeName(), L"POINTLIGHTCMD");
 }
 
-// A session with a language of its own, whose keyword module is given.
+// A session with a language of its own, whose resource modules are given.
 class ModuleInALanguage : public testing::Test {
 protected:
-    void start(const char* keywordModule) {
+    void start(const char* keywordModule, const char* commandLibrary = "") {
         const std::filesystem::path language = folder_.path() / "lang" / "en";
         std::filesystem::create_directories(language);
         std::ofstream(language / "quorkwlres.txt") << keywordModule;
+        std::ofstream(language / "quorcmdres.txt") << commandLibrary;
         session_.emplace(front_, SessionOptions{.settingsFile = folder_.path() / "settings.ini",
                                                 .resourceFolder = folder_.path(),
                                                 .moduleFolders = {QUOR_BUILD_DIR "/lib/quor/modules"},
                                                 .language = L"en"});
         ASSERT_EQ(session_->modules().loadModule(L"light.so"), Quor::eOk);
     }
+    ZrString helpOfPointLight() { return session_->commands().find(ed::CommandWord{.name = L"POINTLIGHT"})->help(); }
+    std::size_t problemCount() { return session_->resources().problems().size(); }
     ZrString localNameOfPointLight() {
         const ed::Command* command = session_->commands().find(ed::CommandWord{.name = L"POINTLIGHT"});
         return command != nullptr ? command->localName : ZrString();
@@ -136,6 +140,36 @@ TEST_F(ModuleInALanguage, ItsKeywordModuleGivesTheLocalName) {
 TEST_F(ModuleInALanguage, ANumberThatIsMissingThereIsTheBuiltInName) {
     start("63305 = \"SLAMP\"\n");
 
+    EXPECT_EQ(localNameOfPointLight(), L"POINTLIGHT");
+}
+
+TEST_F(ModuleInALanguage, TheHelpPageIsReadFromTheCommandLibrary) {
+    start("", "64001 = \"Places a lamp.\"\n");
+
+    EXPECT_EQ(helpOfPointLight(), L"Places a lamp.");
+}
+
+TEST_F(ModuleInALanguage, TheCommandLibraryIsReadWhenATextIsNeeded) {
+    start("", "this is no text\n");
+    EXPECT_EQ(problemCount(), 0U);
+
+    helpOfPointLight();
+
+    EXPECT_EQ(problemCount(), 1U);
+}
+
+TEST_F(ModuleInALanguage, ATextOfTheCommandLibraryWithOtherPlaceholdersIsLeftOut) {
+    start("", "64001 = \"Places %d lamps.\"\n");
+
+    EXPECT_EQ(helpOfPointLight(), light::texts.pointLightHelp.builtIn);
+
+    EXPECT_EQ(problemCount(), 1U);
+}
+
+TEST_F(ModuleInALanguage, ATextOfTheKeywordModuleWithOtherPlaceholdersIsLeftOutAtOnce) {
+    start("63301 = \"P%dLIGHT\"\n");
+
+    EXPECT_EQ(problemCount(), 1U);
     EXPECT_EQ(localNameOfPointLight(), L"POINTLIGHT");
 }
 
