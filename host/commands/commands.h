@@ -30,6 +30,9 @@ int list(Session& session);
 int line(Session& session);
 int face(Session& session);
 
+// Photometric web files.
+int iesInfo(Session& session);
+
 // Spaces, layers, settings.
 int ucs(Session& session);
 int layout(Session& session);

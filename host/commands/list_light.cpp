@@ -1,5 +1,6 @@
 // LIST of lights: one table of rows, each with its label, its value and the lights that it says something about.
 #include "host/commands/list_kinds.h"
+#include "host/commands/web_listing.h"
 #include "host/session.h"
 #include "host/sys/system_variables.h"
 #include "host/texts/list.h"
@@ -60,12 +61,6 @@ ZrString intensityText(const ZrDbLight& light) {
     return fill(text, numberText(light.physicalIntensity()), american ? L"fc" : L"lx");
 }
 
-ZrString webRotationText(const ZrDbLight& light) {
-    ZrGeVector3d rotation;
-    light.webRotation(rotation);
-    return L"X=" + numberText(rotation.x) + L"  Y=" + numberText(rotation.y) + L"  Z=" + numberText(rotation.z);
-}
-
 bool always(const ZrDbLight&) { return true; }
 bool isSpot(const ZrDbLight& light) { return light.lightType() == DrawableType::kSpotLight; }
 bool isWeb(const ZrDbLight& light) { return light.lightType() == DrawableType::kWebLight || !light.webFile().empty(); }
@@ -108,9 +103,6 @@ const LightRow kRows[] = {
      always},
     {texts::kLightLampPreset, [](L light) { return word(texts::kLampPresets, light.lampColorPreset()); }, always},
     {texts::kLightLampKelvin, [](L light) { return numberText(light.lampColorTemp()) + L" K"; }, always},
-    {texts::kLightWebFile,
-     [](L light) { return light.webFile().empty() ? ZrString(texts::kNone.get()) : light.webFile(); }, isWeb},
-    {texts::kLightWebRotation, webRotationText, isWeb},
 };
 
 } // namespace
@@ -119,6 +111,8 @@ void listLight(const ZrDbLight& light, Listing& listing) {
     for (const LightRow& row : kRows)
         if (row.applies(light))
             listing.row(row.label, row.value(light));
+    if (isWeb(light))
+        listLightWeb(light, listing);
 }
 
 } // namespace quor::commands

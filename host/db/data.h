@@ -60,7 +60,6 @@ struct ZrDbLightData : quor::db::Cloned<ZrDbLightData, ZrDbEntityData> {
     double webFlux = 0;
     // Angles of the web as the file keeps them, in radians; their meaning is not known.
     std::array<double, 5> webAngles{0, 0, 1, 0, 0};
-    int webSymmetry = 0;
     LampColorPreset lampPreset = LampColorPreset::kD65White;
     DrawableType type = DrawableType::kPointLight;
     PhysicalIntensityMethod method = PhysicalIntensityMethod::kPeakIntensity;

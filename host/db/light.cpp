@@ -4,6 +4,7 @@
 #include "host/db/database.h"
 #include "host/db/finite.h"
 #include "host/db/light_names.h"
+#include "host/db/light_web.h"
 
 #include <algorithm>
 #include <cmath>
@@ -196,11 +197,18 @@ Quor::ErrorStatus ZrDbLight::setLampColorPreset(LampColorPreset preset) {
 
 const ZrString& ZrDbLight::webFile() const { return data().webFile; }
 
-Quor::ErrorStatus ZrDbLight::setWebFile(const ZrString& path, ZrString*) {
-    return change(true, &ZrDbLightData::webFile, path);
+Quor::ErrorStatus ZrDbLight::setWebFile(const ZrString& path, ZrString* reason) {
+    const quor::db::LightWeb web = quor::db::readLightWeb(path, reason);
+    if (web.status != Quor::eOk)
+        return web.status;
+    if (const Quor::ErrorStatus status = change(true, &ZrDbLightData::webFile, path); status != Quor::eOk)
+        return status;
+    return change(true, &ZrDbLightData::webFlux, web.flux);
 }
 
 double ZrDbLight::webFlux() const { return data().webFlux; }
+
+WebSymmetry ZrDbLight::webSymmetry() const { return quor::db::readLightWeb(data().webFile, nullptr).symmetry; }
 
 Quor::ErrorStatus ZrDbLight::webRotation(ZrGeVector3d& rotation) const {
     rotation = data().webRotation;

@@ -100,6 +100,14 @@ constexpr HelpPage kPages[] = {
      {L"选择对象，与 SELECT 相同。",
       L"Select objects as in SELECT."},
      L"LIST ALL "},
+    {L"IESINFO", kObjects,
+     {L"说明光域网文件 (.ies) 的内容，或不能使用它的原因。",
+      L"Tells what a photometric web file (.ies) holds, or why it cannot be used."},
+     {L"文件名: 可含空格；直接按 Enter 时选择文件。\n"
+      L"没有路径的名称在这些地方查找: 图形所在的文件夹、当前文件夹、SUPPORTPATH、随程序提供的文件。",
+      L"File name: may hold blanks; Enter alone lets you choose.\nA name without folder is looked for beside the drawing, in "
+      L"the working folder, in SUPPORTPATH and among the files of the program."},
+     L"IESINFO downlight.ies"},
     {L"LINE", kObjects,
      {L"画直线段。",
       L"Draws straight lines."},

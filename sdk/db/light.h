@@ -39,6 +39,7 @@ enum class WebSymmetry {
     kQuadrants,   // mirrored at the planes 0-180 and 90-270
     kMirror0_180, // mirrored at the plane 0-180
     kMirror90_270,
+    kMirrorAtZero, // webs with a horizontal axis: mirrored at the plane 0
 };
 enum class GlyphDisplay { kAutomatic = 0, kOn = 1, kOff = 2 };
 enum class DrawableType { kDistantLight = 1, kPointLight = 2, kSpotLight = 3, kWebLight = 10 };

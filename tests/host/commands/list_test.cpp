@@ -1,3 +1,4 @@
+#include "host/sys/path_text.h"
 #include "host/sys/system_variables.h"
 #include "sdk/db/light.h"
 #include "sdk/rx/command.h"
@@ -5,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <memory>
 
 namespace quor {
@@ -67,16 +69,55 @@ TEST_F(ListOfALight, ShowsTheConeOfSpotLightsOnly) {
     EXPECT_FALSE(host.front().shows(L"Hotspot"));
 }
 
+const std::filesystem::path webs = std::filesystem::path(QUOR_TEST_DATA) / "ies";
+
 TEST_F(ListOfALight, ShowsTheWebOfWebLights) {
     list([](ZrDbLight& light) {
         light.setLightType(DrawableType::kWebLight);
-        light.setWebFile(L"lamps/down.ies");
+        light.setWebFile(textOf(webs / "gc_sterilray.ies"));
         light.setWebRotation({0, 90, 0});
     });
 
     EXPECT_TRUE(host.front().shows(L"web light"));
-    EXPECT_TRUE(host.front().shows(L"lamps/down.ies"));
+    EXPECT_TRUE(host.front().shows(L"gc_sterilray.ies"));
+    EXPECT_TRUE(host.front().shows(L"Web symmetry           none"));
+    EXPECT_TRUE(host.front().shows(L"vertical 0 to 90, horizontal 0 to 360 degrees"));
+    EXPECT_TRUE(host.front().shows(L" lm\n"));
     EXPECT_TRUE(host.front().shows(L"X=0  Y=90  Z=0"));
+}
+
+TEST_F(ListOfALight, SaysThatAWebLightHasNoWebYet) {
+    list([](ZrDbLight& light) { light.setLightType(DrawableType::kWebLight); });
+
+    EXPECT_TRUE(host.front().shows(L"Web file               none"));
+    EXPECT_FALSE(host.front().shows(L"Web symmetry"));
+}
+
+TEST_F(ListOfALight, SaysWhyTheWebCannotBeReadAnyMore) {
+    const std::filesystem::path file = host.folder() / "gone.ies";
+    std::filesystem::copy_file(webs / "gc_sterilray.ies", file);
+
+    list([&](ZrDbLight& light) {
+        light.setWebFile(textOf(file));
+        std::filesystem::remove(file);
+    });
+
+    EXPECT_TRUE(host.front().shows(L"317.27")); // lumen, as the drawing keeps them
+    EXPECT_TRUE(host.front().shows(L"gone.ies\" was not found"));
+}
+
+TEST_F(ListOfALight, FindsAWebWhoseFolderIsGoneByItsName) {
+    const std::filesystem::path file = host.folder() / "moved.ies";
+    std::filesystem::copy_file(webs / "gc_sterilray.ies", file);
+    std::filesystem::create_directory(host.folder() / "lamps");
+    host.session().variables().set(L"SUPPORTPATH", textOf(host.folder() / "lamps"));
+
+    list([&](ZrDbLight& light) {
+        light.setWebFile(textOf(file));
+        std::filesystem::rename(file, host.folder() / "lamps" / "moved.ies");
+    });
+
+    EXPECT_TRUE(host.front().shows(L"vertical 0 to 90, horizontal 0 to 360 degrees"));
 }
 
 TEST_F(ListOfALight, ShowsShadowsThatAreOffWithTheirKind) {

@@ -123,8 +123,7 @@ INSTANTIATE_TEST_SUITE_P(
         OneChange{"Samples", setShadow<&Shadow::setShadowSamples, 64>, {"74|16"}, {"74|64"}},
         OneChange{"ShapeVisible", setShadow<&Shadow::setShapeVisibility, true>, {"75|0"}, {"75|1"}},
         OneChange{"HasTarget", [](ZrDbLight& l) { l.setHasTarget(false); }, {"76|1"}, {"76|0"}},
-        OneChange{"Glyph", [](ZrDbLight& l) { l.setGlyphDisplay(2); }, {"77|0"}, {"77|2"}},
-        OneChange{"WebFile", [](ZrDbLight& l) { l.setWebFile(L"a.ies"); }, {}, {"300|a.ies"}}),
+        OneChange{"Glyph", [](ZrDbLight& l) { l.setGlyphDisplay(2); }, {"77|0"}, {"77|2"}}),
     [](const auto& info) { return info.param.name; });
 
 TEST(LightSaving, SettingAValueToWhatItIsTouchesNothing) {

@@ -1,0 +1,52 @@
+#include "host/db/light_web.h"
+
+#include "host/ies/reader.h"
+#include "host/sys/utf8.h"
+
+namespace quor::db {
+
+namespace {
+
+Quor::ErrorStatus statusOf(ies::Error::Kind kind) {
+    switch (kind) {
+    case ies::Error::Kind::NotFound:
+        return Quor::eFileNotFound;
+    case ies::Error::Kind::Unreadable:
+        return Quor::eFileAccessErr;
+    default:
+        return Quor::eUnsupportedFileFormat;
+    }
+}
+
+WebSymmetry symmetryOf(ies::Symmetry symmetry) {
+    switch (symmetry) {
+    case ies::Symmetry::None:
+        return WebSymmetry::kNone;
+    case ies::Symmetry::Axial:
+        return WebSymmetry::kAxial;
+    case ies::Symmetry::Quadrants:
+        return WebSymmetry::kQuadrants;
+    case ies::Symmetry::Mirror0_180:
+        return WebSymmetry::kMirror0_180;
+    case ies::Symmetry::Mirror90_270:
+        return WebSymmetry::kMirror90_270;
+    case ies::Symmetry::MirrorAtZero:
+        return WebSymmetry::kMirrorAtZero;
+    }
+    return WebSymmetry::kUnknown;
+}
+
+} // namespace
+
+LightWeb readLightWeb(const ZrString& path, ZrString* reason) {
+    if (path.empty())
+        return {};
+    const auto file = ies::loadWeb(toUtf8(path));
+    if (file.ok())
+        return {Quor::eOk, (*file)->flux, symmetryOf((*file)->web.symmetry)};
+    if (reason != nullptr)
+        *reason = ies::describe(file.error(), path);
+    return {statusOf(file.error().kind), 0, WebSymmetry::kUnknown};
+}
+
+} // namespace quor::db
