@@ -193,10 +193,10 @@ private:
         std::istringstream words(names);
         std::string from;
         words >> from;
-        std::string to = from;
-        words >> to;
+        std::string to;
+        std::getline(words >> std::ws, to);
         std::error_code error;
-        std::filesystem::copy_file(folder_ / from, to, error);
+        std::filesystem::copy_file(folder_ / from, to.empty() ? from : to, error);
         if (error)
             problem_ = "cannot copy " + from;
     }
