@@ -1,36 +1,23 @@
 // IESINFO: what a photometric web file holds, or why it is none that a light takes.
 #include "host/texts/ies_info.h"
 #include "host/commands/ask.h"
+#include "host/commands/ask_file.h"
 #include "host/commands/commands.h"
 #include "host/commands/web_listing.h"
 #include "host/session.h"
 #include "host/sys/path_text.h"
 #include "host/sys/utf8.h"
-#include "host/ui/file_dialog.h"
 #include "sdk/ed/find_file.h"
-#include "sdk/rx/command.h"
 
 namespace quor::commands {
 
-namespace {
-
-// Enter opens the file chooser, except where nobody is there to choose.
-std::optional<ZrString> askWebPath(Session& session) {
-    std::optional<ZrString> answer = askLine(texts::kAskWebPath.get());
-    if (!answer || !answer->empty() || RxCommand::isCalledByCommand())
-        return answer;
-    FileQuestion question;
-    question.caption = texts::kChooseWeb.get();
-    question.filters = {{texts::kWebFiles.get(), L"*.ies"}};
-    question.previews = true;
-    return ui::chooseFile(session, question);
-}
-
-} // namespace
-
 int iesInfo(Session& session) {
-    const std::optional<ZrString> name = askWebPath(session);
-    if (!name || name->empty())
+    FileQuestion chooser;
+    chooser.caption = texts::kChooseWeb.get();
+    chooser.filters = {{texts::kWebFiles.get(), L"*.ies"}};
+    chooser.previews = true;
+    const std::optional<ZrString> name = askFile(session, texts::kAskWebPath, chooser);
+    if (!name)
         return RTCAN;
     ZrString found;
     if (zredFindFile(textOf(pathFromText(*name)).c_str(), found) != RTNORM)

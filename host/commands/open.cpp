@@ -1,30 +1,20 @@
 #include "host/commands/ask.h"
+#include "host/commands/ask_file.h"
 #include "host/commands/commands.h"
 #include "host/commands/drawing_files.h"
 #include "host/session.h"
-#include "host/sys/utf8.h"
 #include "host/texts/files.h"
-#include "host/ui/file_dialog.h"
-#include "sdk/rx/command.h"
 
 namespace quor::commands {
 
 namespace {
 
-// Enter opens the file chooser, except where nobody is there to choose.
 int askAndOpen(Session& session, const Text& prompt, const Text& caption, bool recover) {
-    const std::optional<ZrString> answer = askLine(prompt.get());
-    if (!answer)
-        return RTCAN;
-    if (!answer->empty())
-        return openPath(session, pathFromText(*answer), recover);
-    if (RxCommand::isCalledByCommand())
-        return RTCAN;
-    FileQuestion question;
-    question.caption = caption.get();
-    question.filters = {{texts::kDxfFiles.get(), L"*.dxf"}};
-    const std::optional<ZrString> chosen = ui::chooseFile(session, question);
-    return chosen ? openPath(session, toUtf8(*chosen), recover) : RTCAN;
+    FileQuestion chooser;
+    chooser.caption = caption.get();
+    chooser.filters = {{texts::kDxfFiles.get(), L"*.dxf"}};
+    const std::optional<ZrString> file = askFile(session, prompt, chooser);
+    return file ? openPath(session, pathFromText(*file), recover) : RTCAN;
 }
 
 } // namespace

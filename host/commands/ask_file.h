@@ -1,0 +1,19 @@
+// The question for a file, as the commands that read one ask it.
+#pragma once
+
+#include "host/front.h"
+#include "host/texts/text.h"
+
+#include <optional>
+
+namespace quor {
+class Session;
+}
+
+namespace quor::commands {
+
+// A path or name as it was typed, or the whole path that was chosen after Enter; Enter chooses nothing where nobody is
+// there to choose. Empty when the question was left.
+[[nodiscard]] std::optional<ZrString> askFile(Session& session, const Text& prompt, const FileQuestion& chooser);
+
+} // namespace quor::commands
