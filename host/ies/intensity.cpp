@@ -3,6 +3,7 @@
 #include "host/ies/symmetry.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace quor::ies {
@@ -32,7 +33,7 @@ std::optional<Between> placeOf(double angle, const std::vector<double>& angles) 
 } // namespace
 
 double intensityAt(const PhotometricWeb& web, double horizontal, double vertical) {
-    if (web.candela.empty())
+    if (web.candela.empty() || !std::isfinite(horizontal))
         return 0;
     const auto row = placeOf(vertical, web.vertical);
     const auto plane = placeOf(foldedHorizontal(web, horizontal), web.horizontal);

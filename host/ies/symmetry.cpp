@@ -13,7 +13,8 @@ constexpr double kCircle = 360;
 double aroundOnce(double angle) {
     const double rest = std::fmod(angle, kCircle);
     const double turned = rest < 0 ? rest + kCircle : rest;
-    return turned < kCircle ? turned : 0;
+    // The smallest negative angles are rounded to a whole turn.
+    return turned == kCircle ? 0 : turned;
 }
 
 } // namespace
