@@ -1,6 +1,7 @@
 #include "light/lightcmd/color_input.h"
 #include "light/lightcmd/multi_light.h"
 #include "light/lightcmd/replies.h"
+#include "sdk/db/database.h"
 #include "sdk/rx/result_codes.h"
 #include "sdk/sys/ads.h"
 #include "tests/support/test_session.h"
@@ -19,6 +20,7 @@ public:
 
     ZrCmColor color = ZrCmColor::fromRGB(10, 20, 30); // before the question, then after it
     bool losesLight = false;
+    bool isForRead = false; // then the light refuses every change
     int result = 0;
 
     void trueColor() { result = promptColor(); }
@@ -30,12 +32,21 @@ public:
 protected:
     int optionLoop() override {
         m_pLight->setLightColor(color);
+        if (isForRead)
+            reopenForRead();
         ZrDbLight* const light = m_pLight;
         m_pLight = losesLight ? nullptr : light;
         (this->*question)();
         m_pLight = light;
         color = m_pLight->lightColor();
         return RTCAN;
+    }
+
+private:
+    void reopenForRead() {
+        const ZrDbObjectId id = m_pLight->objectId();
+        m_pLight->close();
+        ASSERT_EQ(zrdbOpenObject(m_pLight, id, ZrDb::kForRead), Quor::eOk);
     }
 };
 
@@ -80,6 +91,17 @@ TEST_F(ColorPromptsTest, AColourThatIsSetAnswersTheStatusOfTheLight) {
     EXPECT_EQ(shown(), L"0,255,0");
     EXPECT_EQ(askBook({L"Web Colors", L"gold"}), Quor::eOk);
     EXPECT_EQ(shown(), L"Web Colors$gold");
+}
+
+TEST_F(ColorPromptsTest, AColourThatTheLightRefusesAnswersItsStatusAndIsNotTold) {
+    command_.isForRead = true;
+
+    EXPECT_EQ(askTrueColor({L"1,2,3"}), Quor::eNotOpenForWrite);
+    EXPECT_EQ(askIndex({L"5"}), Quor::eNotOpenForWrite);
+    EXPECT_EQ(askHsl({L"120,100,50"}), Quor::eNotOpenForWrite);
+    EXPECT_EQ(askBook({L"Web Colors", L"gold"}), Quor::eNotOpenForWrite);
+    EXPECT_EQ(shown(), L"10,20,30");
+    EXPECT_FALSE(front().shows(L"无效"));
 }
 
 TEST_F(ColorPromptsTest, TheTrueColourQuestionAnswersHowItWasLeft) {
