@@ -60,7 +60,7 @@ TEST(FindPresetByName, D65IsFoundAsItIsWritten) {
     EXPECT_EQ(findPresetByName(L"D65(D)"), nullptr);
 }
 
-// As in every test of this program, there is no resource module here.
+// Without a session there is no resource module.
 TEST(FindPresetByName, WithoutAResourceModuleBuiltInNamesAreNotFound) {
     EXPECT_EQ(findPresetByName(L"荧光灯"), nullptr);
     EXPECT_EQ(findPresetByName(L"低压钠灯"), nullptr);

@@ -10,13 +10,20 @@ namespace quor::test {
 class PromptCommand : public StepCommand {
 public:
     using CZrMultiLight::m_endLimit;
+    using CZrMultiLight::m_lampColorTemp;
     using CZrMultiLight::m_pLight;
     using CZrMultiLight::m_shadowSamples;
     using CZrMultiLight::m_startLimit;
 
+    using CZrMultiLight::convertPhotometricIntensity;
     using CZrMultiLight::promptAttenuation;
     using CZrMultiLight::promptAttenuationLimits;
     using CZrMultiLight::promptAttenuationType;
+    using CZrMultiLight::promptFlux;
+    using CZrMultiLight::promptIlluminance;
+    using CZrMultiLight::promptLampColor;
+    using CZrMultiLight::promptPhotometricIntensity;
+    using CZrMultiLight::promptPhotometry;
     using CZrMultiLight::promptShadow;
     using CZrMultiLight::promptShadowLength;
     using CZrMultiLight::promptShadowMapSize;
@@ -27,6 +34,7 @@ public:
     using CZrMultiLight::promptShadowSoftness;
     using CZrMultiLight::promptShadowVisibility;
     using CZrMultiLight::promptShadowWidth;
+    using CZrMultiLight::setLampColorPresetByName;
 
     std::function<void()> loop;
 
