@@ -114,7 +114,7 @@ TEST(ConvertIntensity, IlluminanceBecomesLumen) {
     EXPECT_DOUBLE_EQ(convertIntensity(spotLight(375000000, kIlluminance), kFlux), lumenOfSpot);
 }
 
-// The eye of a reader should find 1 lx at 1 m from 1 cd in each unit: 1 m = 1000 mm = 3.280839895013123 ft.
+// 1 m = 1000 mm = 3.280839895013123 ft.
 TEST(ConvertIntensity, ACandelaGivesALuxAtAMetreWhateverTheUnit) {
     const PhotometricIntensity inMillimetres{.value = 1, .distance = 1000};
     const PhotometricIntensity inFeet{.value = 1, .distance = 3.280839895013123, .unitsPerMillimetre = feet};
