@@ -7,10 +7,14 @@
 #include "sdk/ed/find_file.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace quor::commands {
 
 namespace {
+
+// To a tenth: what a web tells is no more exact.
+ZrString fluxText(double lumen) { return numberText(std::round(lumen * 10) / 10) + L" lm"; }
 
 ZrString editionText(ies::Edition edition) { return L"LM-63-" + std::to_wstring(static_cast<int>(edition)); }
 
@@ -91,7 +95,7 @@ void listWebFile(const ies::WebFile& file, Listing& listing) {
     listing.row(texts::kWebPhotometry, photometryText(web.photometry));
     listing.row(texts::kWebTilt, tiltText(web.tilt));
     listing.row(texts::kWebLamps, lampsText(web));
-    listing.row(texts::kWebFlux, numberText(file.flux) + L" lm");
+    listing.row(texts::kWebFlux, fluxText(file.flux));
     listing.row(texts::kWebLargest, numberText(ies::maxIntensity(web)) + L" cd");
     listing.row(texts::kWebVertical, anglesText(web.vertical));
     listing.row(texts::kWebHorizontal, anglesText(web.horizontal));
@@ -106,7 +110,7 @@ void listLightWeb(const ZrDbLight& light, Listing& listing) {
     const bool hasFile = !light.webFile().empty();
     listing.row(texts::kLightWebFile, hasFile ? light.webFile() : ZrString(texts::kNone.get()));
     if (hasFile) {
-        listing.row(texts::kLightWebFlux, numberText(light.webFlux()) + L" lm");
+        listing.row(texts::kLightWebFlux, fluxText(light.webFlux()));
         listFacts(light, listing);
     }
     listing.row(texts::kLightWebRotation, rotationText(light));

@@ -212,7 +212,7 @@ struct TextTable {
     Text lightListCloseCommand{63319, words, L"LightListClose"};
     Text targetPointCommand{63324, words, L"TargetPoint"};
     Text lightCommand{63325, words, L"Light"};
-    Text pointLightHelp{64001, lib, L"放置一个点光源，它向四面八方发光。\n先问位置(Enter 为 0,0,0)，再问要更改的选项，直到按 Enter 或 X；Esc 放弃这个光源。\n名称(N): 最多 255 个字符，不与其他光源重名。强度(I): 亮度的倍数，0 到 1000000。状态(S): 开或关。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: POINTLIGHT 0,0,3000 I 0.8 X"};
+    Text pointLightHelp{64001, lib, L"放置一个点光源，它向四面八方发光。\n先问位置(Enter 为 0,0,0)，再问要更改的选项，直到按 Enter 或 X；Esc 放弃这个光源。\n名称(N): 最多 255 个字符，不与其他光源重名。强度(I): 亮度的倍数，0 到 1000000。状态(S): 开或关。\n光度(P): 光强(Cd)、光通量(Lm)或照度(Lx、FC)，灯的预设颜色或色温。\n阴影(W): 关、锐化、已映射柔和、已采样柔和。衰减(A): 类型，起始和结束界限。\n颜色(C): R,G,B，或索引颜色、HSL、配色系统。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: POINTLIGHT 0,0,3000 I 0.8 X"};
     // clang-format on
 };
 

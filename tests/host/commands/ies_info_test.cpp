@@ -21,7 +21,7 @@ TEST_F(IesInfo, TellsWhatAFileHolds) {
     EXPECT_TRUE(host.front().shows(L"LM-63-1995"));
     EXPECT_TRUE(host.front().shows(L"type C"));
     EXPECT_TRUE(host.front().shows(L"1 of 500 lm"));
-    EXPECT_TRUE(host.front().shows(L"1359.8613 lm"));
+    EXPECT_TRUE(host.front().shows(L"1359.9 lm"));
     EXPECT_TRUE(host.front().shows(L"3300 cd"));
     EXPECT_TRUE(host.front().shows(L"0 to 90 degrees, 37 of them"));
     EXPECT_TRUE(host.front().shows(L"axial"));

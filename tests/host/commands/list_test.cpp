@@ -102,7 +102,7 @@ TEST_F(ListOfALight, SaysWhyTheWebCannotBeReadAnyMore) {
         std::filesystem::remove(file);
     });
 
-    EXPECT_TRUE(host.front().shows(L"317.27")); // lumen, as the drawing keeps them
+    EXPECT_TRUE(host.front().shows(L"317.3 lm")); // lumen, as the drawing keeps them
     EXPECT_TRUE(host.front().shows(L"gone.ies\" was not found"));
 }
 
