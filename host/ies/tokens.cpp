@@ -1,6 +1,7 @@
 #include "host/ies/tokens.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <system_error>
 
@@ -10,8 +11,19 @@ namespace quor::ies {
 
 namespace {
 
-constexpr std::string_view kBreaks = " \t,\r\n\x1A";
 constexpr char kEndOfText = '\x1A';
+
+// A file is mostly numbers: what ends one is looked up, not searched for.
+constexpr auto kEndsToken = [] {
+    std::array<bool, 256> ends{};
+    for (const unsigned char c : std::string_view(" \t,\r\n\x1A"))
+        ends[c] = true;
+    return ends;
+}();
+
+bool endsToken(char c) { return kEndsToken[static_cast<unsigned char>(c)]; }
+
+bool isOfNumber(char c) { return (c >= '0' && c <= '9') || c == '.' || c == '-' || c == '+' || c == 'e' || c == 'E'; }
 
 } // namespace
 
@@ -40,9 +52,10 @@ bool Tokens::next(Token& token) {
     skipSeparators();
     if (rest_.empty() || rest_.front() == kEndOfText)
         return false;
-    const std::size_t end = std::min(rest_.find_first_of(kBreaks), rest_.size());
-    token = {rest_.substr(0, end), line_};
-    rest_.remove_prefix(end);
+    const auto* const end = std::find_if(rest_.begin(), rest_.end(), endsToken);
+    const auto size = static_cast<std::size_t>(end - rest_.begin());
+    token = {rest_.substr(0, size), line_};
+    rest_.remove_prefix(size);
     return true;
 }
 
@@ -53,7 +66,7 @@ std::optional<double> numberOf(std::string_view text) {
             return std::nullopt;
     }
     // The parser knows "nan" and "infinity" too.
-    if (text.find_first_not_of("0123456789.eE+-") != std::string_view::npos)
+    if (!std::all_of(text.begin(), text.end(), isOfNumber))
         return std::nullopt;
     double value = 0;
     const char* const end = text.data() + text.size();
