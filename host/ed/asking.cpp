@@ -4,8 +4,8 @@
 #include "host/document.h"
 #include "host/ed/command_processor.h"
 #include "host/ed/input_stack.h"
+#include "host/ed/typed_text.h"
 #include "host/session.h"
-#include "host/sys/utf8.h"
 #include "host/texts/input.h"
 #include "sdk/ed/get.h"
 
@@ -78,7 +78,7 @@ std::optional<Outcome> Asking::read(const Answer& answer) {
 }
 
 std::optional<Outcome> Asking::readText(const ZrString& typed) {
-    if (holdsEscapedBytes(typed)) {
+    if (!isText(typed)) {
         say(texts::kNotUtf8);
         return std::nullopt;
     }

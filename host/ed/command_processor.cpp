@@ -2,6 +2,7 @@
 
 #include "host/document.h"
 #include "host/ed/script_source.h"
+#include "host/ed/typed_text.h"
 #include "host/session.h"
 #include "host/sys/system_variables.h"
 #include "host/sys/text_width.h"
@@ -48,7 +49,7 @@ std::optional<Verdict> CommandProcessor::step() {
     case Answer::Kind::Point:
         return Verdict{};
     case Answer::Kind::Text:
-        return holdsEscapedBytes(answer.text) ? refuseBytes(answer.text) : run(answer.text, byProgram);
+        return isText(answer.text) ? run(answer.text, byProgram) : refuseBytes(answer.text);
     case Answer::Kind::Enter:
         break;
     }

@@ -290,6 +290,12 @@ TEST_F(Processor, TypedBytesThatAreNoTextAreRefusedAndAskedAgain) {
     EXPECT_TRUE(test_.front().shows(L"命令: O\xDCC0K\n输入的内容不是有效的 UTF-8 文字。"));
 }
 
+TEST_F(Processor, AZeroByteIsNoTextEither) {
+    test_.run({ZrString(L"ASK"), ZrString(L"5\0 7", 4), ZrString(L"6"), ZrString(L"OK\0", 3)});
+    EXPECT_EQ(number_, 6);
+    EXPECT_EQ(runs_, 0);
+}
+
 TEST_F(Processor, LongUnknownCommandIsShownShortened) {
     EXPECT_EQ(test_.run({ZrString(5000, L'x')}).command, ZrString(60, L'x') + L"…");
     EXPECT_TRUE(test_.front().shows(L"未知命令“" + ZrString(60, L'x') + L"…”"));
