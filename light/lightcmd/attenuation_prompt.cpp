@@ -1,21 +1,17 @@
 // The Attenuation option: a menu of how the light falls off with the distance, and of the limits of its reach.
+#include "light/lightcmd/find_row.h"
 #include "light/lightcmd/keyword_question.h"
 #include "light/lightcmd/multi_light.h"
-#include "sdk/db/units.h"
+#include "light/lightcmd/real_question.h"
 #include "sdk/sys/case_fold.h"
 
-#include <algorithm>
-#include <iterator>
-
 using quor::equalFolded;
+using quor::light::findRow;
 using quor::light::LoadedText;
 using quor::light::Text;
 using quor::light::texts;
 
 namespace {
-
-constexpr int drawingUnits = -1;
-constexpr int drawingPrecision = -1;
 
 struct AttenuationKind {
     ZrGiLightAttenuation::AttenuationType type;
@@ -29,12 +25,6 @@ constexpr AttenuationKind attenuationKinds[] = {
     {ZrGiLightAttenuation::kInverseSquare, L"Squared", texts.attenuationInverseSquare},
 };
 
-template <class Predicate>
-const AttenuationKind* findKind(Predicate matches) {
-    const auto* const found = std::find_if(std::begin(attenuationKinds), std::end(attenuationKinds), matches);
-    return found == std::end(attenuationKinds) ? nullptr : found;
-}
-
 ZrGiLightAttenuation attenuationOf(const ZrDbLight* light) {
     return light != nullptr ? light->lightAttenuation() : ZrGiLightAttenuation();
 }
@@ -44,16 +34,42 @@ void writeAttenuation(ZrDbLight* light, const ZrGiLightAttenuation& attenuation)
         light->setLightAttenuation(attenuation);
 }
 
-// Enter, Esc and broken input leave a sub-prompt; a reply that is too long does not.
-bool leaves(int result) { return result == RTNONE || result == RTCAN || result == RTERROR; }
+void writeLimits(ZrDbLight* light, ZrGiLightAttenuation& attenuation, double start, double end) {
+    attenuation.setLimits(start, end);
+    writeAttenuation(light, attenuation);
+}
 
 // Whether a limit was entered.
-bool askLimit(const Text& text, double& limit) {
-    ZrString shown;
-    zrdbRToS(limit, drawingUnits, drawingPrecision, shown);
-    const ZrString prompt = zrFormat(LoadedText(text).c_str(), {shown});
-    zredInitGet(RSG_NONEG, nullptr);
-    return zredGetReal(prompt.c_str(), limit) == RTNORM;
+bool askLimit(const Text& prompt, double& limit) {
+    return quor::light::askReal(prompt, limit, quor::light::unitsOfDrawing) == RTNORM;
+}
+
+// Asks for one value of the record and writes the record back, changed or not. 0 when the question was left, by Enter,
+// Esc or broken input, else 1; a reply that is too long changes nothing and is written all the same.
+template <class TakeAnswer>
+int askAndWrite(ZrDbLight* light, ZrGiLightAttenuation attenuation, const quor::light::KeywordQuestion& question,
+                const ZrString& shown, TakeAnswer take) {
+    ZrString answer;
+    const int result = quor::light::askKeyword(question, shown, answer);
+    if (result == RTNONE || result == RTCAN || result == RTERROR)
+        return 0;
+    if (result == RTNORM)
+        take(attenuation, answer);
+    writeAttenuation(light, attenuation);
+    return 1;
+}
+
+void takeType(ZrGiLightAttenuation& attenuation, const ZrString& answer) {
+    const auto isChosen = [&](const AttenuationKind& kind) { return equalFolded(kind.keyword, answer); };
+    if (const AttenuationKind* const chosen = findRow(attenuationKinds, isChosen))
+        attenuation.setAttenuationType(chosen->type);
+}
+
+void takeUseOfLimits(ZrGiLightAttenuation& attenuation, const ZrString& answer) {
+    if (equalFolded(answer, L"oN"))
+        attenuation.setUseLimits(true);
+    else if (equalFolded(answer, L"oFf"))
+        attenuation.setUseLimits(false);
 }
 
 } // namespace
@@ -74,45 +90,28 @@ int CZrMultiLight::promptAttenuation() {
             promptAttenuationType();
         } else if (equalFolded(answer, L"Uselimits")) {
             promptAttenuationLimits();
-        } else if (equalFolded(answer, L"attenuationstartLimit") && askLimit(texts.startLimitPrompt, m_startLimit)) {
-            opened.setLimits(m_startLimit, opened.endLimit());
-            writeAttenuation(m_pLight, opened);
-        } else if (equalFolded(answer, L"attenuationEndlimit") && askLimit(texts.endLimitPrompt, m_endLimit)) {
-            opened.setLimits(opened.startLimit(), m_endLimit);
-            writeAttenuation(m_pLight, opened);
+        } else if (equalFolded(answer, L"attenuationstartLimit")) {
+            if (askLimit(texts.startLimitPrompt, m_startLimit))
+                writeLimits(m_pLight, opened, m_startLimit, opened.endLimit());
+        } else if (equalFolded(answer, L"attenuationEndlimit")) {
+            if (askLimit(texts.endLimitPrompt, m_endLimit))
+                writeLimits(m_pLight, opened, opened.startLimit(), m_endLimit);
         }
     }
 }
 
 int CZrMultiLight::promptAttenuationType() {
-    ZrGiLightAttenuation attenuation = attenuationOf(m_pLight);
-    const AttenuationKind* const current =
-        findKind([&](const AttenuationKind& kind) { return kind.type == attenuation.attenuationType(); });
+    const ZrGiLightAttenuation attenuation = attenuationOf(m_pLight);
+    const AttenuationKind* const current = findRow(
+        attenuationKinds, [&](const AttenuationKind& kind) { return kind.type == attenuation.attenuationType(); });
     const ZrString shown = current != nullptr ? LoadedText(current->shown).str() : ZrString();
-    ZrString answer;
-    const int result =
-        quor::light::askKeyword({texts.attenuationTypePrompt, texts.attenuationTypeKeywords}, shown, answer);
-    if (leaves(result))
-        return 0;
-    const AttenuationKind* const chosen =
-        findKind([&](const AttenuationKind& kind) { return equalFolded(kind.keyword, answer); });
-    if (result == RTNORM && chosen != nullptr)
-        attenuation.setAttenuationType(chosen->type);
-    writeAttenuation(m_pLight, attenuation);
-    return 1;
+    return askAndWrite(m_pLight, attenuation, {texts.attenuationTypePrompt, texts.attenuationTypeKeywords}, shown,
+                       takeType);
 }
 
 int CZrMultiLight::promptAttenuationLimits() {
-    ZrGiLightAttenuation attenuation = attenuationOf(m_pLight);
+    const ZrGiLightAttenuation attenuation = attenuationOf(m_pLight);
     const LoadedText shown(attenuation.useLimits() ? texts.on : texts.off);
-    ZrString answer;
-    const int result = quor::light::askKeyword({texts.useLimitsPrompt, texts.onOffKeywords}, shown.str(), answer);
-    if (leaves(result))
-        return 0;
-    if (result == RTNORM && equalFolded(answer, L"oN"))
-        attenuation.setUseLimits(true);
-    else if (result == RTNORM && equalFolded(answer, L"oFf"))
-        attenuation.setUseLimits(false);
-    writeAttenuation(m_pLight, attenuation);
-    return 1;
+    return askAndWrite(m_pLight, attenuation, {texts.useLimitsPrompt, texts.onOffKeywords}, shown.str(),
+                       takeUseOfLimits);
 }

@@ -1,7 +1,6 @@
 #include "light/lightcmd/color_input.h"
 
-#include "light/res/load_text.h"
-#include "sdk/db/units.h"
+#include "light/lightcmd/real_question.h"
 #include "sdk/rx/result_codes.h"
 #include "sdk/sys/case_fold.h"
 
@@ -13,7 +12,6 @@ namespace quor::light {
 
 namespace {
 
-constexpr int drawingUnits = -1;
 constexpr double maxComponent = 255.0;
 constexpr double maxColorIndex = 255.0;
 
@@ -24,7 +22,7 @@ constexpr const Text* localNames[] = {&texts.red,  &texts.yellow,  &texts.green,
 bool isDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
 
 bool readNumber(const ZrString& piece, double& value) {
-    return zrdbDisToF(piece.c_str(), drawingUnits, value) == RTNORM;
+    return zrdbDisToF(piece.c_str(), unitsOfDrawing, value) == RTNORM;
 }
 
 bool isColorName(std::wstring_view text) {
@@ -90,7 +88,7 @@ bool isColorIndexName(wchar_t* text) {
         ++end;
     *end = L'\0';
     double index = 0;
-    if (zrdbDisToF(text, drawingUnits, index) != RTNORM)
+    if (zrdbDisToF(text, unitsOfDrawing, index) != RTNORM)
         return false;
     return index >= 1.0 && index <= maxColorIndex;
 }

@@ -8,8 +8,8 @@ namespace {
 
 constexpr double square(double x) { return x * x; }
 
-// Solid angles in steradian: all around, and that of a cone of 41 degrees, which stands for every spot light whatever
-// its own hotspot and falloff are.
+// Solid angles in steradian: all around, and the one that stands for every spot light, whatever its own hotspot and
+// falloff are.
 constexpr double wholeSphere = 4 * std::numbers::pi;
 constexpr double spotCone = 0.3973980687964644;
 

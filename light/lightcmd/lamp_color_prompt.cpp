@@ -1,12 +1,10 @@
 // The lamp colour: a preset or a colour temperature.
 #include "light/lightcmd/lamp_presets.h"
 #include "light/lightcmd/multi_light.h"
+#include "light/lightcmd/real_question.h"
 #include "light/lightcmd/replies.h"
-#include "light/res/load_text.h"
-#include "sdk/db/units.h"
 #include "sdk/ed/print.h"
 #include "sdk/sys/case_fold.h"
-#include "sdk/sys/format.h"
 
 #include <optional>
 
@@ -16,8 +14,6 @@ using quor::light::texts;
 
 namespace {
 
-constexpr int decimalUnits = 2;
-constexpr int drawingPrecision = -1;
 constexpr int noPreset = -1; // what setLampColorPresetByName() answers when it sets none
 
 // How the question for the colour ends; nothing when it is asked again.
@@ -27,12 +23,8 @@ using End = std::optional<int>;
 // light's bounds is not set and yet shown as the default the next time.
 End askKelvin(ZrDbLight& light, double& shownTemperature) {
     light.setLampColorType(LampColorType::kKelvin);
-    ZrString shown;
-    zrdbRToS(shownTemperature, decimalUnits, drawingPrecision, shown);
-    const ZrString prompt = zrFormat(LoadedText(texts.kelvinPrompt).c_str(), {shown});
     double temperature = shownTemperature;
-    zredInitGet(RSG_NONEG, nullptr);
-    if (zredGetReal(prompt.c_str(), temperature) != RTNORM)
+    if (quor::light::askReal(texts.kelvinPrompt, temperature) != RTNORM)
         return RTCAN;
     const Quor::ErrorStatus status = light.setLampColorTemp(temperature);
     if (status != Quor::eOk && status != Quor::eInvalidInput)
@@ -95,7 +87,7 @@ int CZrMultiLight::promptLampColor() {
 }
 
 int CZrMultiLight::setLampColorPresetByName(const wchar_t* name) {
-    if (m_pLight->setLampColorType(LampColorType::kPreset) != Quor::eOk)
+    if (m_pLight == nullptr || m_pLight->setLampColorType(LampColorType::kPreset) != Quor::eOk)
         return noPreset;
     if (const quor::light::LampPreset* preset = quor::light::findPresetByKeyword(name))
         return m_pLight->setLampColorPreset(preset->value);

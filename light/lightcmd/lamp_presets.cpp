@@ -1,9 +1,8 @@
 #include "light/lightcmd/lamp_presets.h"
 
+#include "light/lightcmd/find_row.h"
 #include "light/res/load_text.h"
 #include "sdk/sys/case_fold.h"
-
-#include <algorithm>
 
 namespace quor::light {
 
@@ -29,12 +28,6 @@ constexpr LampPreset presets[] = {
 constexpr const wchar_t* nameOfD65 = L"D65(D)";
 constexpr const wchar_t* nameWithoutResource = L"error";
 
-template <class Predicate>
-const LampPreset* findPreset(Predicate matches) {
-    const auto* found = std::find_if(std::begin(presets), std::end(presets), matches);
-    return found == std::end(presets) ? nullptr : found;
-}
-
 ZrString nameToFind(const LampPreset& preset) {
     if (preset.name == nullptr)
         return nameOfD65;
@@ -50,16 +43,16 @@ ZrString displayName(const LampPreset& preset) {
 }
 
 ZrString displayName(LampColorPreset value) {
-    const LampPreset* preset = findPreset([&](const LampPreset& candidate) { return candidate.value == value; });
+    const LampPreset* preset = findRow(presets, [&](const LampPreset& candidate) { return candidate.value == value; });
     return preset != nullptr ? displayName(*preset) : ZrString();
 }
 
 const LampPreset* findPresetByKeyword(std::wstring_view keyword) {
-    return findPreset([&](const LampPreset& preset) { return equalFolded(preset.keyword, keyword); });
+    return findRow(presets, [&](const LampPreset& preset) { return equalFolded(preset.keyword, keyword); });
 }
 
 const LampPreset* findPresetByName(std::wstring_view name) {
-    return findPreset([&](const LampPreset& preset) {
+    return findRow(presets, [&](const LampPreset& preset) {
         const ZrString full = nameToFind(preset);
         return std::wstring_view(full).substr(0, full.find(L'(')) == name;
     });

@@ -50,7 +50,8 @@ protected:
     int runOptionLoop(const quor::light::OptionLoop& loop);
 
     // The prompts behind the options, a source for each group. Each changes the open light as its answers come; what
-    // they answer is for their callers here, the option loops ignore it.
+    // they answer is for their callers here, the option loops ignore it. Without a light they change nothing; those
+    // that could not show what it has answer RTERROR without a question.
 
     // Name, intensity factor, status.
     void promptName();

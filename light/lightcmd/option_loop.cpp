@@ -1,12 +1,11 @@
 #include "light/lightcmd/option_loop.h"
 
+#include "light/lightcmd/find_row.h"
 #include "light/lightcmd/multi_light.h"
 #include "light/lightcmd/replies.h"
 #include "light/res/load_text.h"
 #include "sdk/sys/ads.h"
 #include "sdk/sys/case_fold.h"
-
-#include <algorithm>
 
 using quor::light::LightOption;
 using quor::light::LoadedText;
@@ -17,10 +16,8 @@ using quor::light::WithoutLight;
 namespace {
 
 const LightOption* findOption(const OptionLoop& loop, const ZrString& keyword) {
-    const auto found = std::find_if(loop.options.begin(), loop.options.end(), [&](const LightOption& option) {
-        return quor::equalFolded(option.keyword, keyword);
-    });
-    return found == loop.options.end() ? nullptr : &*found;
+    return quor::light::findRow(loop.options,
+                                [&](const LightOption& option) { return quor::equalFolded(option.keyword, keyword); });
 }
 
 } // namespace

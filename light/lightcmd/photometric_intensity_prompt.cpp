@@ -1,37 +1,27 @@
 // The photometric intensity: candela, with luminous flux and illuminance as alternatives.
 #include "light/lightcmd/intensity_conversion.h"
 #include "light/lightcmd/multi_light.h"
+#include "light/lightcmd/real_question.h"
 #include "light/lightcmd/replies.h"
-#include "light/res/load_text.h"
-#include "sdk/db/units.h"
 #include "sdk/sys/ads.h"
 #include "sdk/sys/case_fold.h"
-#include "sdk/sys/format.h"
-
-#include <cmath>
 
 using quor::equalFolded;
 using quor::light::askKeyword;
+using quor::light::askReal;
+using quor::light::decimalUnits;
 using quor::light::LoadedText;
 using quor::light::PhotometricIntensity;
 using quor::light::texts;
+using quor::light::withNumber;
 
 namespace {
 
 constexpr int millimetres = 4; // a value of INSUNITS
-constexpr int decimalUnits = 2;
-constexpr int drawingPrecision = -1;
 
 // What promptFlux() answers.
 constexpr int entered = 1;
 constexpr int notEntered = -1;
-
-// The prompt with the number in place of its %s. A light at illuminance distance 0 has no illuminance: 0 is shown.
-ZrString filled(const quor::light::Text& prompt, double value) {
-    ZrString shown;
-    zrdbRToS(std::isfinite(value) ? value : 0.0, decimalUnits, drawingPrecision, shown);
-    return zrFormat(LoadedText(prompt).c_str(), {shown});
-}
 
 // The setters refuse what is negative or no finite number; the light then keeps the number that it has.
 void setPhotometric(ZrDbLight& light, PhysicalIntensityMethod method, double value) {
@@ -42,10 +32,10 @@ void setPhotometric(ZrDbLight& light, PhysicalIntensityMethod method, double val
 PhotometricIntensity photometricIntensityOf(const ZrDbLight& light) {
     short lightingUnits = 0;
     zwutads::getVar(L"LIGHTINGUNITS", lightingUnits);
-    short drawingUnits = 0;
-    zwutads::getVar(L"INSUNITS", drawingUnits);
+    short insertionUnits = 0;
+    zwutads::getVar(L"INSUNITS", insertionUnits);
     double unitsPerMillimetre = 1.0;
-    zredGetUnitsConversion(millimetres, drawingUnits, unitsPerMillimetre);
+    zredGetUnitsConversion(millimetres, insertionUnits, unitsPerMillimetre);
     return {.value = light.physicalIntensity(),
             .method = light.physicalIntensityMethod(),
             .distance = light.illuminanceDistance(),
@@ -54,13 +44,14 @@ PhotometricIntensity photometricIntensityOf(const ZrDbLight& light) {
             .unitsPerMillimetre = unitsPerMillimetre};
 }
 
-// Without a unit of illuminance, in generic lighting units, the question has no text.
+// Without a unit of illuminance, in generic lighting units, the question has no text. A light at distance 0 has no
+// illuminance: 0 is shown.
 ZrString illuminancePrompt(const PhotometricIntensity& intensity) {
     switch (intensity.lightingUnits) {
     case quor::light::footCandles:
-        return filled(texts.illuminancePromptFootCandle, shownIlluminance(intensity));
+        return withNumber(texts.illuminancePromptFootCandle, shownIlluminance(intensity));
     case quor::light::lux:
-        return filled(texts.illuminancePromptLux, shownIlluminance(intensity));
+        return withNumber(texts.illuminancePromptLux, shownIlluminance(intensity));
     default:
         return {};
     }
@@ -69,15 +60,15 @@ ZrString illuminancePrompt(const PhotometricIntensity& intensity) {
 // The illuminance stays what it was at the old distance.
 void askIlluminanceDistance(ZrDbLight& light) {
     double distance = light.illuminanceDistance();
-    const ZrString prompt = filled(texts.illuminanceDistancePrompt, distance);
-    zredInitGet(RSG_NONEG, nullptr);
-    if (zredGetReal(prompt.c_str(), distance) == RTNORM)
+    if (askReal(texts.illuminanceDistancePrompt, distance) == RTNORM)
         light.setIlluminanceDistance(distance);
 }
 
 } // namespace
 
 double CZrMultiLight::convertPhotometricIntensity(int target) const {
+    if (m_pLight == nullptr)
+        return 0;
     return quor::light::convertIntensity(photometricIntensityOf(*m_pLight),
                                          static_cast<PhysicalIntensityMethod>(target));
 }
@@ -86,7 +77,7 @@ double CZrMultiLight::convertPhotometricIntensity(int target) const {
 int CZrMultiLight::promptPhotometricIntensity() {
     if (m_pLight == nullptr)
         return RTERROR;
-    const ZrString prompt = filled(
+    const ZrString prompt = withNumber(
         texts.candelaPrompt, convertPhotometricIntensity(static_cast<int>(PhysicalIntensityMethod::kPeakIntensity)));
     const LoadedText keywords(texts.candelaKeywords);
     for (;;) {
@@ -109,11 +100,11 @@ int CZrMultiLight::promptPhotometricIntensity() {
 
 // The light is given in lumen from here on, whatever is answered.
 int CZrMultiLight::promptFlux() {
+    if (m_pLight == nullptr)
+        return notEntered;
     double lumen = convertPhotometricIntensity(static_cast<int>(PhysicalIntensityMethod::kFlux));
     setPhotometric(*m_pLight, PhysicalIntensityMethod::kFlux, lumen);
-    const ZrString prompt = filled(texts.fluxPrompt, lumen);
-    zredInitGet(RSG_NONEG, nullptr);
-    if (zredGetReal(prompt.c_str(), lumen) != RTNORM)
+    if (askReal(texts.fluxPrompt, lumen) != RTNORM)
         return notEntered;
     m_pLight->setPhysicalIntensity(lumen);
     return entered;
@@ -121,6 +112,8 @@ int CZrMultiLight::promptFlux() {
 
 // Distance turns the light to illuminance, whatever is then answered, and ends the question.
 int CZrMultiLight::promptIlluminance() {
+    if (m_pLight == nullptr)
+        return RTERROR;
     const ZrString prompt = illuminancePrompt(photometricIntensityOf(*m_pLight));
     const LoadedText keywords(texts.illuminanceKeywords);
     for (;;) {

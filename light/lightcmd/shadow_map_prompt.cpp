@@ -1,14 +1,10 @@
 // What soft mapped shadows ask: the size of the shadow map, and how soft its edges are.
+#include "light/lightcmd/find_row.h"
 #include "light/lightcmd/multi_light.h"
+#include "light/lightcmd/real_question.h"
 #include "light/lightcmd/replies.h"
 #include "light/lightcmd/shadow_record.h"
-#include "light/res/load_text.h"
-#include "sdk/db/units.h"
-#include "sdk/sys/format.h"
 
-#include <algorithm>
-#include <cmath>
-#include <iterator>
 #include <optional>
 
 using quor::light::LoadedText;
@@ -19,7 +15,6 @@ using quor::light::writeShadows;
 
 namespace {
 
-constexpr int drawingUnits = -1;
 constexpr int noNegativeNorZero = RSG_NONEG | RSG_NOZERO;
 constexpr std::uint16_t mapSizes[] = {64, 128, 256, 512, 1024, 2048, 4096};
 constexpr std::uint8_t softest = 10;
@@ -28,11 +23,10 @@ constexpr std::uint8_t hardest = 1;
 // The number as it is typed in the units of the drawing, when it is one of the sizes.
 std::optional<std::uint16_t> mapSizeFrom(const ZrString& answer) {
     double number = 0;
-    if (zrdbDisToF(answer.c_str(), drawingUnits, number) != RTNORM)
+    if (zrdbDisToF(answer.c_str(), quor::light::unitsOfDrawing, number) != RTNORM)
         return std::nullopt;
-    const auto* const found =
-        std::find_if(std::begin(mapSizes), std::end(mapSizes), [&](std::uint16_t size) { return size == number; });
-    return found == std::end(mapSizes) ? std::nullopt : std::optional(*found);
+    const auto* const found = quor::light::findRow(mapSizes, [&](std::uint16_t size) { return size == number; });
+    return found == nullptr ? std::nullopt : std::optional(*found);
 }
 
 // Enter makes the shadows as hard as can be, whatever softness is shown.
@@ -40,7 +34,7 @@ std::optional<std::uint8_t> softnessFrom(const ZrString& answer) {
     if (answer.empty())
         return hardest;
     double number = 0;
-    const bool isNumber = zrdbDisToF(answer.c_str(), drawingUnits, number) == RTNORM;
+    const bool isNumber = zrdbDisToF(answer.c_str(), quor::light::unitsOfDrawing, number) == RTNORM;
     if (!isNumber || number < hardest || number > softest || std::trunc(number) != number)
         return std::nullopt;
     return static_cast<std::uint8_t>(number);

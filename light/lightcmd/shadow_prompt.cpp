@@ -1,11 +1,10 @@
 // The Shadow option: whether the light casts shadows, of which kind, and what that kind asks on.
+#include "light/lightcmd/find_row.h"
 #include "light/lightcmd/keyword_question.h"
 #include "light/lightcmd/multi_light.h"
 #include "light/lightcmd/shadow_record.h"
 #include "sdk/sys/case_fold.h"
 
-#include <algorithm>
-#include <iterator>
 #include <optional>
 
 using quor::light::KeywordQuestion;
@@ -29,19 +28,14 @@ constexpr ShadowKind shadowKinds[] = {
     {L"softsAmpled", texts.shadowSoftSampled, ZrGiShadowParameters::kAreaSampled},
 };
 
-template <class Predicate>
-const ShadowKind* findKind(Predicate matches) {
-    const ShadowKind* const found = std::find_if(std::begin(shadowKinds), std::end(shadowKinds), matches);
-    return found == std::end(shadowKinds) ? nullptr : found;
-}
-
 const ShadowKind* kindOf(const ZrGiShadowParameters& shadows) {
     const ShadowType type = shadows.shadowsOn() ? ShadowType(shadows.shadowType()) : std::nullopt;
-    return findKind([&](const ShadowKind& kind) { return kind.type == type; });
+    return quor::light::findRow(shadowKinds, [&](const ShadowKind& kind) { return kind.type == type; });
 }
 
 const ShadowKind* kindNamed(const ZrString& keyword) {
-    return findKind([&](const ShadowKind& kind) { return quor::equalFolded(kind.keyword, keyword); });
+    return quor::light::findRow(shadowKinds,
+                                [&](const ShadowKind& kind) { return quor::equalFolded(kind.keyword, keyword); });
 }
 
 // Shadows that are off keep the type that they had.

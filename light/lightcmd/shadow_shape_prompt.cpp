@@ -1,13 +1,12 @@
 // The shape that gives the light of soft sampled shadows, and its sizes.
+#include "light/lightcmd/find_row.h"
 #include "light/lightcmd/keyword_question.h"
 #include "light/lightcmd/multi_light.h"
+#include "light/lightcmd/real_question.h"
 #include "light/lightcmd/shadow_record.h"
-#include "sdk/db/units.h"
 #include "sdk/sys/case_fold.h"
 
-#include <algorithm>
-#include <iterator>
-
+using quor::light::findRow;
 using quor::light::KeywordQuestion;
 using quor::light::LoadedText;
 using quor::light::shadowsOf;
@@ -15,9 +14,6 @@ using quor::light::texts;
 using quor::light::writeShadows;
 
 namespace {
-
-constexpr int decimalUnits = 2;
-constexpr int drawingPrecision = -1;
 
 struct Shape {
     ZrGiShadowParameters::ExtendedLightShape shape;
@@ -32,12 +28,6 @@ constexpr Shape shapes[] = {
     {ZrGiShadowParameters::kCylinder, L"Cylinder", texts.shapeCylinder},
     {ZrGiShadowParameters::kSphere, L"Sphere", texts.shapeSphere},
 };
-
-template <class Predicate>
-const Shape* findShape(Predicate matches) {
-    const Shape* const found = std::find_if(std::begin(shapes), std::end(shapes), matches);
-    return found == std::end(shapes) ? nullptr : found;
-}
 
 constexpr KeywordQuestion twoShapes{texts.spotShapePrompt, texts.spotShapeKeywords};
 constexpr KeywordQuestion fiveShapes{texts.shapePrompt, texts.shapeKeywords};
@@ -66,11 +56,7 @@ constexpr Size radius{texts.radiusPrompt, &ZrGiShadowParameters::extendedLightRa
 int askSize(ZrDbLight* light, const Size& size) {
     ZrGiShadowParameters shadows = shadowsOf(light);
     double value = (shadows.*size.get)();
-    ZrString shown;
-    zrdbRToS(value, decimalUnits, drawingPrecision, shown);
-    const ZrString prompt = zrFormat(LoadedText(size.prompt).c_str(), {shown});
-    zredInitGet(RSG_NONEG, nullptr);
-    const int result = zredGetReal(prompt.c_str(), value);
+    const int result = quor::light::askReal(size.prompt, value);
     if (result == RTNORM && (shadows.*size.set)(value))
         writeShadows(light, shadows);
     return result == RTCAN ? 0 : 1;
@@ -92,7 +78,7 @@ bool CZrMultiLight::promptShadowWidth() {
 bool CZrMultiLight::promptShadowShape() {
     ZrGiShadowParameters shadows = shadowsOf(m_pLight);
     const Shape* const current =
-        findShape([&](const Shape& shape) { return shape.shape == shadows.extendedLightShape(); });
+        findRow(shapes, [&](const Shape& shape) { return shape.shape == shadows.extendedLightShape(); });
     ZrString prefix;
     const KeywordQuestion& question = isSpotWord(defaultNamePrefix(prefix)) ? twoShapes : fiveShapes;
     ZrString answer;
@@ -102,7 +88,7 @@ bool CZrMultiLight::promptShadowShape() {
         return false;
     const Shape* const chosen =
         answer.empty() ? current
-                       : findShape([&](const Shape& shape) { return quor::equalFolded(shape.keyword, answer); });
+                       : findRow(shapes, [&](const Shape& shape) { return quor::equalFolded(shape.keyword, answer); });
     if (chosen == nullptr || !shadows.setExtendedLightShape(chosen->shape))
         return false;
     writeShadows(m_pLight, shadows);

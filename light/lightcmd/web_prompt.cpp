@@ -1,18 +1,14 @@
 // The options of the photometric web: the menu and the rotation of the web. The file has a source of its own.
+#include "light/lightcmd/find_row.h"
 #include "light/lightcmd/multi_light.h"
+#include "light/lightcmd/real_question.h"
 #include "light/lightcmd/replies.h"
-#include "light/res/load_text.h"
-#include "sdk/db/units.h"
 #include "sdk/sys/case_fold.h"
-#include "sdk/sys/format.h"
 
 using quor::light::LoadedText;
 using quor::light::texts;
 
 namespace {
-
-constexpr int decimalUnits = 2;
-constexpr int drawingPrecision = -1;
 
 using Component = double ZrGeVector3d::*;
 
@@ -23,10 +19,9 @@ Component componentOf(const ZrString& keyword) {
         Component component;
     };
     static constexpr Axis axes[] = {{L"X", &ZrGeVector3d::x}, {L"Y", &ZrGeVector3d::y}, {L"Z", &ZrGeVector3d::z}};
-    for (const Axis& axis : axes)
-        if (quor::equalFolded(keyword, axis.keyword))
-            return axis.component;
-    return nullptr;
+    const Axis* const found =
+        quor::light::findRow(axes, [&](const Axis& axis) { return quor::equalFolded(keyword, axis.keyword); });
+    return found != nullptr ? found->component : nullptr;
 }
 
 } // namespace
@@ -47,8 +42,11 @@ int CZrMultiLight::promptWeb() {
             return RTNORM;
         if (quor::equalFolded(keyword, L"Exit"))
             return RTCAN;
-        if (quor::equalFolded(keyword, L"File") && promptWebFile() == RTCAN)
-            return RTCAN;
+        if (quor::equalFolded(keyword, L"File")) {
+            if (promptWebFile() == RTCAN)
+                return RTCAN;
+            continue;
+        }
         const Component component = componentOf(keyword);
         ZrGeVector3d rotation;
         if (component == nullptr || m_pLight->webRotation(rotation) != Quor::eOk)
@@ -63,9 +61,8 @@ int CZrMultiLight::promptWeb() {
 
 // The number is kept as it is typed, without a conversion of angles; Enter keeps the one that is shown.
 int CZrMultiLight::promptWebRotation(const wchar_t* axis, double& value) {
-    ZrString shown;
-    zrdbRToS(value, decimalUnits, drawingPrecision, shown);
-    const ZrString prompt = zrFormat(LoadedText(texts.webRotationPrompt).c_str(), {axis, shown});
+    const ZrString prompt =
+        zrFormat(LoadedText(texts.webRotationPrompt).c_str(), {axis, quor::light::shownNumber(value)});
     zredInitGet(RSG_NONEG, nullptr);
     return zredGetReal(prompt.c_str(), value);
 }
