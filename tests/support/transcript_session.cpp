@@ -140,6 +140,8 @@ private:
             showLight(rest);
         else if (word == "copy")
             copyFile(rest);
+        else if (word == "link")
+            makeLink(rest);
         else if (word != "keyboard" && word != "lang" && word != "no-module" && word != "trial-lights")
             problem_ = "unknown directive: " + std::string(directive);
     }
@@ -195,10 +197,25 @@ private:
         words >> from;
         std::string to;
         std::getline(words >> std::ws, to);
+        const std::filesystem::path target = to.empty() ? from : to;
         std::error_code error;
-        std::filesystem::copy_file(folder_ / from, to.empty() ? from : to, error);
+        if (target.has_parent_path())
+            std::filesystem::create_directories(target.parent_path(), error);
+        if (!error)
+            std::filesystem::copy_file(folder_ / from, target, error);
         if (error)
             problem_ = "cannot copy " + from;
+    }
+
+    void makeLink(const std::string& names) {
+        std::istringstream words(names);
+        std::string link;
+        std::string target;
+        words >> link >> target;
+        std::error_code error;
+        std::filesystem::create_symlink(target, link, error);
+        if (error)
+            problem_ = "cannot make the link " + link;
     }
 
     void runScript() {

@@ -27,7 +27,9 @@ struct TranscriptResult {
 //   #! no-module       the session runs without the module of lighting commands
 //   #! trial-lights    adds light commands that the module does not have: `addTrialLights` does
 //   #! light LABEL…    shows what LIST says under these labels of the light that was made last
-//   #! copy FILE [AS]  copies a file from beside the transcript into the working folder; AS may hold blanks
+//   #! copy FILE [AS]  copies a file from beside the transcript into the working folder; AS may hold blanks, and
+//                      folders, which are made
+//   #! link AS TARGET  makes a symbolic link in the working folder; nothing needs to be where it leads
 [[nodiscard]] TranscriptResult runTranscript(const std::filesystem::path& path, std::string_view text,
                                              const std::function<void(Session&)>& addTrialLights);
 
