@@ -4,7 +4,10 @@
 #include "host/session.h"
 #include "light/lightcmd/multi_light.h"
 #include "light/lightcmd/option_loop.h"
+#include "light/res/load_text.h"
 #include "light/res/text_table.h"
+
+#include <span>
 
 namespace quor::test {
 
@@ -18,18 +21,24 @@ using light::texts;
 struct Kind {
     const wchar_t* command;
     DrawableType type;
-    const wchar_t* namePrefix;
+    const light::Text& namePrefix;
     const light::Text& prompt;
     const light::Text& keywords;
+    bool hasPhotometry = true;
 };
 
+// A distant light asks for its candela in a way of its own, which no trial light has. The shadow prompts know a free
+// spot light by two words: that of its names and, in the last of these, one that stands for its kind.
 constexpr Kind kKinds[] = {
-    {L"TRIALSPOT", DrawableType::kSpotLight, L"聚光灯", texts.spotPhotometricOptions, texts.spotOptionKeywords},
-    {L"TRIALFREESPOT", DrawableType::kSpotLight, L"自由聚光灯", texts.freeSpotPhotometricOptions,
+    {L"TRIALSPOT", DrawableType::kSpotLight, texts.spotNamePrefix, texts.spotPhotometricOptions,
+     texts.spotOptionKeywords},
+    {L"TRIALFREESPOT", DrawableType::kSpotLight, texts.freeSpotNamePrefix, texts.freeSpotPhotometricOptions,
      texts.freeSpotOptionKeywords},
-    {L"TRIALDISTANT", DrawableType::kDistantLight, L"平行光", texts.distantPhotometricOptions,
-     texts.distantOptionKeywords},
-    {L"TRIALWEB", DrawableType::kWebLight, L"光域灯光", texts.webOptions, texts.webOptionKeywords},
+    {L"TRIALDISTANT", DrawableType::kDistantLight, texts.distantNamePrefix, texts.distantPhotometricOptions,
+     texts.distantOptionKeywords, false},
+    {L"TRIALWEB", DrawableType::kWebLight, texts.webNamePrefix, texts.webOptions, texts.webOptionKeywords},
+    {L"TRIALFREESPOTKINDWORD", DrawableType::kSpotLight, texts.freeSpotKindWord, texts.freeSpotPhotometricOptions,
+     texts.freeSpotOptionKeywords},
 };
 
 class TrialLight : public CZrMultiLight {
@@ -39,12 +48,18 @@ public:
 
 protected:
     bool placeLight() override { return m_pLight->setLightType(kind_.type) == Quor::eOk; }
-    ZrString& defaultNamePrefix(ZrString& out) override { return out = kind_.namePrefix; }
+    ZrString& defaultNamePrefix(ZrString& out) override { return out = light::LoadedText(kind_.namePrefix).str(); }
     int optionLoop() override {
         static constexpr LightOption options[] = {
-            {L"Name", ask<&TrialLight::promptName>},         {L"Photometry", ask<&TrialLight::promptPhotometry>, true},
-            {L"shadoW", ask<&TrialLight::promptShadow>},     {L"Attenuation", ask<&TrialLight::promptAttenuation>},
-            {L"weB", ask<&TrialLight::promptWeb>},           {L"Color", ask<&TrialLight::promptColor>},
+            {L"Photometry", ask<&TrialLight::promptPhotometry>, true}, // the first, to be left out
+            {L"Name", ask<&TrialLight::promptName>},
+            {L"Intensity", ask<&TrialLight::promptIntensity>},
+            {L"Intensityfactor", ask<&TrialLight::promptIntensity>}, // of a web light
+            {L"Status", ask<&TrialLight::promptStatus>},
+            {L"shadoW", ask<&TrialLight::promptShadow>},
+            {L"Attenuation", ask<&TrialLight::promptAttenuation>},
+            {L"weB", ask<&TrialLight::promptWeb>},
+            {L"Color", ask<&TrialLight::promptColor>},
             {L"filterColor", ask<&TrialLight::promptColor>},
         };
         return runOptionLoop({
@@ -53,7 +68,7 @@ protected:
             .keywords = kind_.keywords,
             .unitsRead = light::UnitsRead::OnEveryPass,
             .withoutLight = light::WithoutLight::EndsAtOnce,
-            .options = options,
+            .options = std::span(options).subspan(kind_.hasPhotometry ? 0 : 1),
         });
     }
 
