@@ -57,7 +57,7 @@ void ZrCmColor::setByLayer() { set(kByLayer, 0); }
 void ZrCmColor::setByBlock() { set(kByBlock, 0); }
 
 Quor::ErrorStatus ZrCmColor::setNames(const ZrString& color, const ZrString& book) {
-    if (color.empty() != book.empty() || !isByColor())
+    if ((color.empty() && !book.empty()) || !isByColor())
         return Quor::eInvalidInput;
     names_ = color.empty() ? nullptr : std::make_shared<const Names>(Names{color, book});
     return Quor::eOk;
@@ -100,7 +100,7 @@ ZrString ZrCmColor::colorNameForDisplay() const {
         return name.empty() ? std::to_wstring(value_) : name;
     }
     if (names_)
-        return names_->book + L"$" + names_->color;
+        return names_->book.empty() ? names_->color : names_->book + L"$" + names_->color;
     return std::to_wstring(red()) + L"," + std::to_wstring(green()) + L"," + std::to_wstring(blue());
 }
 

@@ -10,14 +10,15 @@ void takeTrueColor(ZrCmColor& color, const dxf::Tag& tag) {
 
 void takeBookColor(ZrCmColor& color, const dxf::Tag& tag, const DrawingFile& file) {
     const ZrString text = file.text(tag);
-    if (const auto dollar = text.rfind(L'$'); dollar != ZrString::npos)
-        (void)color.setNames(text.substr(dollar + 1), text.substr(0, dollar));
+    const std::size_t dollar = text.rfind(L'$');
+    const bool hasBook = dollar != ZrString::npos && dollar > 0 && dollar + 1 < text.size();
+    (void)(hasBook ? color.setNames(text.substr(dollar + 1), text.substr(0, dollar)) : color.setNames(text, L""));
 }
 
 FieldValue bookColorText(const ZrCmColor& color) {
     if (!color.hasColorName())
         return std::nullopt;
-    return color.bookName() + L"$" + color.colorName();
+    return color.bookName().empty() ? color.colorName() : color.bookName() + L"$" + color.colorName();
 }
 
 } // namespace quor::db

@@ -176,6 +176,23 @@ std::string objectBytes(Database& database, const ObjectEntry& entry) {
     return std::string(database.file().bytes().substr(record.begin, record.length));
 }
 
+namespace {
+
+// Bytes as a drawing of text has them.
+ZrString hexText(std::string_view bytes) {
+    constexpr const wchar_t* digits = L"0123456789ABCDEF";
+    ZrString text;
+    text.reserve(2 * bytes.size());
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        text += digits[byte >> 4];
+        text += digits[byte & 0xF];
+    }
+    return text;
+}
+
+} // namespace
+
 ZrString tagText(const DrawingFile& file, const dxf::Tag& tag) {
     if (file.layout().form == dxf::Form::Ascii)
         return file.codec().decode(tag.raw);
@@ -187,6 +204,8 @@ ZrString tagText(const DrawingFile& file, const dxf::Tag& tag) {
     case dxf::ValueKind::Int64:
     case dxf::ValueKind::Bool:
         return std::to_wstring(tag.asInt().value_or(0));
+    case dxf::ValueKind::Bytes:
+        return hexText(tag.raw);
     default:
         return file.codec().decode(tag.raw);
     }

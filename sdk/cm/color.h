@@ -23,8 +23,9 @@ public:
     Quor::ErrorStatus setColorIndex(int index);
     void setByLayer();
     void setByBlock();
-    // Names a true colour after its place in a colour book; two empty texts take the names away. eInvalidInput, and
-    // nothing changes, when only one is empty or the colour is not a true colour.
+    // Names a true colour after its place in a colour book, or, without a book, as some drawings do; two empty texts
+    // take the names away. eInvalidInput, and nothing changes, for a book without a colour's name and for what is not a
+    // true colour.
     Quor::ErrorStatus setNames(const ZrString& color, const ZrString& book);
 
     // Components 0 to 255; of a numbered colour from the palette, of by layer and by block those of white.
@@ -48,7 +49,7 @@ public:
     // Empty unless hasColorName().
     [[nodiscard]] ZrString bookName() const;
     [[nodiscard]] ZrString colorName() const;
-    // What a person sees: "ByLayer", "ByBlock", the local name of 1 to 7, another number, "r,g,b" or "book$colour".
+    // What a person sees: "ByLayer", "ByBlock", the local name of 1 to 7, another number, "r,g,b", "book$colour" or a name alone.
     [[nodiscard]] ZrString colorNameForDisplay() const;
 
     // The colour as one 32-bit word of a drawing file: method in the top byte (0xC0 by layer, 0xC1 by block,

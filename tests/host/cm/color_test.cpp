@@ -70,16 +70,23 @@ TEST(Color, ABookColourShowsBookAndNameAndLosesThemWithANewValue) {
     EXPECT_EQ(color.bookName(), L"");
 }
 
-TEST(Color, NamesNeedATrueColourAndBothTexts) {
+TEST(Color, NamesNeedATrueColourAndABookNeedsAColour) {
     ZrCmColor numbered = ZrCmColor::fromIndex(3);
     EXPECT_EQ(numbered.setNames(L"tomato", L"Web Colors"), Quor::eInvalidInput);
     ZrCmColor color = ZrCmColor::fromRGB(1, 2, 3);
-    EXPECT_EQ(color.setNames(L"tomato", L""), Quor::eInvalidInput);
     EXPECT_EQ(color.setNames(L"", L"Web Colors"), Quor::eInvalidInput);
     EXPECT_FALSE(color.hasColorName());
     EXPECT_EQ(color.setNames(L"tomato", L"Web Colors"), Quor::eOk);
     EXPECT_EQ(color.setNames(L"", L""), Quor::eOk);
     EXPECT_FALSE(color.hasColorName());
+}
+
+TEST(Color, ANameWithoutABookIsShownAlone) {
+    ZrCmColor color = ZrCmColor::fromRGB(1, 2, 3);
+    EXPECT_EQ(color.setNames(L"tomato", L""), Quor::eOk);
+    EXPECT_TRUE(color.hasColorName());
+    EXPECT_EQ(color.bookName(), L"");
+    EXPECT_EQ(color.colorNameForDisplay(), L"tomato");
 }
 
 TEST(Color, EqualMeansSameMethodValueAndNames) {

@@ -254,6 +254,23 @@ std::string plainLight(const std::string& behind = "") {
                               "0\nDICTIONARY\n5\nC\n330\n0\n100\nAcDbDictionary\n281\n1\n"});
 }
 
+struct OddBookColour : testing::TestWithParam<const char*> {};
+
+TEST_P(OddBookColour, StaysUntilTheColourChangesAndGoesWithIt) {
+    const std::string tags = "63\n1\n421\n16711680\n431\n" + std::string(GetParam()) + "\n";
+    std::string bytes = plainLight();
+    bytes.replace(bytes.find("63\n7\n"), 5, tags);
+    const auto database = parsed(bytes);
+
+    change(lightOf(*database), [](ZrDbLight& light) { light.setIntensity(2); });
+    EXPECT_TRUE(holds(bytesOf(*database), "431|" + std::string(GetParam())));
+
+    change(lightOf(*database), [](ZrDbLight& light) { light.setLightColor(ZrCmColor::fromRGB(1, 2, 3)); });
+    EXPECT_FALSE(holds(bytesOf(*database), "431|" + std::string(GetParam())));
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, OddBookColour, testing::Values("NoDollar", "Book$", "$Colour", "A$B$C"));
+
 TEST(LightSaving, LightWithoutPhotometryGetsItWithAPhotometricValue) {
     const auto database = parsed(plainLight());
     change(lightOf(*database), [](ZrDbLight& light) { light.setPhysicalIntensity(700); });
