@@ -21,7 +21,8 @@ inline constexpr Text kHelp{LR"(用法: quorc [选项]... [图形]
 图形
   -o, --output 文件       最后把图形保存到这里(没有扩展名时加上 .dxf)；脚本中途停下时不保存
       --recover           打开损坏的图形: 列出问题，保留其余部分
-      --set 名称=值       打开图形后设置系统变量(可重复)
+      --set 名称=值       打开图形后设置系统变量(可重复)；与 SETVAR 一样，SUPPORTPATH
+                          等用户变量会保留到以后
 
 如何运行
   -k, --keep-going        命令失败后继续执行脚本
@@ -68,7 +69,8 @@ The drawing
   -o, --output FILE       save the drawing here at the end, unless a script stopped half-way;
                           .dxf is added to a name without extension
       --recover           open a damaged drawing: list what is wrong, keep the rest
-      --set NAME=VALUE    set a system variable once the drawing is open (repeatable)
+      --set NAME=VALUE    set a system variable once the drawing is open (repeatable); as with
+                          SETVAR, your own ones, such as SUPPORTPATH, are kept for later
 
 How to run
   -k, --keep-going        go on with a script after a command has failed
