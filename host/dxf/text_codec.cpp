@@ -5,8 +5,8 @@
 #include <map>
 #include <optional>
 
-#include "host/dxf/code_page.h"
 #include "host/dxf/text_escapes.h"
+#include "host/sys/code_page.h"
 #include "host/sys/utf8.h"
 
 namespace quor::dxf {

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/dxf/code_page.h"
+#include "host/sys/code_page.h"
 #include "host/sys/utf8.h"
 
 namespace {
@@ -47,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Sample{"macintosh", "\x8E", L"é"}, Sample{"UNDEFINED", "\xE9", L"é"}, Sample{"", "\xE9", L"é"}));
 
 TEST(TextCodec, EveryRowOfTheTableHasItsConversion) {
-    for (const auto& row : quor::dxf::codePageNames())
+    for (const auto& row : quor::codePageNames())
         EXPECT_TRUE(old(std::string(row.drawingName).c_str()).isKnown()) << row.drawingName;
 }
 

@@ -1,4 +1,4 @@
-#include "host/dxf/code_page.h"
+#include "host/sys/code_page.h"
 
 #include <algorithm>
 #include <cstring>
@@ -7,7 +7,7 @@
 
 #include "host/sys/utf8.h"
 
-namespace quor::dxf {
+namespace quor {
 namespace {
 
 constexpr std::string_view wideEncoding = "WCHAR_T";
@@ -164,4 +164,4 @@ bool CodePage::append(std::string& out, wchar_t c) const {
     return true;
 }
 
-} // namespace quor::dxf
+} // namespace quor

@@ -1,4 +1,4 @@
-// The code pages of drawing files: their names, and conversion of single characters.
+// The code pages of files: the names that drawings have for them, and conversion of single characters.
 #pragma once
 
 #include <array>
@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace quor::dxf {
+namespace quor {
 
 // A row of the code page table: how $DWGCODEPAGE spells it, and what the conversion library calls it.
 struct CodePageName {
@@ -76,4 +76,4 @@ private:
     std::vector<SingleByte> singles_; // the same by character
 };
 
-} // namespace quor::dxf
+} // namespace quor
