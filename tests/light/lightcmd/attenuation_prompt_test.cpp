@@ -1,28 +1,28 @@
 #include "tests/light/lightcmd/prompt_command.h"
 
-#include <bit>
-
 namespace quor {
 namespace {
 
 using test::PromptCommand;
 
-// The fields of an attenuation record, for a type that its setter refuses, as a later version of the host may know it.
-struct AttenuationFields {
-    double start = 1;
-    double end = 10;
-    int type = 0;
-    bool useLimits = false;
-};
+ZrGiLightAttenuation limits(double start, double end) {
+    ZrGiLightAttenuation attenuation;
+    attenuation.setLimits(start, end);
+    return attenuation;
+}
 
-ZrGiLightAttenuation recordOf(const AttenuationFields& fields) { return std::bit_cast<ZrGiLightAttenuation>(fields); }
+ZrGiLightAttenuation ofType(ZrGiLightAttenuation::AttenuationType type) {
+    ZrGiLightAttenuation attenuation;
+    attenuation.setAttenuationType(type);
+    return attenuation;
+}
 
 class AttenuationPromptTest : public test::PromptCommandTest {
 protected:
     void beginWith(const ZrGiLightAttenuation& attenuation) {
         before = [this, attenuation] { command_.m_pLight->setLightAttenuation(attenuation); };
     }
-    static ZrGiLightAttenuation attenuation() { return light()->lightAttenuation(); }
+    [[nodiscard]] ZrGiLightAttenuation attenuation() const { return light()->lightAttenuation(); }
 };
 
 using AttenuationMenu = AttenuationPromptTest;
@@ -35,31 +35,31 @@ TEST_F(AttenuationMenu, AnswersZeroHoweverItIsLeft) {
 }
 
 TEST_F(AttenuationMenu, ShowsTheLimitsOfTheCommandNotThoseOfTheLight) {
-    beginWith(recordOf({.start = 3, .end = 30}));
+    beginWith(limits(3, 30));
 
     EXPECT_EQ(answerOf(&PromptCommand::promptAttenuation, {L"L", L"", L"E", L"", L"X"}), 0);
 
     EXPECT_EQ(asked()[1], L"\n指定起始界限偏移 <1.0000>: ");
     EXPECT_EQ(asked()[3], L"\n指定结束界限偏移 <10.0000>: ");
-    EXPECT_EQ(attenuation(), recordOf({.start = 3, .end = 30}));
+    EXPECT_EQ(attenuation(), limits(3, 30));
 }
 
 TEST_F(AttenuationMenu, AStartLimitKeepsTheEndLimitOfTheLight) {
-    beginWith(recordOf({.start = 3, .end = 30}));
+    beginWith(limits(3, 30));
 
     EXPECT_EQ(answerOf(&PromptCommand::promptAttenuation, {L"L", L"2", L"X"}), 0);
 
-    EXPECT_EQ(attenuation(), recordOf({.start = 2, .end = 30}));
+    EXPECT_EQ(attenuation(), limits(2, 30));
     EXPECT_EQ(command_.m_startLimit, 2);
     EXPECT_EQ(command_.m_endLimit, 10);
 }
 
 TEST_F(AttenuationMenu, AnEndLimitKeepsTheStartLimitOfTheLight) {
-    beginWith(recordOf({.start = 3, .end = 30}));
+    beginWith(limits(3, 30));
 
     EXPECT_EQ(answerOf(&PromptCommand::promptAttenuation, {L"E", L"20", L"X"}), 0);
 
-    EXPECT_EQ(attenuation(), recordOf({.start = 3, .end = 20}));
+    EXPECT_EQ(attenuation(), limits(3, 20));
     EXPECT_EQ(command_.m_startLimit, 1);
     EXPECT_EQ(command_.m_endLimit, 20);
 }
@@ -86,7 +86,11 @@ using AttenuationTypePrompt = AttenuationPromptTest;
 TEST_F(AttenuationTypePrompt, AnswersOneWhenATypeWasChosen) {
     EXPECT_EQ(answerOf(&PromptCommand::promptAttenuationType, {L"I"}), 1);
 
-    EXPECT_EQ(attenuation(), recordOf({.type = ZrGiLightAttenuation::kInverseLinear}));
+    EXPECT_EQ(attenuation(), ofType(ZrGiLightAttenuation::kInverseLinear));
+}
+
+TEST_F(AttenuationTypePrompt, TheTypeThatTheLightHasIsWrittenTooWhenItIsChosen) {
+    EXPECT_TRUE(writes(&PromptCommand::promptAttenuationType, {L"N"}));
 }
 
 TEST_F(AttenuationTypePrompt, AnswersZeroWhenItIsLeft) {
@@ -95,30 +99,33 @@ TEST_F(AttenuationTypePrompt, AnswersZeroWhenItIsLeft) {
     EXPECT_EQ(answerToBrokenInput(&PromptCommand::promptAttenuationType), 0);
 }
 
-TEST_F(AttenuationTypePrompt, ATypeThatIsUnknownIsShownAsNothingAndKeptByEnter) {
-    beginWith(recordOf({.type = 3}));
-
-    EXPECT_EQ(answerOf(&PromptCommand::promptAttenuationType, {L""}), 0);
-
-    EXPECT_TRUE(asked().back().ends_with(L" <>: "));
-    EXPECT_EQ(attenuation(), recordOf({.type = 3}));
-}
-
-TEST_F(AttenuationTypePrompt, ATypeThatIsUnknownIsReplacedByTheOneChosen) {
-    beginWith(recordOf({.type = 3}));
-
-    EXPECT_EQ(answerOf(&PromptCommand::promptAttenuationType, {L"N"}), 1);
-
-    EXPECT_EQ(attenuation(), recordOf({.type = ZrGiLightAttenuation::kNone}));
+TEST_F(AttenuationTypePrompt, WritesNothingWhenItIsLeft) {
+    EXPECT_FALSE(writes(&PromptCommand::promptAttenuationType, {L""}));
+    EXPECT_FALSE(writes(&PromptCommand::promptAttenuationType, {L"^C"}));
+    front().breakInput();
+    EXPECT_FALSE(writes(&PromptCommand::promptAttenuationType, {}));
 }
 
 using UseLimitsPrompt = AttenuationPromptTest;
 
-TEST_F(UseLimitsPrompt, AnswersOneForOnAndOff) {
+TEST_F(UseLimitsPrompt, OnAnswersOneAndTurnsThemOn) {
     EXPECT_EQ(answerOf(&PromptCommand::promptAttenuationLimits, {L"N"}), 1);
+
     EXPECT_TRUE(attenuation().useLimits());
+}
+
+TEST_F(UseLimitsPrompt, OffAnswersOneAndTurnsThemOff) {
+    ZrGiLightAttenuation limited;
+    limited.setUseLimits(true);
+    beginWith(limited);
 
     EXPECT_EQ(answerOf(&PromptCommand::promptAttenuationLimits, {L"F"}), 1);
+
+    EXPECT_FALSE(attenuation().useLimits());
+}
+
+TEST_F(UseLimitsPrompt, TheUseThatTheLightMakesIsWrittenTooWhenItIsChosen) {
+    EXPECT_TRUE(writes(&PromptCommand::promptAttenuationLimits, {L"F"}));
 }
 
 TEST_F(UseLimitsPrompt, AnswersZeroWhenItIsLeft) {
@@ -127,12 +134,22 @@ TEST_F(UseLimitsPrompt, AnswersZeroWhenItIsLeft) {
     EXPECT_EQ(answerToBrokenInput(&PromptCommand::promptAttenuationLimits), 0);
 }
 
-TEST_F(UseLimitsPrompt, KeepsATypeThatIsUnknown) {
-    beginWith(recordOf({.type = 3}));
+TEST_F(UseLimitsPrompt, WritesNothingWhenItIsLeft) {
+    EXPECT_FALSE(writes(&PromptCommand::promptAttenuationLimits, {L""}));
+    EXPECT_FALSE(writes(&PromptCommand::promptAttenuationLimits, {L"^C"}));
+    front().breakInput();
+    EXPECT_FALSE(writes(&PromptCommand::promptAttenuationLimits, {}));
+}
+
+TEST_F(UseLimitsPrompt, KeepsTheTypeAndTheLimits) {
+    ZrGiLightAttenuation begun = limits(3, 30);
+    begun.setAttenuationType(ZrGiLightAttenuation::kInverseSquare);
+    beginWith(begun);
 
     EXPECT_EQ(answerOf(&PromptCommand::promptAttenuationLimits, {L"N"}), 1);
 
-    EXPECT_EQ(attenuation(), recordOf({.type = 3, .useLimits = true}));
+    begun.setUseLimits(true);
+    EXPECT_EQ(attenuation(), begun);
 }
 
 } // namespace

@@ -10,14 +10,7 @@ constexpr int feet = 2;
 
 using test::PromptCommand;
 
-class PhotometryPromptTest : public test::PromptCommandTest {
-protected:
-    void withLight(std::function<void(ZrDbLight&)> step) {
-        command_.loop = [&] { step(*command_.m_pLight); };
-        session_.session().processor().run(L"PROMPT", false);
-    }
-    test::ScriptedFrontEnd& front() { return session_.front(); }
-};
+class PhotometryPromptTest : public test::PromptCommandTest {};
 
 const ZrString tooLong(260, L'x');
 
@@ -182,7 +175,7 @@ TEST_F(PhotometryPromptTest, TheConversionFollowsTheLightingUnits) {
         zwutads::setVar(L"LIGHTINGUNITS", 1);
         EXPECT_DOUBLE_EQ(command_.convertPhotometricIntensity(2), 375);
         zwutads::setVar(L"LIGHTINGUNITS", 0);
-        EXPECT_DOUBLE_EQ(command_.convertPhotometricIntensity(2), 0.016145865625064584);
+        EXPECT_DOUBLE_EQ(command_.convertPhotometricIntensity(2), 0.016145865625064582);
     });
 }
 

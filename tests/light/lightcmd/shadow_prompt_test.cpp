@@ -1,7 +1,5 @@
 #include "tests/light/lightcmd/prompt_command.h"
 
-#include <bit>
-
 namespace quor {
 namespace {
 
@@ -9,28 +7,23 @@ using test::PromptCommand;
 
 const ZrString tooLongReply(260, L'0');
 
-// The fields of a shadow record, for values that its setters refuse, as a later version of the host may know them.
-struct ShadowFields {
-    double length = 0;
-    double width = 0;
-    double radius = 0;
-    int type = 0;
-    int shape = 1;
-    std::uint16_t mapSize = 256;
-    std::uint16_t samples = 16;
-    std::uint8_t softness = 1;
-    bool on = true;
-    bool visible = false;
-};
+// The record of a new light with something changed.
+ZrGiShadowParameters shadowsWith(void (*change)(ZrGiShadowParameters&)) {
+    ZrGiShadowParameters shadows;
+    change(shadows);
+    return shadows;
+}
 
-ZrGiShadowParameters recordOf(const ShadowFields& fields) { return std::bit_cast<ZrGiShadowParameters>(fields); }
+ZrGiShadowParameters softMapped() {
+    return shadowsWith([](auto& record) { record.setShadowType(ZrGiShadowParameters::kShadowMaps); });
+}
 
 class ShadowPromptTest : public test::PromptCommandTest {
 protected:
     void beginWith(const ZrGiShadowParameters& shadows) {
         before = [this, shadows] { command_.m_pLight->setShadowParameters(shadows); };
     }
-    static ZrGiShadowParameters shadows() {
+    [[nodiscard]] ZrGiShadowParameters shadows() const {
         ZrGiShadowParameters shadows;
         light()->shadowParameters(shadows);
         return shadows;
@@ -42,13 +35,13 @@ using ShadowKindPrompt = ShadowPromptTest;
 TEST_F(ShadowKindPrompt, AnswersRtnormForAKind) { EXPECT_EQ(answerOf(&PromptCommand::promptShadow, {L"S"}), RTNORM); }
 
 TEST_F(ShadowKindPrompt, AnswersRtnoneForEnterWhateverTheQuestionsBehindItAnswer) {
-    beginWith(recordOf({.type = ZrGiShadowParameters::kShadowMaps}));
+    beginWith(softMapped());
 
     EXPECT_EQ(answerOf(&PromptCommand::promptShadow, {L"", L"^C"}), RTNONE);
 }
 
 TEST_F(ShadowKindPrompt, AnswersRtcanForEscWhateverTheQuestionsBehindItAnswer) {
-    beginWith(recordOf({.type = ZrGiShadowParameters::kShadowMaps}));
+    beginWith(softMapped());
 
     EXPECT_EQ(answerOf(&PromptCommand::promptShadow, {L"^C", L"512", L"5"}), RTCAN);
 
@@ -57,44 +50,29 @@ TEST_F(ShadowKindPrompt, AnswersRtcanForEscWhateverTheQuestionsBehindItAnswer) {
 }
 
 TEST_F(ShadowKindPrompt, AnswersRterrorForBrokenInputAndKeepsTheKind) {
-    beginWith(recordOf({.on = false}));
+    beginWith(shadowsWith([](auto& record) { record.setShadowsOn(false); }));
 
     EXPECT_EQ(answerToBrokenInput(&PromptCommand::promptShadow), RTERROR);
 
     EXPECT_FALSE(shadows().shadowsOn());
 }
 
-TEST_F(ShadowKindPrompt, AKindThatIsUnknownIsShownAsNothingAndKeptByEnter) {
-    beginWith(recordOf({.type = 3}));
-
-    EXPECT_EQ(answerOf(&PromptCommand::promptShadow, {L""}), RTNONE);
-
-    EXPECT_TRUE(asked().back().ends_with(L" <>: "));
-    EXPECT_EQ(shadows(), recordOf({.type = 3}));
-}
-
-TEST_F(ShadowKindPrompt, AKindThatIsUnknownIsKeptByEsc) {
-    beginWith(recordOf({.type = -1}));
-
-    EXPECT_EQ(answerOf(&PromptCommand::promptShadow, {L"^C"}), RTCAN);
-
-    EXPECT_EQ(shadows(), recordOf({.type = -1}));
-}
-
-TEST_F(ShadowKindPrompt, AKindThatIsUnknownIsReplacedByTheOneChosen) {
-    beginWith(recordOf({.type = 3}));
-
-    EXPECT_EQ(answerOf(&PromptCommand::promptShadow, {L"S"}), RTNORM);
-
-    EXPECT_EQ(shadows(), recordOf({.type = ZrGiShadowParameters::kShadowsRayTraced}));
-}
-
-TEST_F(ShadowKindPrompt, AKindThatIsUnknownShowsAsOffWhileTheShadowsAreOff) {
-    beginWith(recordOf({.type = 3, .on = false}));
+TEST_F(ShadowKindPrompt, ShadowsThatAreOffShowAsOffWhateverTheirTypeAndKeepIt) {
+    const ZrGiShadowParameters begun = shadowsWith([](auto& record) {
+        record.setShadowType(ZrGiShadowParameters::kShadowMaps);
+        record.setShadowsOn(false);
+    });
+    beginWith(begun);
 
     EXPECT_EQ(answerOf(&PromptCommand::promptShadow, {L""}), RTNONE);
 
     EXPECT_TRUE(asked().back().ends_with(L" <关>: "));
+    EXPECT_EQ(shadows(), begun);
+}
+
+TEST_F(ShadowKindPrompt, TheKindThatTheLightHasIsWrittenAgainByEnterAndEsc) {
+    EXPECT_TRUE(writes(&PromptCommand::promptShadow, {L""}));
+    EXPECT_TRUE(writes(&PromptCommand::promptShadow, {L"^C"}));
 }
 
 TEST_F(ShadowKindPrompt, ALightThatRefusesTheRecordKeepsItsOwn) {
@@ -141,13 +119,18 @@ TEST_F(MapSizePrompt, AnswersZeroForAReplyThatIsTooLong) {
     EXPECT_EQ(answerOf(&PromptCommand::promptShadowMapSize, {tooLongReply}), 0);
 }
 
-TEST_F(MapSizePrompt, ASizeThatTheRecordWouldRefuseIsKeptByEnter) {
-    beginWith(recordOf({.mapSize = 300}));
+TEST_F(MapSizePrompt, ASizeIsKeptByEnterAndWrittenAgain) {
+    beginWith(shadowsWith([](auto& record) { record.setShadowMapSize(1024); }));
 
-    EXPECT_EQ(answerOf(&PromptCommand::promptShadowMapSize, {L""}), 1);
+    EXPECT_TRUE(writes(&PromptCommand::promptShadowMapSize, {L""}));
 
-    EXPECT_TRUE(asked().back().ends_with(L" <300>: "));
-    EXPECT_EQ(shadows(), recordOf({.mapSize = 300}));
+    EXPECT_TRUE(asked().back().ends_with(L" <1024>: "));
+    EXPECT_EQ(shadows().shadowMapSize(), 1024);
+}
+
+TEST_F(MapSizePrompt, NothingIsWrittenWhenItIsLeft) {
+    EXPECT_FALSE(writes(&PromptCommand::promptShadowMapSize, {L"^C"}));
+    EXPECT_FALSE(writes(&PromptCommand::promptShadowMapSize, {tooLongReply}));
 }
 
 using SoftnessPrompt = ShadowPromptTest;
@@ -166,6 +149,11 @@ TEST_F(SoftnessPrompt, AnswersTrueForBrokenInput) {
 
 TEST_F(SoftnessPrompt, AnswersTrueForAReplyThatIsTooLong) {
     EXPECT_TRUE(answerOf(&PromptCommand::promptShadowSoftness, {tooLongReply}));
+}
+
+TEST_F(SoftnessPrompt, NothingIsWrittenWhenItIsLeft) {
+    EXPECT_FALSE(writes(&PromptCommand::promptShadowSoftness, {L"^C"}));
+    EXPECT_FALSE(writes(&PromptCommand::promptShadowSoftness, {tooLongReply}));
 }
 
 using SampledMenu = ShadowPromptTest;
@@ -198,7 +186,7 @@ TEST_F(SamplesPrompt, AnswersZeroForEnter) { EXPECT_EQ(answerOf(&PromptCommand::
 TEST_F(SamplesPrompt, AnswersZeroForEsc) { EXPECT_EQ(answerOf(&PromptCommand::promptShadowSamples, {L"^C"}), 0); }
 
 TEST_F(SamplesPrompt, ShowsTheCountOfTheCommandNotThatOfTheLight) {
-    beginWith(recordOf({.samples = 100}));
+    beginWith(shadowsWith([](auto& record) { record.setShadowSamples(100); }));
 
     EXPECT_EQ(answerOf(&PromptCommand::promptShadowSamples, {L"^C"}), 0);
 
@@ -214,6 +202,38 @@ TEST_F(VisibilityPrompt, AnswersTrueForEveryAnswer) {
     EXPECT_TRUE(answerToBrokenInput(&PromptCommand::promptShadowVisibility));
 }
 
+TEST_F(VisibilityPrompt, WritesTheRecordWhateverIsAnswered) {
+    EXPECT_TRUE(writes(&PromptCommand::promptShadowVisibility, {L"Y"}));
+    EXPECT_TRUE(writes(&PromptCommand::promptShadowVisibility, {L"N"}));
+    EXPECT_TRUE(writes(&PromptCommand::promptShadowVisibility, {L""}));
+    EXPECT_TRUE(writes(&PromptCommand::promptShadowVisibility, {L"^C"}));
+    front().breakInput();
+    EXPECT_TRUE(writes(&PromptCommand::promptShadowVisibility, {}));
+}
+
+TEST_F(VisibilityPrompt, EnterAndEscKeepAShapeThatIsVisible) {
+    beginWith(shadowsWith([](auto& record) { record.setShapeVisibility(true); }));
+
+    EXPECT_TRUE(answerOf(&PromptCommand::promptShadowVisibility, {L""}));
+    EXPECT_TRUE(shadows().shapeVisibility());
+    EXPECT_TRUE(answerOf(&PromptCommand::promptShadowVisibility, {L"^C"}));
+    EXPECT_TRUE(shadows().shapeVisibility());
+}
+
+TEST_F(VisibilityPrompt, YesMakesTheShapeVisible) {
+    EXPECT_TRUE(answerOf(&PromptCommand::promptShadowVisibility, {L"Y"}));
+
+    EXPECT_TRUE(shadows().shapeVisibility());
+}
+
+TEST_F(VisibilityPrompt, NoHidesAShapeThatIsVisible) {
+    beginWith(shadowsWith([](auto& record) { record.setShapeVisibility(true); }));
+
+    EXPECT_TRUE(answerOf(&PromptCommand::promptShadowVisibility, {L"N"}));
+
+    EXPECT_FALSE(shadows().shapeVisibility());
+}
+
 using ShapePrompt = ShadowPromptTest;
 
 TEST_F(ShapePrompt, AnswersFalseForEveryAnswer) {
@@ -222,31 +242,18 @@ TEST_F(ShapePrompt, AnswersFalseForEveryAnswer) {
     EXPECT_FALSE(answerToBrokenInput(&PromptCommand::promptShadowShape));
 }
 
-TEST_F(ShapePrompt, AShapeThatIsUnknownIsShownAsNothingAndKeptByEnter) {
-    beginWith(recordOf({.shape = 5}));
-
-    EXPECT_FALSE(answerOf(&PromptCommand::promptShadowShape, {L""}));
-
-    EXPECT_TRUE(asked().back().ends_with(L" <>: "));
-    EXPECT_EQ(shadows(), recordOf({.shape = 5}));
-}
-
-TEST_F(ShapePrompt, AShapeThatIsUnknownIsReplacedByTheOneChosen) {
-    beginWith(recordOf({.shape = 5}));
-
-    EXPECT_FALSE(answerOf(&PromptCommand::promptShadowShape, {L"S", L"2"}));
-
-    EXPECT_EQ(shadows(), recordOf({.radius = 2, .shape = ZrGiShadowParameters::kSphere}));
-}
-
 TEST_F(ShapePrompt, EnterTakesTheShapeOfASpotLightAlsoWhenItIsNotOffered) {
     command_.prefix = L"聚光灯";
-    beginWith(recordOf({.shape = ZrGiShadowParameters::kCylinder}));
+    beginWith(shadowsWith([](auto& record) { record.setExtendedLightShape(ZrGiShadowParameters::kCylinder); }));
 
     EXPECT_FALSE(answerOf(&PromptCommand::promptShadowShape, {L"", L"3", L"4"}));
 
     EXPECT_EQ(asked().front(), L"\n输入形 [圆盘形(D)/矩形(R)] <圆柱体>:");
-    EXPECT_EQ(shadows(), recordOf({.length = 4, .radius = 3, .shape = ZrGiShadowParameters::kCylinder}));
+    EXPECT_EQ(shadows(), shadowsWith([](auto& record) {
+                  record.setExtendedLightShape(ZrGiShadowParameters::kCylinder);
+                  record.setExtendedLightRadius(3);
+                  record.setExtendedLightLength(4);
+              }));
 }
 
 TEST_F(ShapePrompt, TheWordOfTheCommandDecidesNotTheTypeOfTheLight) {
@@ -280,16 +287,19 @@ TEST_F(SizePrompts, TheWidthAnswersFalseAlways) {
 }
 
 TEST_F(SizePrompts, EachChangesItsOwnSize) {
-    command_.loop = [this] {
-        command_.promptShadowLength();
-        command_.promptShadowWidth();
-        command_.promptShadowRadius();
-    };
-    session_.front().type({L"1", L"2", L"3"});
+    withLight(
+        [this](ZrDbLight&) {
+            command_.promptShadowLength();
+            command_.promptShadowWidth();
+            command_.promptShadowRadius();
+        },
+        {L"1", L"2", L"3"});
 
-    session_.session().processor().run(L"PROMPT", false);
-
-    EXPECT_EQ(shadows(), recordOf({.length = 1, .width = 2, .radius = 3}));
+    EXPECT_EQ(shadows(), shadowsWith([](auto& record) {
+                  record.setExtendedLightLength(1);
+                  record.setExtendedLightWidth(2);
+                  record.setExtendedLightRadius(3);
+              }));
 }
 
 } // namespace
