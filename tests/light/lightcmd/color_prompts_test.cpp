@@ -1,85 +1,42 @@
 #include "light/lightcmd/color_input.h"
-#include "light/lightcmd/multi_light.h"
 #include "light/lightcmd/replies.h"
-#include "sdk/db/database.h"
-#include "sdk/rx/result_codes.h"
-#include "sdk/sys/ads.h"
-#include "tests/support/test_session.h"
+#include "tests/light/lightcmd/prompt_command.h"
 
 #include <fstream>
-#include <gtest/gtest.h>
 
 namespace quor {
 namespace {
 
-// A light command that asks one of the questions about a colour and keeps what it answers.
-class ColorCommand : public CZrMultiLight {
-public:
-    ColorCommand() : CZrMultiLight(L"Color") {}
-    [[nodiscard]] const wchar_t* typeName() const override { return L"COLORCMD"; }
+using test::PromptCommand;
 
-    ZrCmColor color = ZrCmColor::fromRGB(10, 20, 30); // before the question, then after it
-    bool losesLight = false;
-    bool isForRead = false; // then the light refuses every change
-    int result = 0;
-
-    void trueColor() { result = promptColor(); }
-    void indexColor() { result = promptIndexColor(); }
-    void hslColor() { result = promptHslColor(); }
-    void bookColor() { result = promptColorBookColor(); }
-    void (ColorCommand::*question)() = &ColorCommand::trueColor;
-
-protected:
-    int optionLoop() override {
-        m_pLight->setLightColor(color);
-        if (isForRead)
-            reopenForRead();
-        ZrDbLight* const light = m_pLight;
-        m_pLight = losesLight ? nullptr : light;
-        (this->*question)();
-        m_pLight = light;
-        color = m_pLight->lightColor();
-        return RTCAN;
-    }
-
-private:
-    void reopenForRead() {
-        const ZrDbObjectId id = m_pLight->objectId();
-        m_pLight->close();
-        ASSERT_EQ(zrdbOpenObject(m_pLight, id, ZrDb::kForRead), Quor::eOk);
-    }
-};
-
-class ColorPromptsTest : public testing::Test {
+class ColorPromptsTest : public test::PromptCommandTest {
 protected:
     ColorPromptsTest() {
-        session_.addCommand(L"COLOR", [this] { return command_.execute(); });
-        zwutads::setVar(L"DEFAULTLIGHTING", 0);
+        before = [this] { beginWithColor(); };
         light::s_lastColorBook.clear();
         light::s_lastBookColor.clear();
     }
 
-    int ask(void (ColorCommand::*question)(), std::initializer_list<ZrString> answers) {
-        session_.front().type(answers);
-        command_.question = question;
-        session_.session().processor().run(L"COLOR", false);
-        return command_.result;
+    // Each question is asked for a light of its own, which begins with the colour of the one before.
+    int ask(Prompt<int> prompt, std::initializer_list<ZrString> lines) {
+        const int result = answerOf(prompt, lines);
+        color_ = light()->lightColor();
+        return result;
     }
-    int askTrueColor(std::initializer_list<ZrString> answers) { return ask(&ColorCommand::trueColor, answers); }
-    int askIndex(std::initializer_list<ZrString> answers) { return ask(&ColorCommand::indexColor, answers); }
-    int askHsl(std::initializer_list<ZrString> answers) { return ask(&ColorCommand::hslColor, answers); }
-    int askBook(std::initializer_list<ZrString> answers) { return ask(&ColorCommand::bookColor, answers); }
+    int askTrueColor(std::initializer_list<ZrString> lines) { return ask(&PromptCommand::promptColor, lines); }
+    int askIndex(std::initializer_list<ZrString> lines) { return ask(&PromptCommand::promptIndexColor, lines); }
+    int askHsl(std::initializer_list<ZrString> lines) { return ask(&PromptCommand::promptHslColor, lines); }
+    int askBook(std::initializer_list<ZrString> lines) { return ask(&PromptCommand::promptColorBookColor, lines); }
 
-    [[nodiscard]] ZrString shown() const { return command_.color.colorNameForDisplay(); }
-    test::ScriptedFrontEnd& front() { return session_.front(); }
+    void beginWithColor() { ASSERT_EQ(command_.m_pLight->setLightColor(color_), Quor::eOk); }
+    [[nodiscard]] ZrString shown() const { return color_.colorNameForDisplay(); }
     // A book in the user's own folder.
     void writeBook(const std::string& text) {
         std::filesystem::create_directories(session_.folder() / "colorbooks");
         std::ofstream(session_.folder() / "colorbooks" / "own.book") << text;
     }
 
-    test::TestSession session_;
-    ColorCommand command_;
+    ZrCmColor color_ = ZrCmColor::fromRGB(10, 20, 30); // of the light before the question, then after it
 };
 
 TEST_F(ColorPromptsTest, AColourThatIsSetAnswersTheStatusOfTheLight) {
@@ -94,7 +51,10 @@ TEST_F(ColorPromptsTest, AColourThatIsSetAnswersTheStatusOfTheLight) {
 }
 
 TEST_F(ColorPromptsTest, AColourThatTheLightRefusesAnswersItsStatusAndIsNotTold) {
-    command_.isForRead = true;
+    before = [this] {
+        beginWithColor();
+        command_.reopenForRead();
+    };
 
     EXPECT_EQ(askTrueColor({L"1,2,3"}), Quor::eNotOpenForWrite);
     EXPECT_EQ(askIndex({L"5"}), Quor::eNotOpenForWrite);
@@ -119,26 +79,45 @@ TEST_F(ColorPromptsTest, TheTrueColourQuestionAnswersWhatTheNextQuestionAnswers)
     EXPECT_EQ(shown(), L"Web Colors$gold");
 }
 
-TEST_F(ColorPromptsTest, AnInputThatBreaksLeavesEveryQuestion) {
-    front().breakInput();
-    EXPECT_EQ(askTrueColor({}), RTERROR);
+// A question, reached from a prompt by the lines before it.
+struct BrokenQuestion {
+    const char* name;
+    int (CZrMultiLight::*prompt)();
+    std::vector<ZrString> lines;
+    int result;
+};
+
+class InputThatBreaks : public ColorPromptsTest, public testing::WithParamInterface<BrokenQuestion> {
+protected:
+    void typeAndBreak(const std::vector<ZrString>& lines) {
+        for (const ZrString& line : lines)
+            front().type(line);
+        front().breakInput();
+    }
+};
+
+TEST_P(InputThatBreaks, LeavesTheQuestionAndTheColour) {
+    typeAndBreak(GetParam().lines);
+
+    EXPECT_EQ(ask(GetParam().prompt, {}), GetParam().result);
+
+    EXPECT_EQ(asked().size(), GetParam().lines.size() + 1);
     EXPECT_EQ(shown(), L"10,20,30");
 }
 
-TEST_F(ColorPromptsTest, AnInputThatBreaksLeavesTheIndexQuestion) {
-    front().breakInput();
-    EXPECT_EQ(askIndex({}), RTERROR);
-}
-
-TEST_F(ColorPromptsTest, AnInputThatBreaksLeavesTheHslQuestion) {
-    front().breakInput();
-    EXPECT_EQ(askHsl({}), -1);
-}
-
-TEST_F(ColorPromptsTest, AnInputThatBreaksLeavesTheQuestionForABook) {
-    front().breakInput();
-    EXPECT_EQ(askBook({}), 0);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Questions, InputThatBreaks,
+    testing::Values(BrokenQuestion{"TrueColour", &PromptCommand::promptColor, {}, RTERROR},
+                    BrokenQuestion{"Index", &PromptCommand::promptIndexColor, {}, RTERROR},
+                    BrokenQuestion{"Hsl", &PromptCommand::promptHslColor, {}, -1},
+                    BrokenQuestion{"Book", &PromptCommand::promptColorBookColor, {}, 0},
+                    BrokenQuestion{"ColourOfABook", &PromptCommand::promptColorBookColor, {L"Web Colors"}, 0},
+                    BrokenQuestion{"IndexBehindTrueColour", &PromptCommand::promptColor, {L"I"}, RTERROR},
+                    BrokenQuestion{"HslBehindTrueColour", &PromptCommand::promptColor, {L"H"}, -1},
+                    BrokenQuestion{"BookBehindTrueColour", &PromptCommand::promptColor, {L"B"}, 0},
+                    BrokenQuestion{
+                        "ColourOfABookBehindTrueColour", &PromptCommand::promptColor, {L"B", L"Web Colors"}, 0}),
+    [](const auto& row) { return row.param.name; });
 
 TEST_F(ColorPromptsTest, TheIndexQuestionAnswersHowItWasLeft) {
     EXPECT_EQ(askIndex({L"^C"}), RTCAN);
@@ -161,7 +140,7 @@ TEST_F(ColorPromptsTest, TheHslQuestionAnswersMinusOneHoweverItWasLeft) {
 }
 
 TEST_F(ColorPromptsTest, AColourByLayerIsShownAsWhiteInHsl) {
-    command_.color = ZrCmColor();
+    color_ = ZrCmColor();
 
     EXPECT_EQ(askHsl({L""}), -1);
 
@@ -235,7 +214,7 @@ TEST_F(ColorPromptsTest, NamesOf131CharactersAreFoundAndLongerOnesAreCut) {
 
     EXPECT_EQ(askBook({book, color}), Quor::eOk);
     EXPECT_EQ(shown(), book + L"$" + color);
-    command_.color = ZrCmColor::fromIndex(1);
+    color_ = ZrCmColor::fromIndex(1);
     EXPECT_EQ(askBook({book + L"x", color + L"x"}), Quor::eOk);
     EXPECT_EQ(shown(), book + L"$" + color);
     EXPECT_FALSE(front().shows(L"未找到"));
@@ -261,13 +240,13 @@ TEST_F(ColorPromptsTest, ABrokenBookIsToldBeforeTheFirstQuestionForABookOnly) {
 }
 
 TEST_F(ColorPromptsTest, ALightThatIsGoneIsAskedNothing) {
-    command_.losesLight = true;
+    before = [this] { command_.loseLight(); };
 
     EXPECT_EQ(askTrueColor({}), RTERROR);
     EXPECT_EQ(askIndex({}), RTERROR);
     EXPECT_EQ(askHsl({}), RTERROR);
     EXPECT_EQ(askBook({}), RTERROR);
-    EXPECT_TRUE(front().asked().empty());
+    EXPECT_TRUE(asked().empty());
 }
 
 } // namespace

@@ -1,74 +1,28 @@
 #include "host/sys/path_text.h"
-#include "light/lightcmd/multi_light.h"
-#include "sdk/rx/result_codes.h"
-#include "sdk/sys/ads.h"
-#include "tests/support/test_session.h"
-
-#include <functional>
-#include <gtest/gtest.h>
+#include "host/sys/system_variables.h"
+#include "tests/light/lightcmd/prompt_command.h"
 
 namespace quor {
 namespace {
 
 namespace fs = std::filesystem;
 
-// A web light whose option loop is one given step.
-class WebCommand : public CZrMultiLight {
-public:
-    WebCommand() : CZrMultiLight(L"Web") {}
-    [[nodiscard]] const wchar_t* typeName() const override { return L"WEBCMD"; }
+using test::PromptCommand;
 
-    using CZrMultiLight::chooseWebFile;
-    using CZrMultiLight::promptWeb;
-    using CZrMultiLight::promptWebFile;
-    using CZrMultiLight::promptWebRotation;
-
-    std::function<int()> step;
-    int result = 0; // what the step answered
-
-    [[nodiscard]] ZrDbLight& light() const { return *m_pLight; }
-    [[nodiscard]] const ZrString& shownFile() const { return m_webFile; }
-    void reopenForRead() {
-        const ZrDbObjectId id = m_pLight->objectId();
-        m_pLight->close();
-        zrdbOpenObject(m_pLight, id, ZrDb::kForRead);
-    }
-    void loseLight() {
-        m_pLight->close();
-        m_pLight = nullptr;
-    }
-
+class WebPromptTest : public test::PromptCommandTest {
 protected:
-    bool placeLight() override { return m_pLight->setLightType(DrawableType::kWebLight) == Quor::eOk; }
-    int optionLoop() override {
-        result = step();
-        return RTNORM;
-    }
-};
+    WebPromptTest() { command_.type = DrawableType::kWebLight; }
 
-class WebPromptTest : public testing::Test {
-protected:
-    WebPromptTest() {
-        session_.addCommand(L"WEB", [this] { return command_.execute(); });
-        zwutads::setVar(L"DEFAULTLIGHTING", 0);
-    }
-
-    // What the step answers when these lines are typed.
-    int answer(std::function<int()> step, std::initializer_list<ZrString> lines = {}) {
-        front().type(lines);
-        command_.step = std::move(step);
-        session_.session().processor().run(L"WEB", false);
-        return command_.result;
-    }
-    int answerOfMenu(std::initializer_list<ZrString> lines) {
-        return answer([this] { return command_.promptWeb(); }, lines);
-    }
-    int answerOfFile(std::initializer_list<ZrString> lines) {
-        return answer([this] { return command_.promptWebFile(); }, lines);
+    int answerOfMenu(std::initializer_list<ZrString> lines) { return answerOf(&PromptCommand::promptWeb, lines); }
+    int answerOfFile(std::initializer_list<ZrString> lines) { return answerOf(&PromptCommand::promptWebFile, lines); }
+    int answerOfRotation(const wchar_t* axis, double& value, std::initializer_list<ZrString> lines) {
+        return answer([&] { return command_.promptWebRotation(axis, value); }, lines);
     }
     int answerOfChoice(const ZrString& reply) {
-        return answer([this, reply] { return command_.chooseWebFile(reply); });
+        return answer([&] { return command_.chooseWebFile(reply); });
     }
+    // The default that the question for the file shows.
+    [[nodiscard]] const ZrString& shownFile() const { return command_.m_webFile; }
     // A web file of that name in a folder of the test's own; its path.
     [[nodiscard]] ZrString makeWeb(const char* name) const {
         const fs::path file = session_.folder() / name;
@@ -76,10 +30,6 @@ protected:
         return textOf(file);
     }
     [[nodiscard]] ZrString inFolder(const char* name) const { return textOf(session_.folder() / name); }
-    test::ScriptedFrontEnd& front() { return session_.front(); }
-
-    test::TestSession session_;
-    WebCommand command_;
 };
 
 // The menu.
@@ -120,34 +70,27 @@ TEST_F(WebPromptTest, InputThatBreaksAtTheMenuIsAskedAgainUntilItEnds) {
 }
 
 TEST_F(WebPromptTest, WithoutALightAnyItemLeavesTheMenu) {
-    const auto menuWithoutLight = [this] {
-        command_.loseLight();
-        return command_.promptWeb();
-    };
+    before = [this] { command_.loseLight(); };
 
-    EXPECT_EQ(answer(menuWithoutLight, {L"F"}), RTNORM);
-    EXPECT_EQ(answer(menuWithoutLight, {L"X"}), RTNORM);
-    EXPECT_EQ(answer(menuWithoutLight, {L"E"}), RTNORM);
-    EXPECT_EQ(answer(menuWithoutLight, {L""}), RTNONE);
-    EXPECT_EQ(answer(menuWithoutLight, {L"^C"}), RTCAN);
+    EXPECT_EQ(answerOfMenu({L"F"}), RTNORM);
+    EXPECT_EQ(answerOfMenu({L"X"}), RTNORM);
+    EXPECT_EQ(answerOfMenu({L"E"}), RTNORM);
+    EXPECT_EQ(answerOfMenu({L""}), RTNONE);
+    EXPECT_EQ(answerOfMenu({L"^C"}), RTCAN);
 }
 
 TEST_F(WebPromptTest, ARotationThatTheLightRefusesGoesBackToTheMenuSilently) {
+    before = [this] {
+        command_.m_pLight->setWebRotation({1, 2, 3});
+        command_.reopenForRead();
+    };
+
+    EXPECT_EQ(answerOfMenu({L"X", L"10", L""}), RTNONE);
+
     ZrGeVector3d rotation;
-
-    EXPECT_EQ(answer(
-                  [&] {
-                      command_.light().setWebRotation({1, 2, 3});
-                      command_.reopenForRead();
-                      const int result = command_.promptWeb();
-                      command_.light().webRotation(rotation);
-                      return result;
-                  },
-                  {L"X", L"10", L""}),
-              RTNONE);
-
+    light()->webRotation(rotation);
     EXPECT_EQ(rotation, ZrGeVector3d(1, 2, 3));
-    EXPECT_EQ(front().asked().size(), 3U);
+    EXPECT_EQ(asked().size(), 3U);
 }
 
 // The rotation.
@@ -155,7 +98,7 @@ TEST_F(WebPromptTest, ARotationThatTheLightRefusesGoesBackToTheMenuSilently) {
 TEST_F(WebPromptTest, ATypedRotationIsAnswered) {
     double value = 1.5;
 
-    EXPECT_EQ(answer([&] { return command_.promptWebRotation(L"Y", value); }, {L"370"}), RTNORM);
+    EXPECT_EQ(answerOfRotation(L"Y", value, {L"370"}), RTNORM);
 
     EXPECT_EQ(value, 370);
     EXPECT_EQ(front().asked().back(), L"\n输入光域网 Y 旋转 <1.5000>: ");
@@ -164,8 +107,8 @@ TEST_F(WebPromptTest, ATypedRotationIsAnswered) {
 TEST_F(WebPromptTest, EnterAndEscLeaveTheRotationAsItIs) {
     double value = 1.5;
 
-    EXPECT_EQ(answer([&] { return command_.promptWebRotation(L"Z", value); }, {L""}), RTNONE);
-    EXPECT_EQ(answer([&] { return command_.promptWebRotation(L"Z", value); }, {L"^C"}), RTCAN);
+    EXPECT_EQ(answerOfRotation(L"Z", value, {L""}), RTNONE);
+    EXPECT_EQ(answerOfRotation(L"Z", value, {L"^C"}), RTCAN);
     EXPECT_EQ(value, 1.5);
 }
 
@@ -173,20 +116,25 @@ TEST_F(WebPromptTest, EnterAndEscLeaveTheRotationAsItIs) {
 
 TEST_F(WebPromptTest, AFileIsSetAndShownFromThenOn) {
     const ZrString file = makeWeb("a.ies");
-    ZrString set;
 
-    EXPECT_EQ(answer(
-                  [&] {
-                      const int result = command_.promptWebFile();
-                      set = command_.light().webFile();
-                      return result;
-                  },
-                  {file}),
-              RTNORM);
+    EXPECT_EQ(answerOfMenu({L"F", file, L"F", L"", L""}), RTNONE);
 
-    EXPECT_EQ(set, file);
-    EXPECT_EQ(command_.shownFile(), file);
-    EXPECT_EQ(front().asked().back(), L"\n输入光域网文件 <>: ");
+    EXPECT_EQ(light()->webFile(), file);
+    EXPECT_EQ(shownFile(), file);
+    EXPECT_EQ(asked()[1], L"\n输入光域网文件 <>: ");
+    EXPECT_EQ(asked()[3], L"\n输入光域网文件 <" + file + L">: ");
+}
+
+// The name below the support path is relative; a light keeps the full one, so that it finds its web from anywhere.
+TEST_F(WebPromptTest, ARelativeReplySetsTheFullNameOfTheFileFound) {
+    fs::create_directory(session_.folder() / "lamps");
+    const ZrString file = makeWeb("lamps/a.ies");
+    ASSERT_EQ(session_.session().variables().set(L"SUPPORTPATH", textOf(session_.folder())), sys::SetResult::Ok);
+
+    EXPECT_EQ(answerOfFile({L"lamps/a.ies"}), RTNORM);
+
+    EXPECT_EQ(light()->webFile(), file);
+    EXPECT_EQ(shownFile(), file);
 }
 
 TEST_F(WebPromptTest, EnterAtTheFileAnswersAsAFileDoes) { EXPECT_EQ(answerOfFile({L""}), RTNORM); }
@@ -199,41 +147,30 @@ TEST_F(WebPromptTest, EscAndExitAtTheFileAnswerTheSame) {
 }
 
 TEST_F(WebPromptTest, WithoutALightNoFileIsLookedFor) {
-    EXPECT_EQ(answer(
-                  [this] {
-                      command_.loseLight();
-                      return command_.promptWebFile();
-                  },
-                  {L"none.ies"}),
-              RTNORM);
+    before = [this] { command_.loseLight(); };
+
+    EXPECT_EQ(answerOfFile({L"none.ies"}), RTNORM);
+
     EXPECT_FALSE(front().shows(L"无法找到文件"));
 }
 
 TEST_F(WebPromptTest, WithoutALightNoFileIsSet) {
-    const ZrString file = makeWeb("a.ies");
+    before = [this] { command_.loseLight(); };
 
-    EXPECT_EQ(answer([&] {
-                  command_.loseLight();
-                  return command_.chooseWebFile(file);
-              }),
-              RTERROR);
-    EXPECT_EQ(command_.shownFile(), L"");
+    EXPECT_EQ(answerOfChoice(makeWeb("a.ies")), RTERROR);
+
+    EXPECT_EQ(shownFile(), L"");
 }
 
 TEST_F(WebPromptTest, AFileThatTheLightRefusesIsAskedAgainSilently) {
     const ZrString file = makeWeb("a.ies");
+    before = [this] { command_.reopenForRead(); };
 
-    EXPECT_EQ(answer(
-                  [this] {
-                      command_.reopenForRead();
-                      return command_.promptWebFile();
-                  },
-                  {file, L""}),
-              RTNORM);
+    EXPECT_EQ(answerOfFile({file, L""}), RTNORM);
 
-    EXPECT_EQ(front().asked().size(), 2U);
+    EXPECT_EQ(asked().size(), 2U);
     EXPECT_EQ(front().screen(), L"输入光域网文件 <>: " + file + L"\n输入光域网文件 <>: \n");
-    EXPECT_EQ(command_.shownFile(), L"");
+    EXPECT_EQ(shownFile(), L"");
 }
 
 TEST_F(WebPromptTest, AReplyThatIsNotFoundAnswersAnError) {
@@ -252,7 +189,7 @@ TEST_F(WebPromptTest, AnInvalidNameAnswersAsAFileDoesAndIsNotSet) {
     EXPECT_EQ(answerOfChoice(file), RTNORM);
 
     EXPECT_TRUE(front().shows(L"无效的文件名 “" + file + L"”。"));
-    EXPECT_EQ(command_.shownFile(), L"");
+    EXPECT_EQ(shownFile(), L"");
 }
 
 TEST_F(WebPromptTest, TheExtensionMayStandInTheNameOfAFolder) {
@@ -260,7 +197,7 @@ TEST_F(WebPromptTest, TheExtensionMayStandInTheNameOfAFolder) {
     const ZrString file = makeWeb("my.ies.files/a.txt");
 
     EXPECT_EQ(answerOfChoice(file), RTNORM);
-    EXPECT_EQ(command_.shownFile(), file);
+    EXPECT_EQ(shownFile(), file);
 }
 
 // The dialog.
@@ -287,7 +224,7 @@ TEST_F(WebPromptTest, ACancelledDialogAnswersAsAFileDoesAndSaysNothing) {
     EXPECT_EQ(answerOfChoice(L"~"), RTNORM);
 
     EXPECT_EQ(front().screen(), L"");
-    EXPECT_EQ(command_.shownFile(), L"");
+    EXPECT_EQ(shownFile(), L"");
 }
 
 TEST_F(WebPromptTest, TheFileFromTheDialogIsSet) {
@@ -295,7 +232,7 @@ TEST_F(WebPromptTest, TheFileFromTheDialogIsSet) {
     front().choose(file);
 
     EXPECT_EQ(answerOfChoice(L"~"), RTNORM);
-    EXPECT_EQ(command_.shownFile(), file);
+    EXPECT_EQ(shownFile(), file);
 }
 
 TEST_F(WebPromptTest, AnEmptyPathFromTheDialogIsAnInvalidName) {
