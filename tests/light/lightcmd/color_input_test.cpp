@@ -1,10 +1,6 @@
 #include "light/lightcmd/color_input.h"
 
-#include "sdk/sys/ads.h"
-#include "tests/support/test_session.h"
-
-#include <fstream>
-#include <gtest/gtest.h>
+#include "tests/light/lightcmd/translated_session.h"
 
 namespace quor::light {
 namespace {
@@ -149,14 +145,7 @@ TEST_F(ColorInputTest, WhatIsNoNameIsCutBeforeItsFirstCharacterThatIsNoDigit) {
 TEST_F(ColorInputTest, NoTextIsNoIndex) { EXPECT_FALSE(isColorIndexName(nullptr)); }
 
 TEST(ColorInputInAnotherLanguage, TheNamesOfThePackAreNames) {
-    const test::TemporaryFolder folder;
-    std::filesystem::create_directories(folder.path() / "lang" / "en");
-    std::ofstream(folder.path() / "lang" / "en" / "quorcmdres.txt") << "6924 = \"Scarlet\"\n";
-    test::ScriptedFrontEnd front;
-    const Session session(front, {.settingsFile = folder.path() / "settings.ini",
-                                  .resourceFolder = folder.path(),
-                                  .moduleFolders = {},
-                                  .language = L"en"});
+    const test::TranslatedSession session("quorcmdres.txt", "6924 = \"Scarlet\"\n");
     ZrString pack = L"SCARLET";
     ZrString english = L"red";
     ZrString builtIn = L"红";
