@@ -1,9 +1,3 @@
-// The lights of these tests shine with 1500 cd at distance 2, unless a test says otherwise. By hand:
-//   flux         1500 cd x 4 pi = 18849.55592153876 lm; of a spot light 1500 x 0.3973980687964644 = 596.0971031946966
-//   lm illuminance  at 2 ft 1500 / 2^2 = 375 fc, at 2 m 375 lx;
-//                2 m = 6.561679790026247 ft: 1500 x 0.3048^2 / 4 = 34.83864 fc;
-//                2 ft = 0.6096 m: 1500 / 0.6096^2 = 4036.466406266146 lx;
-//                2 mm: 375 x 304.8^2 = 34838640 fc, 375 x 1000^2 = 375000000 lx
 #include "light/lightcmd/intensity_conversion.h"
 
 #include <cmath>
@@ -20,104 +14,116 @@ constexpr double metres = 0.001;
 constexpr double feet = 1 / 304.8;
 constexpr int generic = 0;
 
-constexpr double lumenAround = 18849.55592153876;
-constexpr double lumenOfSpot = 596.0971031946966;
+// The lights of these tests shine with 1500 cd at distance 2, unless a test says otherwise.
+constexpr double candela = 1500;
+constexpr double distance = 2;
+
+// clang-format off
+constexpr double lumenAround = 18849.55592153876; // 1500 x 12.566370614359172, which is 4 pi
+constexpr double lumenOfSpot = 596.0971031946966; // 1500 x 0.3973980687964644, whatever its cone
+
+// Illuminance = candela x k / distance^2 / (millimetres of the drawing's unit)^2, where k is the square millimetres of a
+// square foot (304.8^2 = 92903.04) or of a square metre (1000^2 = 1000000). With generic units neither k nor the
+// distance have a part in it.
+struct Row {
+    const char* name;
+    double drawingUnit;
+    int lightingUnits;
+    double illuminance;
+};
+
+constexpr Row rows[] = {
+    {"FootCandleInMillimetres", millimetres, footCandles, 34838640},             // 1500 x 92903.04 / 2^2
+    {"FootCandleInMetres",      metres,      footCandles, 34.83864},             // 1500 x 92903.04 / 2^2 / 1000^2
+    {"FootCandleInFeet",        feet,        footCandles, 375},                  // 1500 x 92903.04 / 2^2 / 304.8^2
+    {"LuxInMillimetres",        millimetres, lux,         375000000},            // 1500 x 1000000  / 2^2
+    {"LuxInMetres",             metres,      lux,         375},                  // 1500 x 1000000  / 2^2 / 1000^2
+    {"LuxInFeet",               feet,        lux,         4036.466406266146},    // 1500 x 1000000  / 2^2 / 304.8^2
+    {"GenericInMillimetres",    millimetres, generic,     1500},                 // 1500
+    {"GenericInMetres",         metres,      generic,     0.0015},               // 1500 / 1000^2
+    {"GenericInFeet",           feet,        generic,     0.016145865625064582}, // 1500 / 304.8^2
+};
+// clang-format on
 
 PhotometricIntensity pointLight(double value, PhysicalIntensityMethod method) {
-    return {.value = value, .method = method, .distance = 2};
+    return {.value = value, .method = method, .distance = distance};
 }
 
 PhotometricIntensity spotLight(double value, PhysicalIntensityMethod method) {
-    return {.value = value, .method = method, .distance = 2, .isSpot = true};
+    return {.value = value, .method = method, .distance = distance, .isSpot = true};
 }
 
 PhotometricIntensity lightIn(double drawingUnit, int lightingUnits, double value, PhysicalIntensityMethod method) {
     return {.value = value,
             .method = method,
-            .distance = 2,
+            .distance = distance,
             .lightingUnits = lightingUnits,
             .unitsPerMillimetre = drawingUnit};
 }
 
-TEST(ConvertIntensity, AValueInTheSameMethodStays) {
-    EXPECT_EQ(convertIntensity(pointLight(1500, kPeakIntensity), kPeakIntensity), 1500);
+class ConvertIlluminance : public testing::TestWithParam<Row> {
+protected:
+    static PhotometricIntensity pointLight(double value, PhysicalIntensityMethod method) {
+        return lightIn(GetParam().drawingUnit, GetParam().lightingUnits, value, method);
+    }
+    static PhotometricIntensity spotLight(double value, PhysicalIntensityMethod method) {
+        PhotometricIntensity spot = pointLight(value, method);
+        spot.isSpot = true;
+        return spot;
+    }
+};
+
+TEST_P(ConvertIlluminance, FromCandela) {
+    EXPECT_DOUBLE_EQ(convertIntensity(pointLight(candela, kPeakIntensity), kIlluminance), GetParam().illuminance);
+    EXPECT_DOUBLE_EQ(convertIntensity(spotLight(candela, kPeakIntensity), kIlluminance), GetParam().illuminance);
+}
+
+TEST_P(ConvertIlluminance, ToCandela) {
+    EXPECT_DOUBLE_EQ(convertIntensity(pointLight(GetParam().illuminance, kIlluminance), kPeakIntensity), candela);
+    EXPECT_DOUBLE_EQ(convertIntensity(spotLight(GetParam().illuminance, kIlluminance), kPeakIntensity), candela);
+}
+
+TEST_P(ConvertIlluminance, FromLumen) {
+    EXPECT_DOUBLE_EQ(convertIntensity(pointLight(lumenAround, kFlux), kIlluminance), GetParam().illuminance);
+    EXPECT_DOUBLE_EQ(convertIntensity(spotLight(lumenOfSpot, kFlux), kIlluminance), GetParam().illuminance);
+}
+
+TEST_P(ConvertIlluminance, ToLumen) {
+    EXPECT_DOUBLE_EQ(convertIntensity(pointLight(GetParam().illuminance, kIlluminance), kFlux), lumenAround);
+    EXPECT_DOUBLE_EQ(convertIntensity(spotLight(GetParam().illuminance, kIlluminance), kFlux), lumenOfSpot);
+}
+
+TEST_P(ConvertIlluminance, ToItself) {
+    EXPECT_DOUBLE_EQ(convertIntensity(pointLight(GetParam().illuminance, kIlluminance), kIlluminance),
+                     GetParam().illuminance);
+}
+
+INSTANTIATE_TEST_SUITE_P(Units, ConvertIlluminance, testing::ValuesIn(rows),
+                         [](const auto& row) { return row.param.name; });
+
+TEST(ConvertIntensity, CandelaAndLumenStayInTheSameMethod) {
+    EXPECT_EQ(convertIntensity(pointLight(candela, kPeakIntensity), kPeakIntensity), candela);
     EXPECT_DOUBLE_EQ(convertIntensity(pointLight(1000, kFlux), kFlux), 1000);
     EXPECT_DOUBLE_EQ(convertIntensity(spotLight(1000, kFlux), kFlux), 1000);
-    EXPECT_DOUBLE_EQ(convertIntensity(pointLight(375, kIlluminance), kIlluminance), 375);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(feet, footCandles, 375, kIlluminance), kIlluminance), 375);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(metres, generic, 375, kIlluminance), kIlluminance), 375);
 }
 
 TEST(ConvertIntensity, CandelaBecomeLumenAllAround) {
-    EXPECT_DOUBLE_EQ(convertIntensity(pointLight(1500, kPeakIntensity), kFlux), lumenAround);
+    EXPECT_DOUBLE_EQ(convertIntensity(pointLight(candela, kPeakIntensity), kFlux), lumenAround);
 }
 
 TEST(ConvertIntensity, CandelaOfASpotBecomeLumenInItsCone) {
-    EXPECT_DOUBLE_EQ(convertIntensity(spotLight(1500, kPeakIntensity), kFlux), lumenOfSpot);
+    EXPECT_DOUBLE_EQ(convertIntensity(spotLight(candela, kPeakIntensity), kFlux), lumenOfSpot);
 }
 
 TEST(ConvertIntensity, LumenBecomeCandela) {
-    EXPECT_DOUBLE_EQ(convertIntensity(pointLight(lumenAround, kFlux), kPeakIntensity), 1500);
-    EXPECT_DOUBLE_EQ(convertIntensity(spotLight(lumenOfSpot, kFlux), kPeakIntensity), 1500);
+    EXPECT_DOUBLE_EQ(convertIntensity(pointLight(lumenAround, kFlux), kPeakIntensity), candela);
+    EXPECT_DOUBLE_EQ(convertIntensity(spotLight(lumenOfSpot, kFlux), kPeakIntensity), candela);
 }
 
-TEST(ConvertIntensity, CandelaBecomeLuxInTheUnitOfTheDrawing) {
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(metres, lux, 1500, kPeakIntensity), kIlluminance), 375);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(feet, lux, 1500, kPeakIntensity), kIlluminance), 4036.466406266146);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(millimetres, lux, 1500, kPeakIntensity), kIlluminance), 375000000);
-}
-
-TEST(ConvertIntensity, CandelaBecomeFootCandleInTheUnitOfTheDrawing) {
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(metres, footCandles, 1500, kPeakIntensity), kIlluminance), 34.83864);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(feet, footCandles, 1500, kPeakIntensity), kIlluminance), 375);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(millimetres, footCandles, 1500, kPeakIntensity), kIlluminance), 34838640);
-}
-
-// 1500 x 0.001^2 and 1500 / 304.8^2: the distance has no part in it.
-TEST(ConvertIntensity, WithGenericUnitsOnlyTheUnitOfTheDrawingCounts) {
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(metres, generic, 1500, kPeakIntensity), kIlluminance), 0.0015);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(feet, generic, 1500, kPeakIntensity), kIlluminance),
-                     0.016145865625064584);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(millimetres, generic, 1500, kPeakIntensity), kIlluminance), 1500);
-}
-
-TEST(ConvertIntensity, LuxBecomeCandela) {
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(metres, lux, 375, kIlluminance), kPeakIntensity), 1500);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(feet, lux, 4036.466406266146, kIlluminance), kPeakIntensity), 1500);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(millimetres, lux, 375000000, kIlluminance), kPeakIntensity), 1500);
-}
-
-TEST(ConvertIntensity, FootCandleBecomeCandela) {
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(metres, footCandles, 34.83864, kIlluminance), kPeakIntensity), 1500);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(feet, footCandles, 375, kIlluminance), kPeakIntensity), 1500);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(millimetres, footCandles, 34838640, kIlluminance), kPeakIntensity), 1500);
-}
-
-TEST(ConvertIntensity, GenericIlluminanceBecomesCandela) {
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(metres, generic, 0.0015, kIlluminance), kPeakIntensity), 1500);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(feet, generic, 0.016145865625064584, kIlluminance), kPeakIntensity),
-                     1500);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(millimetres, generic, 1500, kIlluminance), kPeakIntensity), 1500);
-}
-
-TEST(ConvertIntensity, LumenBecomeIlluminance) {
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(metres, lux, lumenAround, kFlux), kIlluminance), 375);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(feet, footCandles, lumenAround, kFlux), kIlluminance), 375);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(millimetres, generic, lumenAround, kFlux), kIlluminance), 1500);
-    EXPECT_DOUBLE_EQ(convertIntensity(spotLight(lumenOfSpot, kFlux), kIlluminance), 375000000);
-}
-
-TEST(ConvertIntensity, IlluminanceBecomesLumen) {
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(metres, lux, 375, kIlluminance), kFlux), lumenAround);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(feet, footCandles, 375, kIlluminance), kFlux), lumenAround);
-    EXPECT_DOUBLE_EQ(convertIntensity(lightIn(millimetres, generic, 1500, kIlluminance), kFlux), lumenAround);
-    EXPECT_DOUBLE_EQ(convertIntensity(spotLight(375000000, kIlluminance), kFlux), lumenOfSpot);
-}
-
-// 1 m = 1000 mm = 3.280839895013123 ft.
+// 1 m = 1000 mm = 1000 / 304.8 ft = 3.2808398950131235 ft; 1 cd / (1 m)^2 = 1 lx.
 TEST(ConvertIntensity, ACandelaGivesALuxAtAMetreWhateverTheUnit) {
     const PhotometricIntensity inMillimetres{.value = 1, .distance = 1000};
-    const PhotometricIntensity inFeet{.value = 1, .distance = 3.280839895013123, .unitsPerMillimetre = feet};
+    const PhotometricIntensity inFeet{.value = 1, .distance = 3.2808398950131235, .unitsPerMillimetre = feet};
 
     EXPECT_DOUBLE_EQ(convertIntensity(inMillimetres, kIlluminance), 1);
     EXPECT_DOUBLE_EQ(convertIntensity(inFeet, kIlluminance), 1);
@@ -141,20 +147,22 @@ TEST(ConvertIntensity, AnIlluminanceAtDistanceZeroIsNoIntensity) {
     EXPECT_EQ(convertIntensity({.value = 375, .method = kIlluminance, .distance = 0}, kPeakIntensity), 0);
 }
 
+// As the rows above.
 TEST(ShownIlluminance, InLuxItIsTheConvertedOne) {
-    EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(metres, lux, 1500, kPeakIntensity)), 375);
-    EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(feet, lux, 1500, kPeakIntensity)), 4036.466406266146);
-    EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(millimetres, lux, 1500, kPeakIntensity)), 375000000);
+    EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(millimetres, lux, candela, kPeakIntensity)), 375000000);
+    EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(metres, lux, candela, kPeakIntensity)), 375);
+    EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(feet, lux, candela, kPeakIntensity)), 4036.466406266146);
     EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(metres, lux, lumenAround, kFlux)), 375);
 }
 
+// As the row of foot-candle in millimetres.
 TEST(ShownIlluminance, InFootCandleTheDistanceCountsAsMillimetres) {
-    EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(metres, footCandles, 1500, kPeakIntensity)), 34838640);
-    EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(feet, footCandles, 1500, kPeakIntensity)), 34838640);
-    EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(millimetres, footCandles, 1500, kPeakIntensity)), 34838640);
+    EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(millimetres, footCandles, candela, kPeakIntensity)), 34838640);
+    EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(metres, footCandles, candela, kPeakIntensity)), 34838640);
+    EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(feet, footCandles, candela, kPeakIntensity)), 34838640);
 }
 
-// 375 fc at 2 ft are 1500 cd: on the way to candela the unit of the drawing counts.
+// 375 fc at 2 ft are 1500 cd, for on the way to candela the unit of the drawing counts; they show as 1500 cd do.
 TEST(ShownIlluminance, AStoredFootCandleIsShownAsAnotherNumber) {
     EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(feet, footCandles, 375, kIlluminance)), 34838640);
     EXPECT_DOUBLE_EQ(shownIlluminance(lightIn(millimetres, footCandles, 375, kIlluminance)), 375);
