@@ -25,8 +25,10 @@ public:
         rules_.flags = armed_.flags;
         rules_.low = low;
         rules_.high = high;
-        if (!armed_.keywords.empty())
-            rules_.keywords = &cachedKeywords(armed_.keywords);
+        if (armed_.keywords.empty())
+            return;
+        keywords_ = cachedKeywords(armed_.keywords);
+        rules_.keywords = keywords_.get();
     }
 
     [[nodiscard]] int flags() const { return rules_.flags; }
@@ -58,6 +60,7 @@ private:
     static InputState& state() { return Session::current().inputState(); }
 
     InputState::Armed armed_;
+    std::shared_ptr<const KeywordList> keywords_;
     Rules rules_;
 };
 

@@ -85,19 +85,19 @@ std::vector<ZrString> KeywordList::abbreviations() const {
     return result;
 }
 
-const KeywordList& cachedKeywords(std::wstring_view text) {
+std::shared_ptr<const KeywordList> cachedKeywords(std::wstring_view text) {
     struct Hash {
         using is_transparent = void;
         std::size_t operator()(std::wstring_view key) const { return std::hash<std::wstring_view>()(key); }
     };
     // A program asks with a few dozen lists; texts made on the fly must not let the cache grow without end.
     constexpr std::size_t kMost = 256;
-    static std::unordered_map<ZrString, KeywordList, Hash, std::equal_to<>> cache;
+    static std::unordered_map<ZrString, std::shared_ptr<const KeywordList>, Hash, std::equal_to<>> cache;
     if (const auto known = cache.find(text); known != cache.end())
         return known->second;
     if (cache.size() >= kMost)
         cache.clear();
-    return cache.emplace(text, KeywordList(text)).first->second;
+    return cache.emplace(text, std::make_shared<const KeywordList>(text)).first->second;
 }
 
 } // namespace quor::ed

@@ -3,6 +3,7 @@
 
 #include "sdk/sys/string.h"
 
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -44,7 +45,8 @@ private:
     std::vector<ZrString> words_;
 };
 
-// The same list for the same text without reading it again; valid until the next call.
-[[nodiscard]] const KeywordList& cachedKeywords(std::wstring_view text);
+// The same list for the same text without reading it again. A question holds its list as long as it is open: commands
+// that run transparently in it ask with lists of their own.
+[[nodiscard]] std::shared_ptr<const KeywordList> cachedKeywords(std::wstring_view text);
 
 } // namespace quor::ed

@@ -242,6 +242,28 @@ TEST_F(Get, TransparentCommandRunsAndTheQuestionIsAskedAgain) {
     EXPECT_EQ(number_, 3);
 }
 
+TEST_F(Get, ATransparentCommandMayAskWithAnyNumberOfKeywordLists) {
+    test_.addCommand(
+        L"LOOK",
+        [&] {
+            for (int list = 0; list < 300; ++list) {
+                zredInitGet(0, (L"Word" + std::to_wstring(list)).c_str());
+                (void)zredGetKword(L"\nW: ", text_);
+            }
+            return RTNORM;
+        },
+        quor::ed::kTransparent);
+    type({L"'LOOK"});
+    for (int answer = 0; answer < 300; ++answer)
+        type({L""});
+    type({L"B"});
+
+    zredInitGet(0, L"Alpha Beta");
+
+    EXPECT_EQ(zredGetKword(L"\nWhich: ", text_), RTNORM);
+    EXPECT_EQ(text_, L"Beta");
+}
+
 TEST_F(Get, CommandThatIsNotTransparentIsRefused) {
     int runs = 0;
     test_.addCommand(L"DRAW", [&] { return ++runs, RTNORM; });

@@ -106,8 +106,8 @@ TEST(Keywords, AbbreviationsAreTheCapitals) {
 }
 
 TEST(Keywords, CacheGivesTheSameListForTheSameText) {
-    EXPECT_EQ(&cachedKeywords(L"One Two"), &cachedKeywords(L"One Two"));
-    EXPECT_NE(cachedKeywords(L"One Two").words(), cachedKeywords(L"One Three").words());
+    EXPECT_EQ(cachedKeywords(L"One Two"), cachedKeywords(L"One Two"));
+    EXPECT_NE(cachedKeywords(L"One Two")->words(), cachedKeywords(L"One Three")->words());
 }
 
 } // namespace
