@@ -1,6 +1,8 @@
 #include "host/commands/listing.h"
 
+#include "host/session.h"
 #include "host/sys/case_fold.h"
+#include "host/sys/system_variables.h"
 #include "host/sys/text_width.h"
 #include "host/texts/list.h"
 #include "sdk/db/database.h"
@@ -17,7 +19,22 @@ namespace {
 constexpr double kMostInFull = 1e15; // beyond it the digits of a length are no longer its own
 constexpr int kScientific = 1;       // as in LUNITS
 constexpr int kDecimal = 2;
+constexpr int kFirstWithFeet = 3; // engineering
+constexpr int kLastWithFeet = 4;  // architectural
 constexpr const wchar_t* kNoLength = L"—";
+
+// Symbols of the units of length, by INSUNITS; those of the US survey are written as the ordinary ones.
+constexpr const wchar_t* kUnitSymbols[] = {L"",    L"in", L"ft", L"mi", L"mm", L"cm", L"m",   L"km", L"µin",
+                                           L"mil", L"yd", L"Å",  L"nm", L"µm", L"dm", L"dam", L"hm", L"Gm",
+                                           L"au",  L"ly", L"pc", L"ft", L"in", L"yd", L"mi"};
+
+ZrString unitSymbol() {
+    const sys::SystemVariables& variables = Session::current().variables();
+    const short format = variables.number(L"LUNITS");
+    const auto unit = static_cast<std::size_t>(variables.number(L"INSUNITS"));
+    const bool showsFeet = format >= kFirstWithFeet && format <= kLastWithFeet;
+    return showsFeet || unit >= std::size(kUnitSymbols) ? L"" : kUnitSymbols[unit];
+}
 
 } // namespace
 
@@ -39,6 +56,11 @@ ZrString lengthText(double length) {
     ZrString text;
     zrdbRToS(length, std::abs(length) > kMostInFull ? kScientific : -1, -1, text);
     return text;
+}
+
+ZrString measureText(double length) {
+    const ZrString unit = unitSymbol();
+    return unit.empty() ? lengthText(length) : lengthText(length) + L" " + unit;
 }
 
 ZrString coordinatesText(double x, double y, double z) {
@@ -74,6 +96,12 @@ ZrString colorText(const ZrCmColor& color) {
     if (color.isByLayer())
         return texts::kByLayer.get();
     return color.isByBlock() ? ZrString(texts::kByBlock.get()) : color.colorNameForDisplay();
+}
+
+ZrString colorWithComponentsText(const ZrCmColor& color) {
+    if (!color.hasColorName())
+        return colorText(color);
+    return colorText(color) + zrFormat(L" (%d,%d,%d)", {color.red(), color.green(), color.blue()});
 }
 
 ZrString linetypeText(const ZrString& name) {

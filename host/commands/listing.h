@@ -35,6 +35,8 @@ private:
 
 // A length in the drawing's units and precision, a huge one with an exponent; a dash for what no number can hold.
 [[nodiscard]] ZrString lengthText(double length);
+// The same with the drawing's unit behind it, where it has one and the format does not show feet and inches.
+[[nodiscard]] ZrString measureText(double length);
 // Three lengths as they are.
 [[nodiscard]] ZrString coordinatesText(double x, double y, double z);
 // World coordinates, shown in the current UCS.
@@ -46,6 +48,8 @@ private:
 [[nodiscard]] ZrString numberText(double value);
 [[nodiscard]] ZrString degreesText(double radians);
 [[nodiscard]] ZrString colorText(const ZrCmColor& color);
+// The same with the components of a colour that is shown by the name of a colour book.
+[[nodiscard]] ZrString colorWithComponentsText(const ZrCmColor& color);
 [[nodiscard]] ZrString linetypeText(const ZrString& name);
 [[nodiscard]] ZrString lineweightText(int weight);
 [[nodiscard]] ZrString yesNoText(bool yes);

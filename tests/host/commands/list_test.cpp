@@ -56,6 +56,40 @@ TEST_F(ListOfALight, ShowsTheDirectionInPlainNumbersInEveryUnitFormat) {
     EXPECT_TRUE(host.front().shows(L"X=0.0000  Y=0.0000  Z=-1.0000"));
 }
 
+TEST_F(ListOfALight, ShowsLengthsInTheUnitOfTheDrawing) {
+    ASSERT_EQ(host.session().variables().set(L"INSUNITS", short{6}), sys::SetResult::Ok);
+
+    list([](ZrDbLight& light) { light.setIlluminanceDistance(2.5); });
+
+    EXPECT_TRUE(host.front().shows(L"2.5000 m\n"));
+}
+
+TEST_F(ListOfALight, ShowsLengthsWithoutAUnitInAUnitlessDrawing) {
+    ASSERT_EQ(host.session().variables().set(L"INSUNITS", short{0}), sys::SetResult::Ok);
+
+    list([](ZrDbLight& light) { light.setIlluminanceDistance(2.5); });
+
+    EXPECT_TRUE(host.front().shows(L"2.5000\n"));
+}
+
+TEST_F(ListOfALight, ShowsFeetAndInchesWithoutAnotherUnit) {
+    ASSERT_EQ(host.session().variables().set(L"LUNITS", short{4}), sys::SetResult::Ok);
+
+    list([](ZrDbLight& light) { light.setIlluminanceDistance(30); });
+
+    EXPECT_TRUE(host.front().shows(L"2'-6\"\n"));
+}
+
+TEST_F(ListOfALight, ShowsTheComponentsOfABookColour) {
+    list([](ZrDbLight& light) {
+        ZrCmColor color = ZrCmColor::fromRGB(102, 51, 153);
+        color.setNames(L"rebeccapurple", L"Web Colors");
+        light.setLightColor(color);
+    });
+
+    EXPECT_TRUE(host.front().shows(L"Web Colors$rebeccapurple (102,51,153)"));
+}
+
 TEST_F(ListOfALight, ShowsFluxInLumen) {
     list([](ZrDbLight& light) { light.setPhysicalIntensityMethod(PhysicalIntensityMethod::kFlux); });
 
