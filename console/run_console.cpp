@@ -9,6 +9,7 @@
 #include "host/document.h"
 #include "host/ed/command_processor.h"
 #include "host/rx/module_loader.h"
+#include "host/sys/problem_report.h"
 #include "host/sys/system_error.h"
 #include "host/sys/utf8.h"
 #include "host/texts/console.h"
@@ -37,8 +38,12 @@ public:
         : options_(options), streams_(streams), output_(streams.out, options.quiet),
           progress_(streams.showsProgress ? streams.err : ByteSink(), streams.outputIsScreen ? &output_ : nullptr,
                     streams.clock),
-          front_(output_, progress_), session_(front_, std::move(sessionOptions)),
-          report_(streams.err, output_, progress_) {}
+          front_(output_, progress_), report_(streams.err, output_, progress_),
+          session_(front_, std::move(sessionOptions)) {
+        // The command line, on which problems are shown, is not to be seen then.
+        if (options.quiet)
+            setProblemReporter(report_);
+    }
 
     int run() {
         std::vector<ScriptToRun> scripts;
@@ -110,8 +115,8 @@ private:
     Output output_;
     ProgressLine progress_;
     ConsoleFrontEnd front_;
-    Session session_;
     Report report_;
+    Session session_;
 };
 
 } // namespace

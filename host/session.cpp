@@ -8,6 +8,7 @@
 #include "host/ed/input_stack.h"
 #include "host/ed/input_state.h"
 #include "host/rx/module_loader.h"
+#include "host/sys/problem_report.h"
 #include "host/sys/program_folder.h"
 #include "host/sys/resource_library.h"
 #include "host/sys/settings_store.h"
@@ -65,11 +66,14 @@ void forgetColors() {
     cm::setColorBookFolders({});
 }
 
+void showProblem(const ZrString& message) { printText(L"\n" + message); }
+
 } // namespace
 
 Session::Session(FrontEnd& front, SessionOptions options) : front_(front) {
     assert(running == nullptr && "one session at a time");
     running = this;
+    setProblemReporter(showProblem);
     settings_ = openSettings(options.settingsFile);
     options_ = completed(std::move(options), *settings_);
     setLanguage(options_.language == L"en" ? Language::English : Language::Chinese);
@@ -98,6 +102,7 @@ Session::~Session() {
     forgetColors();
     resources_.reset();
     settings_.reset();
+    setProblemReporter(nullptr);
     running = nullptr;
 }
 

@@ -1,22 +1,16 @@
 #include "host/commands/ask.h"
 
+#include "host/sys/trim.h"
+
 namespace quor::commands {
 
 namespace {
-
-ZrString trimmed(const ZrString& text) {
-    constexpr const wchar_t* kBlanks = L" \t\r\n";
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    if (first == ZrString::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
 
 std::optional<ZrString> askText(bool blanks, const ZrString& prompt) {
     ZrString answer;
     if (zredGetString(blanks ? 1 : 0, prompt.c_str(), answer) != RTNORM)
         return std::nullopt;
-    return trimmed(answer);
+    return ZrString(trimmed(answer));
 }
 
 } // namespace

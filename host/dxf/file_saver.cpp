@@ -1,6 +1,6 @@
 #include "host/dxf/file_saver.h"
 
-#include "host/dxf/descriptor.h"
+#include "host/sys/descriptor.h"
 
 #include <algorithm>
 #include <array>

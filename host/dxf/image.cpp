@@ -1,6 +1,6 @@
 #include "host/dxf/image.h"
 
-#include "host/dxf/descriptor.h"
+#include "host/sys/descriptor.h"
 
 #include <cerrno>
 #include <cstring>

@@ -2,17 +2,19 @@
 
 #include "host/sys/system_error.h"
 #include "host/sys/utf8.h"
+#include "host/sys/whole_file.h"
 #include "host/texts/input.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 
 namespace quor::ed {
 
 namespace {
+
+// Enough for millions of commands; a device that never ends is given up here.
+constexpr std::size_t kMostBytes = std::size_t{256} << 20;
 
 std::optional<Answer> nextAnswer(AnswerReader& reader, const Question& question) {
     const std::optional<RawAnswer> raw = reader.next(question.acceptsBlanks);
@@ -49,17 +51,17 @@ ScriptSource::ScriptSource(std::string text, const ZrString& name)
 
 Result<std::unique_ptr<ScriptSource>, ZrString> ScriptSource::open(const std::filesystem::path& path) {
     const ZrString name = fromUtf8(path.string());
-    std::error_code problem;
-    if (std::filesystem::is_directory(path, problem))
+    // Scripts come out of pipes, too.
+    Result<std::string, int> bytes = readWholeFile(path, kMostBytes, FileKinds::All);
+    if (!bytes && bytes.error() == EISDIR)
         return fail(fill(texts::kScriptIsFolder, name));
-    errno = 0;
-    std::ifstream file(path, std::ios::binary);
-    std::string text{std::istreambuf_iterator<char>(file), {}};
-    if (!file.is_open() || file.bad())
-        return fail(fill(texts::kScriptUnreadable, name, systemErrorText(errno)));
+    if (!bytes)
+        return fail(fill(texts::kScriptUnreadable, name, systemErrorText(bytes.error())));
+    std::string text = std::move(bytes).value();
     if (const std::size_t invalid = invalidText(text); invalid < text.size())
         return fail(fill(texts::kScriptNotUtf8, name, lineAt(text, invalid)));
     auto script = std::make_unique<ScriptSource>(std::move(text), fromUtf8(path.filename().string()));
+    std::error_code problem;
     const std::filesystem::path whole = std::filesystem::weakly_canonical(path, problem);
     script->file_ = problem ? path : whole;
     return script;

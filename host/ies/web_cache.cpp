@@ -1,12 +1,11 @@
 #include "host/ies/web_cache.h"
 
-#include "host/dxf/descriptor.h"
+#include "host/sys/whole_file.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <utility>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace quor::ies {
@@ -20,32 +19,13 @@ Failure<Error> failure(Error::Kind kind, int systemError = 0) {
     return fail(std::move(error));
 }
 
-Failure<Error> cannotOpen(int systemError) {
-    const bool isMissing = systemError == ENOENT || systemError == ENOTDIR;
-    return failure(isMissing ? Error::Kind::NotFound : Error::Kind::Unreadable, systemError);
-}
-
-// All that is left in a file, and one byte more than a web may have when there is more.
-Result<std::string, int> readAll(int fd, std::size_t expected) {
-    std::string bytes;
-    std::size_t done = 0;
-    // One more than expected shows the end without a second look.
-    bytes.resize(std::min(expected, kMostBytes) + 1);
-    while (done <= kMostBytes) {
-        const ssize_t got = ::read(fd, bytes.data() + done, bytes.size() - done);
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            return fail(int{errno});
-        if (got == 0)
-            break;
-        done += static_cast<std::size_t>(got);
-        // A file that grows meanwhile.
-        if (done == bytes.size())
-            bytes.resize(std::min(2 * done, kMostBytes + 1));
-    }
-    bytes.resize(done);
-    return bytes;
+Failure<Error> cannotRead(int systemError) {
+    using Kind = Error::Kind;
+    if (systemError == ENOENT || systemError == ENOTDIR)
+        return failure(Kind::NotFound, systemError);
+    if (systemError == EFBIG)
+        return failure(Kind::TooLarge);
+    return failure(Kind::Unreadable, systemError == ENODEV ? 0 : systemError);
 }
 
 FileIdentity identityOf(const struct stat& status) {
@@ -53,19 +33,13 @@ FileIdentity identityOf(const struct stat& status) {
 }
 
 Result<PhotometricWeb, Error> readFile(const std::string& path, FileIdentity& identity) {
-    // Without O_NONBLOCK a named pipe would wait for somebody to write into it.
-    const dxf::Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-    struct stat status {};
-    if (!file.isOpen() || ::fstat(file.get(), &status) != 0)
-        return cannotOpen(errno);
-    if (!S_ISREG(status.st_mode))
-        return failure(Error::Kind::Unreadable, S_ISDIR(status.st_mode) ? EISDIR : 0);
-    if (static_cast<std::size_t>(status.st_size) > kMostBytes)
-        return failure(Error::Kind::TooLarge);
-    identity = identityOf(status);
-    const Result<std::string, int> bytes = readAll(file.get(), static_cast<std::size_t>(status.st_size));
+    const Result<OpenFile, int> file = openFile(path);
+    if (!file.ok())
+        return cannotRead(file.error());
+    identity = identityOf(file->status);
+    const Result<std::string, int> bytes = readToEnd(*file, kMostBytes);
     if (!bytes.ok())
-        return failure(Error::Kind::Unreadable, bytes.error());
+        return cannotRead(bytes.error());
     return readWeb(bytes.value());
 }
 

@@ -1,21 +1,11 @@
 #include "host/sys/path_text.h"
 
+#include "host/sys/trim.h"
 #include "host/sys/utf8.h"
 
 #include <cstdlib>
 
 namespace quor {
-
-namespace {
-
-std::wstring_view trimmed(std::wstring_view text) {
-    constexpr std::wstring_view kBlanks = L" \t\r\n";
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    return first == ZrString::npos ? std::wstring_view()
-                                   : text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
-}
-
-} // namespace
 
 std::filesystem::path pathFromText(const ZrString& text) {
     std::wstring_view plain = trimmed(text);

@@ -1,19 +1,23 @@
 #include "host/sys/resource_library.h"
 
-#include "host/session.h"
 #include "host/sys/placeholder.h"
+#include "host/sys/problem_report.h"
 #include "host/sys/resource_line.h"
+#include "host/sys/system_error.h"
 #include "host/sys/utf8.h"
+#include "host/sys/visible_text.h"
+#include "host/sys/whole_file.h"
 #include "host/texts/resources.h"
 
 #include <algorithm>
-#include <fstream>
-#include <optional>
+#include <cerrno>
 
 namespace fs = std::filesystem;
 
 namespace quor::sys {
 namespace {
+
+constexpr std::size_t kMostBytes = std::size_t{16} << 20; // far more than the texts of a module
 
 // Modules of sessions that have ended: handles to them may still be held.
 std::vector<std::unique_ptr<ResourceModule>>& retiredModules() {
@@ -27,24 +31,12 @@ bool isPlainName(std::wstring_view name) {
            name.find(L'\0') == std::wstring_view::npos;
 }
 
-std::optional<std::string> fileBytes(const fs::path& file) {
-    std::error_code error;
-    if (!fs::is_regular_file(file, error))
-        return std::nullopt;
-    const auto size = fs::file_size(file, error);
-    if (error)
-        return std::nullopt;
-    std::string bytes(size, '\0');
-    std::ifstream stream(file, std::ios::binary);
-    stream.read(bytes.data(), static_cast<std::streamsize>(size));
-    return stream ? std::optional(std::move(bytes)) : std::nullopt;
-}
-
 } // namespace
 
 ZrString ResourceProblem::message() const {
-    const ZrString name = fromUtf8(file.string());
-    return line > 0 ? fill(texts::resourceProblem, name, line, reason) : fill(texts::resourceFileProblem, name, reason);
+    const ZrString name = fromUtf8(file.native());
+    return visibleText(line > 0 ? fill(texts::resourceProblem, name, line, reason)
+                                : fill(texts::resourceFileProblem, name, reason));
 }
 
 void ResourceModule::read(std::string_view bytes, std::vector<ResourceProblem>& problems) {
@@ -113,12 +105,11 @@ std::unique_ptr<ResourceModule> ResourceLibrary::readModule(std::wstring_view na
     if (!isPlainName(name) || !isPlainName(language_))
         return nullptr;
     const fs::path file = folder_ / "lang" / toUtf8(language_) / (toUtf8(name) + ".txt");
-    std::error_code error;
-    if (!fs::exists(file, error))
-        return nullptr;
-    const auto bytes = fileBytes(file);
+    const Result<std::string, int> bytes = readWholeFile(file, kMostBytes);
     if (!bytes) {
-        problems_.push_back({file, 0, texts::resourceNotRead.get()});
+        const bool isMissing = bytes.error() == ENOENT || bytes.error() == ENOTDIR;
+        if (!isMissing)
+            problems_.push_back({file, 0, fill(texts::resourceNotRead, systemErrorText(bytes.error()))});
         return nullptr;
     }
     auto module = std::make_unique<ResourceModule>(file);
@@ -138,10 +129,8 @@ int ResourceLibrary::check(ZwResourceHandle module, std::span<const ZwResourceTe
 }
 
 void ResourceLibrary::reportFrom(std::size_t first) const {
-    if (!Session::exists())
-        return;
     for (std::size_t i = first; i < problems_.size(); ++i)
-        printText(L"\n" + problems_[i].message());
+        reportProblem(problems_[i].message());
 }
 
 } // namespace quor::sys

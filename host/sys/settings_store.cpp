@@ -4,8 +4,6 @@
 #include <cerrno>
 #include <charconv>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 #include <utility>
 
@@ -16,6 +14,7 @@
 #include "host/sys/case_fold.h"
 #include "host/sys/system_error.h"
 #include "host/sys/utf8.h"
+#include "host/sys/whole_file.h"
 #include "host/texts/settings.h"
 
 namespace quor {
@@ -25,36 +24,21 @@ namespace fs = std::filesystem;
 
 std::string reasonOf(int number) { return toUtf8(systemErrorText(number)); }
 
-// An open file descriptor, closed with its owner.
-class Descriptor {
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor() {
-        if (number_ >= 0)
-            ::close(number_);
+// A person writes a few lines; more than this is some other file.
+constexpr std::size_t kMostBytes = std::size_t{16} << 20;
+
+// All bytes and down to the disk; false, with errno, when that failed.
+bool writeAll(const Descriptor& file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t count = ::write(file.get(), bytes.data(), bytes.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return false;
+        bytes.remove_prefix(static_cast<std::size_t>(count));
     }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    [[nodiscard]] bool isOpen() const { return number_ >= 0; }
-    [[nodiscard]] int number() const { return number_; }
-
-    // All bytes and down to the disk; false, with errno, when that failed.
-    [[nodiscard]] bool writeAll(std::string_view bytes) const {
-        while (!bytes.empty()) {
-            const ssize_t count = ::write(number_, bytes.data(), bytes.size());
-            if (count < 0 && errno == EINTR)
-                continue;
-            if (count < 0)
-                return false;
-            bytes.remove_prefix(static_cast<std::size_t>(count));
-        }
-        return ::fsync(number_) == 0;
-    }
-
-private:
-    int number_;
-};
+    return ::fsync(file.get()) == 0;
+}
 
 // Makes a folder and what is missing above it, for the user alone. The first that fails is the error.
 std::optional<SettingsError> makeFolders(const fs::path& folder) {
@@ -187,19 +171,13 @@ void SettingsStore::keep(std::wstring_view section, std::wstring_view key, std::
 }
 
 std::optional<SettingsError> SettingsStore::read(SettingsLines& lines) const {
-    std::error_code failure;
-    const fs::file_status status = fs::status(path_, failure);
-    if (status.type() == fs::file_type::not_found)
+    const Result<std::string, int> file = readWholeFile(path_, kMostBytes);
+    const bool isMissing = !file && (file.error() == ENOENT || file.error() == ENOTDIR);
+    if (isMissing)
         return std::nullopt;
-    if (failure)
-        return SettingsError{SettingsError::kCannotRead, path_, reasonOf(failure.value())};
-    if (status.type() != fs::file_type::regular) // a folder, or a pipe that would never end
-        return SettingsError{SettingsError::kCannotRead, path_, toUtf8(texts::kSettingsNoFile.get())};
-    errno = 0;
-    std::ifstream stream(path_, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    if (!stream)
-        return SettingsError{SettingsError::kCannotRead, path_, reasonOf(errno != 0 ? errno : EIO)};
+    if (!file)
+        return SettingsError{SettingsError::kCannotRead, path_, reasonOf(file.error())};
+    const std::string& bytes = *file;
     lines.clear();
     for (std::size_t at = 0; at < bytes.size();) {
         const std::size_t end = std::min(bytes.find('\n', at), bytes.size());
@@ -225,7 +203,7 @@ std::optional<SettingsError> SettingsStore::write(const SettingsLines& lines) co
     const Descriptor file(::mkostemp(name.data(), O_CLOEXEC));
     if (!file.isOpen())
         return refuse(errno);
-    if (file.writeAll(bytes) && ::rename(name.c_str(), target.c_str()) == 0)
+    if (writeAll(file, bytes) && ::rename(name.c_str(), target.c_str()) == 0)
         return std::nullopt;
     const int number = errno;
     ::unlink(name.c_str());

@@ -4,31 +4,24 @@
 #include <iterator>
 
 #include "host/sys/case_fold.h"
+#include "host/sys/trim.h"
+#include "host/sys/visible_text.h"
 
 namespace quor {
 namespace {
 
-constexpr std::wstring_view blanks = L" \t\r";
 constexpr std::size_t none = static_cast<std::size_t>(-1);
 
-std::wstring_view trim(std::wstring_view text) {
-    const std::size_t first = text.find_first_not_of(blanks);
-    return first == std::wstring_view::npos ? std::wstring_view()
-                                            : text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
-bool isControl(wchar_t c) { return (c >= 0 && c < 0x20) || c == 0x7F; }
-
 bool isName(std::wstring_view name) {
-    return !name.empty() && trim(name) == name && std::none_of(name.begin(), name.end(), isControl);
+    return !name.empty() && trimmed(name) == name && std::none_of(name.begin(), name.end(), isControl);
 }
 
 // The name of a section line; nothing for another line.
 std::optional<std::wstring_view> sectionOf(std::wstring_view line) {
-    line = trim(line);
+    line = trimmed(line);
     if (line.size() < 2 || line.front() != L'[' || line.back() != L']')
         return std::nullopt;
-    return trim(line.substr(1, line.size() - 2));
+    return trimmed(line.substr(1, line.size() - 2));
 }
 
 struct KeyValue {
@@ -38,10 +31,10 @@ struct KeyValue {
 
 std::optional<KeyValue> keyValueOf(std::wstring_view line) {
     const std::size_t equals = line.find(L'=');
-    const std::wstring_view key = trim(line.substr(0, std::min(equals, line.size())));
+    const std::wstring_view key = trimmed(line.substr(0, std::min(equals, line.size())));
     if (equals == std::wstring_view::npos || !isSettingsKey(key))
         return std::nullopt;
-    return KeyValue{key, trim(line.substr(equals + 1))};
+    return KeyValue{key, trimmed(line.substr(equals + 1))};
 }
 
 struct EscapeRow {
@@ -53,7 +46,7 @@ constexpr EscapeRow escapes[] = {{L'\n', L'n'}, {L'\r', L'r'}, {L'\t', L't'}, {L
 
 // In quotes only where the plain text would not read back.
 std::wstring writeValue(std::wstring_view value) {
-    const bool isPlain = (value.empty() || value.front() != L'"') && trim(value) == value &&
+    const bool isPlain = (value.empty() || value.front() != L'"') && trimmed(value) == value &&
                          std::none_of(value.begin(), value.end(), isControl);
     if (isPlain)
         return std::wstring(value);
@@ -103,7 +96,7 @@ Place findPlace(const SettingsLines& lines, std::wstring_view section, std::wstr
             inside = equalFolded(*name, section);
         if (!inside)
             continue;
-        if (!trim(lines[i]).empty())
+        if (!trimmed(lines[i]).empty())
             place.behind = i + 1;
         const auto pair = keyValueOf(lines[i]);
         if (pair && equalFolded(pair->key, key))
@@ -144,7 +137,7 @@ void putSetting(SettingsLines& lines, std::wstring_view section, std::wstring_vi
         lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(place.behind), line);
         return;
     }
-    if (!lines.empty() && !trim(lines.back()).empty())
+    if (!lines.empty() && !trimmed(lines.back()).empty())
         lines.push_back(end);
     lines.push_back(L"[" + std::wstring(section) + L"]" + end);
     lines.push_back(line);

@@ -7,8 +7,8 @@ namespace quor::texts {
 
 inline constexpr Text resourceProblem{L"%s，第 %d 行: %s", L"%s, line %d: %s"};
 inline constexpr Text resourceFileProblem{L"%s: %s", L"%s: %s"};
-inline constexpr Text resourceNotRead{L"无法读取文件，改用内置文本",
-                                      L"the file cannot be read; the built-in texts are used"};
+inline constexpr Text resourceNotRead{L"无法读取文件(%s)，改用内置文本",
+                                      L"the file cannot be read (%s); the built-in texts are used"};
 inline constexpr Text resourceNotUtf8{L"该行不是 UTF-8 文本，已忽略", L"the line is no UTF-8 text and was left out"};
 inline constexpr Text resourceNoNumber{L"应为文本编号(0 到 4294967295)，已忽略该行",
                                        L"a text number (0 to 4294967295) is expected; the line was left out"};

@@ -13,6 +13,5 @@ inline constexpr Text kSettingsUnreadable{L"无法读取设置文件，请检查
 inline constexpr Text kSettingsUnwritable{
     L"无法写入设置文件，该值仅在本次运行中有效",
     L"the settings file cannot be written; the value holds until the program ends"};
-inline constexpr Text kSettingsNoFile{L"它不是普通文件", L"it is not a regular file"};
 
 } // namespace quor::texts

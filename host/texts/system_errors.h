@@ -19,6 +19,7 @@ inline constexpr std::array kSystemErrors{
     SystemErrorText{ENOENT, {L"文件或文件夹不存在", L"no such file or folder"}},
     SystemErrorText{ENOTDIR, {L"路径中有一段不是文件夹", L"a part of the path is no folder"}},
     SystemErrorText{EISDIR, {L"这是文件夹，不是文件", L"it is a folder, not a file"}},
+    SystemErrorText{ENODEV, {L"它不是普通文件", L"it is not a regular file"}}, // see openFile()
     SystemErrorText{EEXIST, {L"文件已存在", L"the file exists already"}},
     SystemErrorText{ENOSPC, {L"磁盘已满", L"the disk is full"}},
     SystemErrorText{EDQUOT, {L"超出磁盘配额", L"the disk quota is used up"}},

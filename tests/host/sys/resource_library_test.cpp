@@ -1,5 +1,8 @@
 #include "host/sys/resource_library.h"
 
+#include "host/sys/problem_report.h"
+#include "host/texts/text.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -22,6 +25,7 @@ struct Reading {
 class ResourceFolder : public testing::Test {
 protected:
     ResourceFolder() {
+        quor::setLanguage(quor::Language::Chinese);
         std::filesystem::create_directories(folder_ / "lang" / "en");
         std::ofstream(folder_ / "lang" / "en" / "pack.txt") << "1 = \"one %d\"\n2 = \"two %s\"\n";
     }
@@ -114,7 +118,26 @@ TEST_F(ResourceFolder, FolderInPlaceOfAFileIsReported) {
     std::filesystem::create_directories(folder_ / "lang" / "en" / "odd.txt");
     ResourceLibrary library(folder_, L"en");
     EXPECT_EQ(library.load(L"odd"), nullptr);
-    EXPECT_EQ(library.problems().size(), 1U);
+    ASSERT_EQ(library.problems().size(), 1U);
+    EXPECT_EQ(library.problems()[0].reason, L"无法读取文件(这是文件夹，不是文件)，改用内置文本");
+}
+
+TEST_F(ResourceFolder, FileThatFailsWhileItIsReadIsReported) {
+    std::filesystem::create_symlink("/proc/self/mem", folder_ / "lang" / "en" / "odd.txt");
+    ResourceLibrary library(folder_, L"en");
+    EXPECT_EQ(library.load(L"odd"), nullptr);
+    ASSERT_EQ(library.problems().size(), 1U);
+    EXPECT_EQ(library.problems()[0].reason, L"无法读取文件(读写设备时出错)，改用内置文本");
+}
+
+TEST_F(ResourceFolder, WhatIsRefusedGoesToTheReporterWithoutControlCharacters) {
+    std::ofstream(folder_ / "lang" / "en" / "od\x1B.txt") << "1 = \"one\" \x1B[2J\n";
+    std::vector<ZrString> reported;
+    quor::setProblemReporter([&](const ZrString& message) { reported.push_back(message); });
+    EXPECT_NE(ResourceLibrary(folder_, L"en").load(L"od\x1B"), nullptr);
+    quor::setProblemReporter(nullptr);
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_TRUE(reported[0].ends_with(L"od^[.txt，第 1 行: 文本之后有多余字符“^[[2J”，已忽略该行"));
 }
 
 TEST_F(ResourceFolder, CheckAnswersHowManyTextsWereTakenOut) {

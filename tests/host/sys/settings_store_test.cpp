@@ -22,6 +22,7 @@ using quor::SettingsStore;
 class Settings : public testing::Test {
 protected:
     void SetUp() override {
+        quor::setLanguage(quor::Language::Chinese);
         std::string name = testing::TempDir() + "settingsXXXXXX";
         folder_ = ::mkdtemp(name.data());
         file_ = folder_ / "settings.ini";
@@ -132,7 +133,8 @@ TEST_P(BadName, IsRefusedAndNothingIsWritten) {
 INSTANTIATE_TEST_SUITE_P(All, BadName,
                          testing::Values(Name{L"", L"x"}, Name{L"A", L""}, Name{L"A]", L"x"}, Name{L"A", L"x=y"},
                                          Name{L"A", L"#x"}, Name{L"A", L";x"}, Name{L"A", L"[x"}, Name{L"A", L" x"},
-                                         Name{L"A\n", L"x"}, Name{L"A", L"x\ny"}));
+                                         Name{L"A\n", L"x"}, Name{L"A", L"x\ny"}, Name{L"A\x202E", L"x"},
+                                         Name{L"A", L"x\x009B"}));
 
 TEST_F(Settings, MissingFoldersAreMadeForTheUserAlone) {
     file_ = folder_ / "config" / "quor" / "settings.ini";
@@ -164,12 +166,12 @@ TEST_F(Settings, MessagesAreInTheLanguageInUse) {
     fs::create_directory(file_);
     const auto error = SettingsStore(file_).readError();
     ASSERT_TRUE(error);
-    EXPECT_TRUE(error->message().ends_with(L"settings.ini: 无法读取设置文件，请检查其权限: 它不是普通文件"));
+    EXPECT_TRUE(error->message().ends_with(L"settings.ini: 无法读取设置文件，请检查其权限: 这是文件夹，不是文件"));
     quor::setLanguage(quor::Language::English);
     const auto inEnglish = SettingsStore(file_).readError()->message();
     quor::setLanguage(quor::Language::Chinese);
     EXPECT_TRUE(
-        inEnglish.ends_with(L": the settings file cannot be read; check its permissions: it is not a regular file"));
+        inEnglish.ends_with(L": the settings file cannot be read; check its permissions: it is a folder, not a file"));
 }
 
 TEST_F(Settings, AFolderInPlaceOfTheFileIsAnErrorAndStays) {
@@ -181,6 +183,33 @@ TEST_F(Settings, AFolderInPlaceOfTheFileIsAnErrorAndStays) {
     EXPECT_TRUE(store.set(L"A", L"x", L"1"));
     EXPECT_EQ(store.get(L"A", L"x"), L"1");
     EXPECT_TRUE(fs::is_directory(file_));
+}
+
+TEST_F(Settings, AFileThatFailsWhileItIsReadIsAnErrorAndStays) {
+    fs::create_symlink("/proc/self/mem", file_);
+    SettingsStore store(file_);
+    EXPECT_EQ(store.get(L"A", L"x"), std::nullopt);
+    ASSERT_TRUE(store.readError());
+    EXPECT_EQ(store.readError()->reason, "读写设备时出错");
+    EXPECT_TRUE(store.set(L"A", L"x", L"1"));
+    EXPECT_EQ(store.get(L"A", L"x"), L"1");
+}
+
+TEST_F(Settings, APipeInPlaceOfTheFileIsAnErrorAndNobodyWaits) {
+    ASSERT_EQ(::mkfifo(file_.c_str(), 0600), 0);
+    const auto error = SettingsStore(file_).readError();
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->reason, "它不是普通文件");
+}
+
+TEST_F(Settings, AFileBeyondAllSettingsIsAnErrorAndStays) {
+    write("");
+    fs::resize_file(file_, (16U << 20U) + 1);
+    SettingsStore store(file_);
+    ASSERT_TRUE(store.readError());
+    EXPECT_EQ(store.readError()->reason, "文件过大");
+    EXPECT_TRUE(store.set(L"A", L"x", L"1"));
+    EXPECT_EQ(fs::file_size(file_), (16U << 20U) + 1);
 }
 
 TEST_F(Settings, AnEmptyPathKeepsValuesForThisProcess) {

@@ -4,7 +4,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace quor::dxf {
+namespace quor {
 
 class Descriptor {
 public:
@@ -22,4 +22,4 @@ private:
     int fd_;
 };
 
-} // namespace quor::dxf
+} // namespace quor
