@@ -2,16 +2,17 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <fstream>
-#include <iterator>
+#include <numeric>
 #include <system_error>
-#include <unordered_map>
 #include <utility>
 
-#include "host/cm/rgb_text.h"
+#include "host/cm/book_parser.h"
 #include "host/sys/case_fold.h"
+#include "host/sys/problem_report.h"
 #include "host/sys/system_error.h"
 #include "host/sys/utf8.h"
+#include "host/sys/visible_text.h"
+#include "host/sys/whole_file.h"
 #include "host/texts/color_books.h"
 
 namespace quor::cm {
@@ -19,104 +20,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Names are typed at prompts that take so many characters; shorter book names are taken for a slip of the finger there.
-constexpr std::size_t shortestBookName = 4;
-constexpr std::size_t longestName = 131;
-
-std::wstring_view trim(std::wstring_view text) {
-    constexpr std::wstring_view blanks = L" \t\r\xFEFF";
-    const std::size_t first = text.find_first_not_of(blanks);
-    return first == std::wstring_view::npos ? std::wstring_view()
-                                            : text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
-bool isName(std::wstring_view name, std::size_t shortest) {
-    return name.size() >= shortest && name.size() <= longestName && name.find(L'$') == std::wstring_view::npos;
-}
-
-// What is wrong with a line; nothing when it is right.
-using Complaint = std::optional<ZrString>;
-
-// Takes one line of a book after the other.
-class BookParser {
-public:
-    Complaint take(std::wstring_view rawLine, std::size_t number) {
-        const std::wstring_view line = trim(rawLine);
-        if (line.empty() || line.front() == L'#')
-            return std::nullopt;
-        const std::size_t equals = line.rfind(L'=');
-        if (equals == std::wstring_view::npos)
-            return fill(book_.name.empty() ? texts::colorBookNoName : texts::colorBookNoEquals);
-        const std::wstring_view left = trim(line.substr(0, equals));
-        const std::wstring_view right = trim(line.substr(equals + 1));
-        if (!right.empty() && right.front() == L'"')
-            return takeBookName(left, right);
-        return book_.name.empty() ? fill(texts::colorBookNoName) : takeColor(left, right, number);
-    }
-
-    [[nodiscard]] Complaint finish() const {
-        if (book_.name.empty())
-            return fill(texts::colorBookNoName);
-        return book_.colors.empty() ? Complaint(fill(texts::colorBookEmpty)) : std::nullopt;
-    }
-
-    [[nodiscard]] ColorBook result() { return std::move(book_); }
-
-private:
-    Complaint takeBookName(std::wstring_view left, std::wstring_view right) {
-        if (!equalFolded(left, L"book"))
-            return fill(texts::colorBookBadColor);
-        if (!book_.name.empty())
-            return fill(texts::colorBookSecondName);
-        if (right.size() < 2 || right.back() != L'"')
-            return fill(texts::colorBookBadName);
-        const std::wstring_view name = right.substr(1, right.size() - 2);
-        if (!isName(name, shortestBookName) || name.find(L'"') != std::wstring_view::npos || trim(name) != name)
-            return fill(texts::colorBookBadName);
-        book_.name = name;
-        return std::nullopt;
-    }
-
-    Complaint takeColor(std::wstring_view left, std::wstring_view right, std::size_t number) {
-        if (!isName(left, 1))
-            return fill(texts::colorBookBadColorName);
-        const auto rgb = parseRgb(right);
-        if (!rgb)
-            return fill(texts::colorBookBadColor);
-        const auto [earlier, added] = lines_.try_emplace(ZrString(left), number);
-        if (!added)
-            return fill(texts::colorBookColorTwice, left, earlier->second);
-        book_.colors.push_back({ZrString(left), static_cast<std::uint8_t>(*rgb >> 16),
-                                static_cast<std::uint8_t>(*rgb >> 8 & 0xFF), static_cast<std::uint8_t>(*rgb & 0xFF)});
-        return std::nullopt;
-    }
-
-    ColorBook book_;
-    std::unordered_map<ZrString, std::size_t, FoldedHash, FoldedEqual> lines_; // on which each colour stands
-};
-
-// The text of a file; nothing, and errno, when it cannot be read.
-std::optional<std::string> readFile(const fs::path& file) {
-    errno = 0;
-    std::ifstream stream(file, std::ios::binary);
-    std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    if (!stream)
-        return std::nullopt;
-    return bytes;
-}
-
+// Every entry, of whatever kind: one that cannot be read is told of later.
 std::vector<fs::path> bookFiles(const fs::path& folder, std::vector<ColorBookError>& errors) {
     std::vector<fs::path> files;
     std::error_code failure;
-    for (fs::directory_iterator it(folder, failure), end; !failure && it != end; it.increment(failure)) {
-        std::error_code ignored; // an entry that cannot be looked at is no book
-        if (it->path().extension() == ".book" && it->is_regular_file(ignored))
+    for (fs::directory_iterator it(folder, failure), end; !failure && it != end; it.increment(failure))
+        if (it->path().extension() == ".book")
             files.push_back(it->path());
-    }
     if (failure && failure != std::errc::no_such_file_or_directory)
         errors.push_back({folder, 0, fill(texts::colorBookFolderNotRead, systemErrorText(failure.value()))});
     std::sort(files.begin(), files.end());
     return files;
+}
+
+ZrString whyNotRead(int systemError) {
+    if (systemError == EFBIG)
+        return fill(texts::colorBookTooLarge, largestColorBook >> 20);
+    return fill(texts::colorBookNotRead, systemErrorText(systemError));
 }
 
 struct HostBooks {
@@ -131,39 +51,55 @@ HostBooks& hostBooks() {
 
 } // namespace
 
+ColorBook::ColorBook(ZrString name, std::vector<BookColor> colors)
+    : name_(std::move(name)), colors_(std::move(colors)), byName_(colors_.size()) {
+    std::iota(byName_.begin(), byName_.end(), 0U);
+    std::sort(byName_.begin(), byName_.end(), [this](std::uint32_t a, std::uint32_t b) {
+        const int order = compareFolded(colors_[a].name, colors_[b].name);
+        return order != 0 ? order < 0 : a < b;
+    });
+}
+
 const BookColor* ColorBook::find(std::wstring_view colorName) const {
-    const auto it = std::find_if(colors.begin(), colors.end(),
-                                 [colorName](const BookColor& c) { return equalFolded(c.name, colorName); });
-    return it == colors.end() ? nullptr : &*it;
+    const auto at = std::lower_bound(
+        byName_.begin(), byName_.end(), colorName,
+        [this](std::uint32_t place, std::wstring_view name) { return compareFolded(colors_[place].name, name) < 0; });
+    return at != byName_.end() && equalFolded(colors_[*at].name, colorName) ? &colors_[*at] : nullptr;
+}
+
+std::optional<ColorBook::Double> ColorBook::firstDouble() const {
+    std::optional<Double> first;
+    for (std::size_t i = 1; i < byName_.size(); ++i) {
+        const Double pair{byName_[i - 1], byName_[i]};
+        if ((!first || pair.later < first->later) && equalFolded(colors_[pair.earlier].name, colors_[pair.later].name))
+            first = pair;
+    }
+    return first;
 }
 
 ZrString ColorBookError::message() const {
     const ZrString name = fromUtf8(file.native());
-    return line > 0 ? fill(texts::colorBookLineProblem, name, line, reason)
-                    : fill(texts::colorBookFileProblem, name, reason);
+    return visibleText(line > 0 ? fill(texts::colorBookLineProblem, name, line, reason)
+                                : fill(texts::colorBookFileProblem, name, reason));
 }
 
 std::optional<ColorBook> parseColorBook(std::string_view utf8, ColorBookError& error) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (utf8.starts_with(byteOrderMark))
+        utf8.remove_prefix(byteOrderMark.size());
     BookParser parser;
-    std::size_t number = 0;
-    const auto refuse = [&](std::size_t line, ZrString reason) {
-        error.line = line;
-        error.reason = std::move(reason);
-        return std::nullopt;
-    };
-    for (std::size_t at = 0; at < utf8.size();) {
-        const std::size_t end = std::min(utf8.find('\n', at), utf8.size());
-        const std::string_view line = utf8.substr(at, end - at);
-        ++number;
-        if (!isValidUtf8(line))
-            return refuse(number, fill(texts::colorBookNotUtf8));
-        if (Complaint complaint = parser.take(fromUtf8(line), number))
-            return refuse(number, std::move(*complaint));
-        at = end + 1;
+    for (std::size_t number = 1; !utf8.empty(); ++number) {
+        const std::string_view line = utf8.substr(0, utf8.find('\n'));
+        std::optional<ZrString> complaint =
+            isValidUtf8(line) ? parser.take(fromUtf8(line), number) : fill(texts::colorBookNotUtf8);
+        if (complaint) {
+            error.line = number;
+            error.reason = std::move(*complaint);
+            return std::nullopt;
+        }
+        utf8.remove_prefix(std::min(line.size() + 1, utf8.size()));
     }
-    if (Complaint complaint = parser.finish())
-        return refuse(0, std::move(*complaint));
-    return parser.result();
+    return parser.finish(error);
 }
 
 ColorBooks ColorBooks::load(const std::vector<fs::path>& folders) {
@@ -172,40 +108,44 @@ ColorBooks ColorBooks::load(const std::vector<fs::path>& folders) {
         for (const fs::path& file : bookFiles(folder, books.errors_))
             books.add(file);
     std::sort(books.books_.begin(), books.books_.end(),
-              [](const ColorBook& a, const ColorBook& b) { return compareFolded(a.name, b.name) < 0; });
+              [](const ColorBook& a, const ColorBook& b) { return compareFolded(a.name(), b.name()) < 0; });
     return books;
 }
 
 void ColorBooks::add(const fs::path& file) {
     ColorBookError error{file, 0, {}};
-    const auto bytes = readFile(file);
+    const Result<std::string, int> bytes = readWholeFile(file, largestColorBook);
     auto book = bytes ? parseColorBook(*bytes, error) : std::nullopt;
     if (!bytes)
-        error.reason = fill(texts::colorBookNotRead, systemErrorText(errno));
-    const ColorBook* const earlier = book ? find(book->name) : nullptr;
+        error.reason = whyNotRead(bytes.error());
+    const ColorBook* const earlier = book ? find(book->name()) : nullptr;
     if (earlier != nullptr)
-        error.reason = fill(texts::colorBookTwice, earlier->name, fromUtf8(earlier->file.native()));
+        error.reason = fill(texts::colorBookTwice, earlier->name(), fromUtf8(earlier->file().native()));
     if (!book || earlier != nullptr) {
         errors_.push_back(std::move(error));
         return;
     }
-    book->file = file;
+    book->setFile(file);
     books_.push_back(std::move(*book));
 }
 
 const ColorBook* ColorBooks::find(std::wstring_view bookName) const {
     const auto it = std::find_if(books_.begin(), books_.end(),
-                                 [bookName](const ColorBook& b) { return equalFolded(b.name, bookName); });
+                                 [bookName](const ColorBook& b) { return equalFolded(b.name(), bookName); });
     return it == books_.end() ? nullptr : &*it;
 }
 
 const ColorBooks& colorBooks() {
     HostBooks& host = hostBooks();
-    if (!host.books) {
-        host.books = ColorBooks::load(host.folders);
-        for (const ColorBookError& error : host.books->errors())
-            printText(L"\n" + error.message());
-    }
+    if (!host.books)
+        for (const ColorBookError& error : rereadColorBooks().errors())
+            reportProblem(error.message());
+    return *host.books;
+}
+
+const ColorBooks& rereadColorBooks() {
+    HostBooks& host = hostBooks();
+    host.books = ColorBooks::load(host.folders);
     return *host.books;
 }
 

@@ -18,13 +18,32 @@ struct BookColor {
     std::uint8_t blue = 0;
 };
 
-struct ColorBook {
-    ZrString name;
-    std::vector<BookColor> colors; // in the order of the file
-    std::filesystem::path file;    // from which it was loaded
+class ColorBook {
+public:
+    ColorBook(ZrString name, std::vector<BookColor> colors);
 
+    [[nodiscard]] const ZrString& name() const { return name_; }
+    // In the order of the file.
+    [[nodiscard]] const std::vector<BookColor>& colors() const { return colors_; }
     // Without regard to case; null when the book has no such colour.
     [[nodiscard]] const BookColor* find(std::wstring_view colorName) const;
+
+    // Two colours of one name, by their places; of several such pairs the one that is complete first.
+    struct Double {
+        std::size_t earlier;
+        std::size_t later;
+    };
+    [[nodiscard]] std::optional<Double> firstDouble() const;
+
+    // From which it was loaded; empty for a book that comes from no file.
+    [[nodiscard]] const std::filesystem::path& file() const { return file_; }
+    void setFile(std::filesystem::path file) { file_ = std::move(file); }
+
+private:
+    ZrString name_;
+    std::vector<BookColor> colors_;
+    std::vector<std::uint32_t> byName_; // places in colors_; equal names in the order of the file
+    std::filesystem::path file_;
 };
 
 struct ColorBookError {
@@ -32,9 +51,12 @@ struct ColorBookError {
     std::size_t line = 0;       // from 1; 0 when the whole file is meant
     ZrString reason;
 
-    // One line for people: file, line, reason, and that it was left out.
+    // One line for people: file, line, reason, and that it was left out. Control characters are spelled out.
     [[nodiscard]] ZrString message() const;
 };
+
+// A larger file is no colour book.
+constexpr std::size_t largestColorBook = std::size_t{4} << 20;
 
 // One book from the text of a file: a line `book = "Name"` first, then lines `colour name = r,g,b`; blank lines and
 // lines that begin with # are skipped. Empty and `error` (line and reason) for a text that breaks a rule.
@@ -58,9 +80,11 @@ private:
     std::vector<ColorBookError> errors_;
 };
 
-// The books of the host, loaded at the first use; what is wrong with them is then told on the command line.
+// The books of the host, read at the first use; what is wrong with them is then reported (host/sys/problem_report.h).
 [[nodiscard]] const ColorBooks& colorBooks();
-// Where they are loaded from, from now on; the books of an earlier folder come first. None unless set.
+// The same, read anew and without a report: the caller tells what is wrong. Books from before are gone.
+[[nodiscard]] const ColorBooks& rereadColorBooks();
+// Where they are read from, from now on; the books of an earlier folder come first. None unless set.
 void setColorBookFolders(std::vector<std::filesystem::path> folders);
 
 } // namespace quor::cm

@@ -53,13 +53,13 @@ Quor::ErrorStatus zrcmGetColorFromColorBookName(ZrCmColor& color, const wchar_t*
     if (entry == nullptr)
         return Quor::eInvalidInput;
     color.setRGB(entry->red, entry->green, entry->blue);
-    return color.setNames(entry->name, found->name);
+    return color.setNames(entry->name, found->name());
 }
 
 void EnumBookNames(std::vector<ZrString>& names, std::vector<ZrString>& displayNames) {
     names.clear();
     for (const quor::cm::ColorBook& book : quor::cm::colorBooks().books())
-        names.push_back(book.name);
+        names.push_back(book.name());
     displayNames = names;
 }
 

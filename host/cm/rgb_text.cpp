@@ -1,6 +1,27 @@
 #include "host/cm/rgb_text.h"
 
+#include "host/sys/trim.h"
+
 namespace quor::cm {
+
+namespace {
+
+constexpr int largestComponent = 255;
+
+std::optional<std::uint32_t> parseThree(std::wstring_view text, std::wstring_view (*digitsOf)(std::wstring_view)) {
+    const std::size_t first = text.find(L',');
+    const std::size_t second = first == std::wstring_view::npos ? first : text.find(L',', first + 1);
+    if (second == std::wstring_view::npos)
+        return std::nullopt;
+    const auto red = parseWhole(digitsOf(text.substr(0, first)), largestComponent);
+    const auto green = parseWhole(digitsOf(text.substr(first + 1, second - first - 1)), largestComponent);
+    const auto blue = parseWhole(digitsOf(text.substr(second + 1)), largestComponent);
+    if (!red || !green || !blue)
+        return std::nullopt;
+    return static_cast<std::uint32_t>(*red << 16 | *green << 8 | *blue);
+}
+
+} // namespace
 
 std::optional<int> parseWhole(std::wstring_view text, int largest) {
     if (text.empty())
@@ -17,16 +38,9 @@ std::optional<int> parseWhole(std::wstring_view text, int largest) {
 }
 
 std::optional<std::uint32_t> parseRgb(std::wstring_view text) {
-    const std::size_t first = text.find(L',');
-    const std::size_t second = first == std::wstring_view::npos ? first : text.find(L',', first + 1);
-    if (second == std::wstring_view::npos)
-        return std::nullopt;
-    const auto red = parseWhole(text.substr(0, first), 255);
-    const auto green = parseWhole(text.substr(first + 1, second - first - 1), 255);
-    const auto blue = parseWhole(text.substr(second + 1), 255);
-    if (!red || !green || !blue)
-        return std::nullopt;
-    return static_cast<std::uint32_t>(*red << 16 | *green << 8 | *blue);
+    return parseThree(text, [](std::wstring_view part) { return part; });
 }
+
+std::optional<std::uint32_t> parseSpacedRgb(std::wstring_view text) { return parseThree(text, trimmed); }
 
 } // namespace quor::cm

@@ -12,5 +12,7 @@ namespace quor::cm {
 
 // Three whole numbers 0 to 255 with commas between and nothing else, as 0xRRGGBB.
 [[nodiscard]] std::optional<std::uint32_t> parseRgb(std::wstring_view text);
+// The same, with blanks around the numbers or without.
+[[nodiscard]] std::optional<std::uint32_t> parseSpacedRgb(std::wstring_view text);
 
 } // namespace quor::cm

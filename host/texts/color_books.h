@@ -10,6 +10,10 @@ inline constexpr Text colorBookLineProblem{L"%s，第 %d 行: %s。已忽略整�
 inline constexpr Text colorBookFileProblem{L"%s: %s。已忽略。", L"%s: %s. It was left out."};
 inline constexpr Text colorBookFolderNotRead{L"无法列出文件夹(%s)", L"the folder cannot be listed (%s)"};
 inline constexpr Text colorBookNotRead{L"无法读取文件(%s)", L"the file cannot be read (%s)"};
+inline constexpr Text colorBookTooLarge{L"文件超过 %d MB，不是配色系统",
+                                        L"the file is larger than %d MB and no colour book"};
+inline constexpr Text colorBookControl{L"名称中有控制字符，请将其删除",
+                                       L"there is a control character in a name; take it out"};
 inline constexpr Text colorBookNotUtf8{L"该行不是 UTF-8 文本", L"the line is no UTF-8 text"};
 inline constexpr Text colorBookNoName{L"第一个条目应为 book = \"名称\"", L"the line book = \"name\" has to come first"};
 inline constexpr Text colorBookSecondName{L"book 行只能出现一次", L"there may be one book line only"};
@@ -26,5 +30,13 @@ inline constexpr Text colorBookColorTwice{L"颜色“%s”已出现在第 %d 行
                                           L"the colour \"%s\" was given in line %d already"};
 inline constexpr Text colorBookEmpty{L"其中没有颜色", L"it holds no colour"};
 inline constexpr Text colorBookTwice{L"配色系统“%s”已由 %s 提供", L"the colour book \"%s\" was given by %s already"};
+
+// COLORBOOKS.
+inline constexpr Text kAskColorBook{L"\n输入配色系统名称 <列出全部>: ", L"\nColour book <list all>: "};
+inline constexpr Text kNoColorBooks{L"\n没有配色系统。\n", L"\nThere are no colour books.\n"};
+inline constexpr Text kNoSuchColorBook{L"\n没有名为“%s”的配色系统。在 COLORBOOKS 的提示下按 Enter 可列出全部。\n",
+                                       L"\nThere is no colour book \"%s\". Enter at COLORBOOKS lists them.\n"};
+inline constexpr Text kColorBookColors{L"%d 种颜色", L"%d colours"};
+inline constexpr Text kColorBookOneColor{L"%d 种颜色", L"%d colour"};
 
 } // namespace quor::texts

@@ -5,8 +5,11 @@
 #include <fstream>
 #include <string>
 
+#include <sys/stat.h>
+
 #include <gtest/gtest.h>
 
+#include "host/texts/text.h"
 #include "sdk/cm/color_services.h"
 
 namespace {
@@ -21,6 +24,7 @@ const fs::path shipped = fs::path(QUOR_TEST_DATA) / ".." / ".." / "resources" / 
 class BookFolder : public testing::Test {
 protected:
     void SetUp() override {
+        quor::setLanguage(quor::Language::Chinese);
         std::string name = testing::TempDir() + "booksXXXXXX";
         folder_ = ::mkdtemp(name.data());
     }
@@ -40,10 +44,10 @@ TEST(ColorBookText, HoldsNamesBlanksCommentsAndBothLineEnds) {
                        "255,0,0",
                        error);
     ASSERT_TRUE(book) << testing::PrintToString(error.message());
-    EXPECT_EQ(book->name, L"My Book");
-    ASSERT_EQ(book->colors.size(), 2U);
-    EXPECT_EQ(book->colors[0].name, L"Deep = Sea");
-    EXPECT_EQ(book->colors[0].blue, 255);
+    EXPECT_EQ(book->name(), L"My Book");
+    ASSERT_EQ(book->colors().size(), 2U);
+    EXPECT_EQ(book->colors()[0].name, L"Deep = Sea");
+    EXPECT_EQ(book->colors()[0].blue, 255);
     EXPECT_NE(book->find(L"DEEP = sea"), nullptr);
     EXPECT_EQ(book->find(L"deep"), nullptr);
 }
@@ -90,8 +94,8 @@ TEST_F(BookFolder, BrokenAndDoubleBooksAreReportedAndTheOthersLoadSorted) {
     write("notes.txt", "no book");
     const ColorBooks books = ColorBooks::load({folder_});
     ASSERT_EQ(books.books().size(), 2U);
-    EXPECT_EQ(books.books()[0].name, L"Banana");
-    EXPECT_EQ(books.books()[1].name, L"zebra");
+    EXPECT_EQ(books.books()[0].name(), L"Banana");
+    EXPECT_EQ(books.books()[1].name(), L"zebra");
     EXPECT_EQ(books.find(L"Zebra")->find(L"A")->red, 1);
     ASSERT_EQ(books.errors().size(), 2U);
     EXPECT_EQ(books.errors()[0].file, folder_ / "2.book");
@@ -109,10 +113,125 @@ TEST_F(BookFolder, ABookOfAnEarlierFolderIsNotReplacedByOneOfTheSameName) {
     const ColorBooks books = ColorBooks::load({folder_, folder_ / "own"});
     ASSERT_EQ(books.books().size(), 2U);
     EXPECT_EQ(books.find(L"Apple")->find(L"a")->red, 1);
-    EXPECT_EQ(books.find(L"Apple")->file, folder_ / "1.book");
+    EXPECT_EQ(books.find(L"Apple")->file(), folder_ / "1.book");
     EXPECT_EQ(books.find(L"Quince")->find(L"a")->red, 7);
     ASSERT_EQ(books.errors().size(), 1U);
     EXPECT_EQ(books.errors()[0].file, folder_ / "own" / "1.book");
+}
+
+TEST(ColorBookText, ANameMayHoldEqualsSigns) {
+    ColorBookError error;
+    const auto book = parseColorBook("BOOK=\"A = B\"\nbook = 1,2,3\nbook = deep = 4,5,6\n", error);
+    ASSERT_TRUE(book) << testing::PrintToString(error.message());
+    EXPECT_EQ(book->name(), L"A = B");
+    EXPECT_EQ(book->find(L"Book")->red, 1);
+    EXPECT_EQ(book->find(L"book = deep")->red, 4);
+}
+
+TEST(ColorBookText, BlanksMayStandAroundTheNumbers) {
+    ColorBookError error;
+    const auto book = parseColorBook("book = \"Spaced\"\nR = 130, 180 ,\t220 \n", error);
+    ASSERT_TRUE(book) << testing::PrintToString(error.message());
+    EXPECT_EQ(book->find(L"R")->red, 130);
+    EXPECT_EQ(book->find(L"R")->green, 180);
+    EXPECT_EQ(book->find(L"R")->blue, 220);
+}
+
+struct Reason {
+    const char* text;
+    const wchar_t* reason;
+};
+
+class ReasonOfABrokenBook : public testing::TestWithParam<Reason> {
+protected:
+    ReasonOfABrokenBook() { quor::setLanguage(quor::Language::Chinese); }
+};
+
+TEST_P(ReasonOfABrokenBook, IsTheOneThatHelps) {
+    ColorBookError error;
+    EXPECT_FALSE(parseColorBook(GetParam().text, error));
+    EXPECT_EQ(error.reason, GetParam().reason);
+}
+
+constexpr const wchar_t* control = L"名称中有控制字符，请将其删除";
+constexpr const wchar_t* badName = L"配色系统名称应加双引号，长 4 到 131 个字符，不含 $ 和双引号，首尾没有空格";
+constexpr const wchar_t* badColor = L"颜色应为 r,g,b，每个数为 0 到 255 的整数";
+
+INSTANTIATE_TEST_SUITE_P(All, ReasonOfABrokenBook,
+                         testing::Values(Reason{"book = \"Es\x1B[2Jc\"\na = 1,2,3\n", control},
+                                         Reason{"book = \"Good\"\na\x1B[2J = 1,2,3\n", control},
+                                         Reason{"book = \"Good\"\na\xE2\x80\xAE"
+                                                "b = 1,2,3\n",
+                                                control},
+                                         Reason{"book = \"Good\"\na\tb = 1,2,3\n", control},
+                                         Reason{"book = Plain\n", badName}, Reason{"book = \"A = B\n", badName},
+                                         Reason{"book = \"Good\"\nR = 1 3,2,3\n", badColor},
+                                         Reason{"book = \"Good\"\nR = 1, ,3\n", badColor},
+                                         Reason{"book = \"Good\"\nbook = \"Next\"\n", L"book 行只能出现一次"},
+                                         Reason{"book = \"Good\"\nR 1,2,3\n", L"应为 颜色名称 = r,g,b"}));
+
+TEST(ColorBookText, OfSeveralDoublesTheFirstIsTold) {
+    quor::setLanguage(quor::Language::Chinese);
+    ColorBookError error;
+    EXPECT_FALSE(parseColorBook("book = \"Good\"\nz = 1,2,3\na = 1,2,3\nZ = 1,2,3\nA = 1,2,3\na = 4,5,6\n", error));
+    EXPECT_EQ(error.line, 4U);
+    EXPECT_EQ(error.reason, L"颜色“Z”已出现在第 2 行");
+}
+
+std::string numberedColors(int count) {
+    std::string text = "book = \"Many\"\n";
+    for (int i = 0; i < count; ++i)
+        text += "C" + std::to_string(i) + " = " + std::to_string(i % 256) + ",0,0\n";
+    return text;
+}
+
+TEST(ColorBookText, EveryOneOfManyColoursIsFound) {
+    constexpr int count = 100'000;
+    ColorBookError error;
+    const auto book = parseColorBook(numberedColors(count), error);
+    ASSERT_TRUE(book);
+    int found = 0;
+    for (int i = 0; i < count; ++i)
+        found += book->find(L"c" + std::to_wstring(i)) == &book->colors()[static_cast<std::size_t>(i)] ? 1 : 0;
+    EXPECT_EQ(found, count);
+    EXPECT_EQ(book->find(L"C"), nullptr);
+    EXPECT_EQ(book->find(L"c100000"), nullptr);
+    EXPECT_EQ(book->find(L"zzz"), nullptr);
+}
+
+TEST_F(BookFolder, ABookThatCannotBeReadIsReportedAndTheOthersLoad) {
+    fs::create_symlink("/proc/self/mem", folder_ / "1.book");
+    fs::create_directory(folder_ / "2.book");
+    fs::create_symlink("nowhere", folder_ / "3.book");
+    ASSERT_EQ(::mkfifo((folder_ / "4.book").c_str(), 0600), 0);
+    write("5.book", "book = \"Whole\"\na = 1,2,3\n");
+    const ColorBooks books = ColorBooks::load({folder_});
+    EXPECT_NE(books.find(L"Whole"), nullptr);
+    ASSERT_EQ(books.errors().size(), 4U);
+    EXPECT_EQ(books.errors()[0].reason, L"无法读取文件(读写设备时出错)");
+    EXPECT_EQ(books.errors()[1].reason, L"无法读取文件(这是文件夹，不是文件)");
+    EXPECT_EQ(books.errors()[2].reason, L"无法读取文件(文件或文件夹不存在)");
+    EXPECT_EQ(books.errors()[3].reason, L"无法读取文件(它不是普通文件)");
+}
+
+TEST_F(BookFolder, ABookOfFourMegabytesIsReadAndOneByteMoreIsNot) {
+    std::string text = "book = \"Large\"\na = 1,2,3\n";
+    text.resize(quor::cm::largestColorBook, '\n');
+    write("1.book", text);
+    EXPECT_NE(ColorBooks::load({folder_}).find(L"Large"), nullptr);
+    write("1.book", text + "\n");
+    const ColorBooks books = ColorBooks::load({folder_});
+    EXPECT_EQ(books.find(L"Large"), nullptr);
+    ASSERT_EQ(books.errors().size(), 1U);
+    EXPECT_EQ(books.errors()[0].reason, L"文件超过 4 MB，不是配色系统");
+}
+
+TEST_F(BookFolder, ControlCharactersOfAFileNameAreSpelledOutInMessages) {
+    write("a\x1B[2J.book", "none");
+    const ColorBooks books = ColorBooks::load({folder_});
+    ASSERT_EQ(books.errors().size(), 1U);
+    EXPECT_EQ(books.errors()[0].message().find(L'\x1B'), std::wstring::npos);
+    EXPECT_NE(books.errors()[0].message().find(L"a^[[2J.book，第 1 行: "), std::wstring::npos);
 }
 
 TEST_F(BookFolder, AColourGivenTwiceIsToldWithTheLineOfTheFirst) {
@@ -142,7 +261,7 @@ TEST(ShippedBooks, LoadWithoutErrorAndComplete) {
     const ColorBooks books = ColorBooks::load({shipped});
     EXPECT_TRUE(books.errors().empty());
     ASSERT_NE(books.find(L"web colors"), nullptr);
-    EXPECT_EQ(books.find(L"Web Colors")->colors.size(), 148U);
+    EXPECT_EQ(books.find(L"Web Colors")->colors().size(), 148U);
     ASSERT_NE(books.find(L"Neutral Greys"), nullptr);
     EXPECT_EQ(books.find(L"Neutral Greys")->find(L"Grey 50")->green, 128);
 }
@@ -154,7 +273,7 @@ bool isDarker(const quor::cm::BookColor& a, const quor::cm::BookColor& b) { retu
 TEST(ShippedBooks, TheGreysAreNeutralAndRiseFromBlackToWhite) {
     const ColorBooks books = ColorBooks::load({shipped});
     ASSERT_NE(books.find(L"Neutral Greys"), nullptr);
-    const auto& greys = books.find(L"Neutral Greys")->colors;
+    const auto& greys = books.find(L"Neutral Greys")->colors();
     EXPECT_EQ(greys.size(), 21U);
     EXPECT_TRUE(std::all_of(greys.begin(), greys.end(), isNeutral));
     EXPECT_TRUE(std::is_sorted(greys.begin(), greys.end(), isDarker));
@@ -188,6 +307,16 @@ TEST(ColorBookName, BothListsOfBooksAreReplaced) {
     EnumBookNames(names, displayNames);
     EXPECT_EQ(names, (std::vector<ZrString>{L"Neutral Greys", L"Web Colors"}));
     EXPECT_EQ(displayNames, names);
+}
+
+TEST_F(BookFolder, BooksAreReadOnceUnlessTheyAreReadAnew) {
+    quor::cm::setColorBookFolders({folder_});
+    EXPECT_EQ(quor::cm::colorBooks().find(L"Late"), nullptr);
+    write("1.book", "book = \"Late\"\na = 1,2,3\n");
+    EXPECT_EQ(quor::cm::colorBooks().find(L"Late"), nullptr);
+    EXPECT_NE(quor::cm::rereadColorBooks().find(L"Late"), nullptr);
+    EXPECT_NE(quor::cm::colorBooks().find(L"Late"), nullptr);
+    quor::cm::setColorBookFolders({});
 }
 
 TEST(ColorBookName, WithoutFoldersThereAreNoBooks) {

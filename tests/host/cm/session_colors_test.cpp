@@ -2,6 +2,7 @@
 #include "sdk/cm/color_services.h"
 
 #include "host/session.h"
+#include "host/sys/problem_report.h"
 #include "tests/support/scripted_front_end.h"
 #include "tests/support/test_session.h"
 
@@ -75,6 +76,30 @@ TEST_F(SessionColors, ABrokenBookIsReportedOnceAndTheOthersCount) {
 
     EXPECT_EQ(front_.screen(), (folder_.path() / "shared/colorbooks/a.book").wstring() +
                                    L"，第 2 行: 颜色应为 r,g,b，每个数为 0 到 255 的整数。已忽略整个文件。");
+}
+
+TEST_F(SessionColors, ABrokenBookIsReportedToWhoeverTakesProblems) {
+    write("own/colorbooks/a.book", "book = \"Broken\"\n");
+    const Session session(front_, options(L"en"));
+    std::vector<ZrString> told;
+    setProblemReporter([&](const ZrString& message) { told.push_back(message); });
+
+    EXPECT_EQ(bookNames(), std::vector<ZrString>{});
+    EXPECT_EQ(bookNames(), std::vector<ZrString>{});
+
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_TRUE(told[0].ends_with(L"a.book: it holds no colour. It was left out."));
+    EXPECT_EQ(front_.screen(), L"");
+}
+
+TEST_F(SessionColors, AFileThatCannotBeReadTakesNoOtherBookAway) {
+    write("shared/colorbooks/b.book", "book = \"Whole\"\nink = 1,2,3\n");
+    std::filesystem::create_symlink("/proc/self/mem", folder_.path() / "shared/colorbooks/a.book");
+    const Session session(front_, options(L"en"));
+
+    EXPECT_EQ(bookNames(), std::vector<ZrString>{L"Whole"});
+    EXPECT_EQ(front_.screen(), (folder_.path() / "shared/colorbooks/a.book").wstring() +
+                                   L": the file cannot be read (the device failed). It was left out.");
 }
 
 TEST_F(SessionColors, ABrokenBookIsReportedInTheLanguageInUse) {
