@@ -48,6 +48,7 @@ const Row kCommands[] = {
     {L"LINE",       line,           kWithDrawing, 0, {L"L"}},
     {L"3DFACE",     face,           kWithDrawing, 0, {L"3F"}},
     {L"IESINFO",    iesInfo,        kAnytime,     kNoUndo},
+    {L"COLORBOOKS", colorBooks,     kAnytime,     kNoUndo | kTransparent},
     {L"UCS",        ucs,            kWithDrawing, 0},
     {L"LAYOUT",     layout,         kWithDrawing, 0, {L"LO"}},
     {L"MODEL",      model,          kWithDrawing, 0},

@@ -30,8 +30,9 @@ int list(Session& session);
 int line(Session& session);
 int face(Session& session);
 
-// Photometric web files.
+// Photometric web files, colour books.
 int iesInfo(Session& session);
+int colorBooks(Session& session);
 
 // Spaces, layers, settings.
 int ucs(Session& session);

@@ -108,6 +108,15 @@ constexpr HelpPage kPages[] = {
       L"File name: may hold blanks; Enter alone lets you choose.\nA name without folder is looked for beside the drawing, in "
       L"the working folder, in SUPPORTPATH and among the files of the program."},
      L"IESINFO downlight.ies"},
+    {L"COLORBOOKS", kObjects,
+     {L"列出配色系统，或一个配色系统中的颜色。",
+      L"Lists the colour books or the colours of one."},
+     {L"配色系统名称: 可含空格；Enter 列出全部，不能使用的文件连同原因列在最后。\n"
+      L"每次都会重新读取配色系统。要添加配色系统，请将 .book 文件放入用户设置旁的文件夹 colorbooks。执行其他命令时可用 'COLORBOOKS。",
+      L"Name of a colour book: may hold blanks; Enter lists all of them, and at the end the files that cannot be used, with the "
+      L"reason.\nThe books are read anew each time. To add one, put a file .book into the folder colorbooks beside your "
+      L"settings. 'COLORBOOKS works inside other commands."},
+     L"COLORBOOKS Neutral Greys"},
     {L"LINE", kObjects,
      {L"画直线段。",
       L"Draws straight lines."},

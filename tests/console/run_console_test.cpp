@@ -224,6 +224,25 @@ TEST_F(RunConsoleTest, QuietRunPrintsErrorsAlone) {
     EXPECT_EQ(err_, "quorc: -c number 2: command NOSUCH failed: there is no such command.\n");
 }
 
+TEST_F(RunConsoleTest, QuietRunTellsOfABrokenColourBook) {
+    fs::create_directories(path("colorbooks"));
+    write("colorbooks/a.book", "book = \"Empty\"\n");
+    options_.quiet = true;
+    command("COLORBOOKS\n");
+    EXPECT_EQ(run(), kSuccess);
+    EXPECT_EQ(out_, "");
+    EXPECT_EQ(err_, "quorc: " + path("colorbooks/a.book") + ": it holds no colour. It was left out.\n");
+}
+
+TEST_F(RunConsoleTest, BrokenColourBookIsToldOnTheScreenOtherwise) {
+    fs::create_directories(path("colorbooks"));
+    write("colorbooks/a.book", "book = \"Empty\"\n");
+    command("COLORBOOKS\n");
+    EXPECT_EQ(run(), kSuccess);
+    EXPECT_TRUE(has(out_, path("colorbooks/a.book") + ": it holds no colour. It was left out.\n"));
+    EXPECT_EQ(err_.find("a.book"), std::string::npos);
+}
+
 TEST_F(RunConsoleTest, SettingsAreMadeBeforeTheFirstCommand) {
     options_.settings = {{L"lightingunits", L"1"}};
     command("SETVAR LIGHTINGUNITS ");
