@@ -7,6 +7,9 @@
 #include "host/sys/system_variables.h"
 #include "host/sys/utf8.h"
 
+#include <system_error>
+#include <utility>
+
 namespace fs = std::filesystem;
 
 namespace quor::ed {
@@ -32,6 +35,45 @@ fs::path plainest(const fs::path& file) {
     return fs::equivalent(plain, file, error) ? plain : file;
 }
 
+enum class Thing { None, File, Other };
+
+// What cannot be looked at is there; a name that nothing can have is not.
+Thing thingAt(const fs::path& path) {
+    std::error_code error;
+    const fs::file_type type = fs::status(path, error).type();
+    if (type == fs::file_type::not_found || error == std::errc::filename_too_long)
+        return Thing::None;
+    return type == fs::file_type::regular ? Thing::File : Thing::Other;
+}
+
+// What of one name stands in the support folders.
+struct Found {
+    std::optional<fs::path> file;
+    std::optional<fs::path> other; // the first that is no file, or cannot be looked at
+};
+
+Found search(Session& session, const ZrString& name) {
+    Found found;
+    const fs::path wanted = toUtf8(name);
+    if (wanted.empty())
+        return found;
+    if (wanted.is_absolute()) {
+        found.file = wanted;
+        return found;
+    }
+    for (const fs::path& folder : supportFolders(session)) {
+        const fs::path candidate = folder / wanted;
+        const Thing thing = thingAt(candidate);
+        if (thing == Thing::File) {
+            found.file = plainest(candidate);
+            return found;
+        }
+        if (thing == Thing::Other && !found.other)
+            found.other = plainest(candidate);
+    }
+    return found;
+}
+
 } // namespace
 
 std::vector<fs::path> supportFolders(Session& session) {
@@ -47,19 +89,21 @@ std::vector<fs::path> supportFolders(Session& session) {
     return folders;
 }
 
-std::optional<fs::path> findSupportFile(Session& session, const ZrString& name) {
-    const fs::path wanted = toUtf8(name);
-    if (wanted.empty())
-        return std::nullopt;
-    if (wanted.is_absolute())
-        return wanted;
-    for (const fs::path& folder : supportFolders(session)) {
-        const fs::path candidate = folder / wanted;
-        std::error_code error;
-        if (fs::is_regular_file(candidate, error))
-            return plainest(candidate);
-    }
-    return std::nullopt;
+std::optional<fs::path> findSupportFile(Session& session, const ZrString& name) { return search(session, name).file; }
+
+std::optional<fs::path> findSupportName(Session& session, const ZrString& name) {
+    Found found = search(session, name);
+    return found.file ? std::move(found.file) : std::move(found.other);
+}
+
+std::optional<fs::path> findKeptFile(Session& session, const ZrString& kept) {
+    const Found whole = search(session, kept);
+    if (whole.file && thingAt(*whole.file) != Thing::None)
+        return whole.file;
+    const ZrString name = kept.substr(kept.find_last_of(L"/\\") + 1);
+    if (const Found byName = search(session, name); byName.file)
+        return byName.file;
+    return whole.other;
 }
 
 } // namespace quor::ed

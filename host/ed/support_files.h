@@ -22,4 +22,13 @@ namespace quor::ed {
 // there is none. Folders and devices are no files. An absolute path is answered as it is, whether or not it exists.
 [[nodiscard]] std::optional<std::filesystem::path> findSupportFile(Session& session, const ZrString& name);
 
+// The same, but where there is no file of that name, the first thing that has the name and is none: a folder, a device,
+// a link that leads in a circle, what must not be looked at. Reading it tells what is wrong with it.
+[[nodiscard]] std::optional<std::filesystem::path> findSupportName(Session& session, const ZrString& name);
+
+// What a path that a drawing keeps stands for on this machine: an absolute path for itself while something is there,
+// any other one for what findSupportName finds. Then for the first file of its last name alone, because the drawing may
+// have come from elsewhere; backslashes separate names in it, too. Nothing when none of these is there.
+[[nodiscard]] std::optional<std::filesystem::path> findKeptFile(Session& session, const ZrString& kept);
+
 } // namespace quor::ed

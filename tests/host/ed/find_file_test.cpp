@@ -181,6 +181,79 @@ TEST_F(FindFile, AWorkingFolderThatIsGoneIsPassedOver) {
     EXPECT_EQ(find(L"a.ies"), file);
 }
 
+TEST_F(FindFile, ANameMayAlsoBeThatOfAFolderWhereThereIsNoFile) {
+    fs::create_directories(root() / "working" / "a.ies");
+
+    EXPECT_EQ(ed::findSupportName(session_, L"a.ies"), root() / "working" / "a.ies");
+    const fs::path file = make("share/webs/a.ies");
+    EXPECT_EQ(ed::findSupportName(session_, L"a.ies"), file);
+    EXPECT_EQ(ed::findSupportName(session_, L"b.ies"), std::nullopt);
+}
+
+TEST_F(FindFile, ALinkThatLeadsToItselfHasItsNameAndOneThatLeadsNowhereHasNot) {
+    fs::create_symlink(root() / "working" / "a.ies", root() / "working" / "a.ies");
+    fs::create_symlink(root() / "nowhere", root() / "working" / "b.ies");
+
+    EXPECT_EQ(find(L"a.ies"), std::nullopt);
+    EXPECT_EQ(ed::findSupportName(session_, L"a.ies"), root() / "working" / "a.ies");
+    EXPECT_EQ(ed::findSupportName(session_, L"b.ies"), std::nullopt);
+}
+
+TEST_F(FindFile, ANameThatNothingCanHaveIsNotFoundEither) {
+    EXPECT_EQ(ed::findSupportName(session_, L""), std::nullopt);
+    EXPECT_EQ(ed::findSupportName(session_, ZrString(100000, L'a')), std::nullopt);
+}
+
+TEST_F(FindFile, AKeptAbsolutePathStandsForItselfWhileSomethingIsThere) {
+    const fs::path kept = make("first/a.ies");
+    const fs::path byName = make("working/a.ies");
+
+    EXPECT_EQ(ed::findKeptFile(session_, textOf(kept)), kept);
+    fs::remove(kept);
+    EXPECT_EQ(ed::findKeptFile(session_, textOf(kept)), byName);
+    fs::create_directories(kept);
+    EXPECT_EQ(ed::findKeptFile(session_, textOf(kept)), kept) << "reading it tells what is wrong";
+}
+
+TEST_F(FindFile, AKeptRelativePathIsLookedForAsAWholeFirst) {
+    saveDrawing();
+    const fs::path byName = make("drawing/a.ies");
+    const fs::path whole = make("share/webs/lamps/a.ies");
+
+    EXPECT_EQ(ed::findKeptFile(session_, L"lamps/a.ies"), whole);
+    fs::remove(whole);
+    EXPECT_EQ(ed::findKeptFile(session_, L"lamps/a.ies"), byName);
+    fs::remove(byName);
+    EXPECT_EQ(ed::findKeptFile(session_, L"lamps/a.ies"), std::nullopt);
+}
+
+TEST_F(FindFile, AKeptRelativePathStartsAtTheDrawingBeforeTheWorkingFolder) {
+    saveDrawing();
+    const fs::path atDrawing = make("drawing/lamps/a.ies");
+    const fs::path atWork = make("working/lamps/a.ies");
+
+    EXPECT_EQ(ed::findKeptFile(session_, L"lamps/a.ies"), atDrawing);
+    fs::remove(atDrawing);
+    EXPECT_EQ(ed::findKeptFile(session_, L"lamps/a.ies"), atWork);
+}
+
+TEST_F(FindFile, AKeptPathWithBackslashesIsLookedForByItsLastName) {
+    const fs::path file = make("working/a.ies");
+
+    EXPECT_EQ(ed::findKeptFile(session_, L"C:\\lamps\\a.ies"), file);
+    EXPECT_EQ(ed::findKeptFile(session_, L"lamps\\a.ies"), file);
+    EXPECT_EQ(ed::findKeptFile(session_, L"lamps/old\\a.ies"), file);
+    EXPECT_EQ(ed::findKeptFile(session_, L"C:\\lamps\\"), std::nullopt);
+}
+
+TEST_F(FindFile, AKeptNameOfAFolderOnlyIsAnsweredSoThatReadingItTellsWhatIsWrong) {
+    fs::create_directories(root() / "working" / "a.ies");
+
+    EXPECT_EQ(ed::findKeptFile(session_, L"a.ies"), root() / "working" / "a.ies");
+    EXPECT_EQ(ed::findKeptFile(session_, L"/none/a.ies"), std::nullopt);
+    EXPECT_EQ(ed::findKeptFile(session_, L""), std::nullopt);
+}
+
 TEST_F(FindFile, TheInterfaceAnswersTheFullPath) {
     const fs::path file = make("working/a.ies");
     ZrString found;
