@@ -4,10 +4,9 @@
 #include "host/commands/ask_file.h"
 #include "host/commands/commands.h"
 #include "host/commands/web_listing.h"
+#include "host/ed/support_files.h"
 #include "host/session.h"
 #include "host/sys/path_text.h"
-#include "host/sys/utf8.h"
-#include "sdk/ed/find_file.h"
 
 namespace quor::commands {
 
@@ -19,16 +18,16 @@ int iesInfo(Session& session) {
     const std::optional<ZrString> name = askFile(session, texts::kAskWebPath, chooser);
     if (!name)
         return RTCAN;
-    ZrString found;
-    if (zredFindFile(textOf(pathFromText(*name)).c_str(), found) != RTNORM)
+    const auto found = ed::findSupportName(session, textOf(pathFromText(*name)));
+    if (!found)
         return failWith(texts::kNoSuchWeb, *name);
-    const auto file = ies::loadWeb(toUtf8(found));
+    const ies::LoadedWeb file = ies::loadWeb(*found);
     if (!file.ok()) {
-        printText(L"\n" + ies::describe(file.error(), found) + L"\n");
+        printText(L"\n" + ies::describe(file.error(), textOf(*found)) + L"\n");
         return RTERROR;
     }
     Listing listing;
-    listing.heading(found);
+    listing.heading(textOf(*found));
     listWebFile(**file, listing);
     printText(listing.text());
     return RTNORM;

@@ -1,20 +1,67 @@
 #include "host/commands/web_listing.h"
 
-#include "host/sys/utf8.h"
+#include "host/ed/support_files.h"
+#include "host/ies/opening.h"
+#include "host/session.h"
+#include "host/sys/path_text.h"
+#include "host/sys/text_width.h"
 #include "host/texts/ies_info.h"
 #include "host/texts/list.h"
 #include "sdk/db/light.h"
-#include "sdk/ed/find_file.h"
 
 #include <algorithm>
 #include <cmath>
+#include <string>
+
+#include <fmt/format.h>
 
 namespace quor::commands {
 
 namespace {
 
-// To a tenth: what a web tells is no more exact.
-ZrString fluxText(double lumen) { return numberText(std::round(lumen * 10) / 10) + L" lm"; }
+// What a web shines is not known more exactly; what its file says is shown as it stands there.
+constexpr int kDigitsOfLight = 5;
+constexpr int kDigitsOfSizes = 8;
+
+// In columns, so that a damaged label does not fill the screen.
+constexpr std::size_t kMostOfName = 24;
+constexpr std::size_t kMostOfText = 200;
+
+// So many significant digits, and the whole part in full: "0.00001", "12.724", "123457".
+ZrString plainNumber(double value, int digits) {
+    constexpr double kLeast = 1e-9;
+    constexpr double kMost = 1e15;
+    const double size = std::abs(value);
+    if (size == 0)
+        return L"0";
+    std::string text;
+    if (size >= kLeast && size < kMost) {
+        const int places = std::max(0, digits - 1 - static_cast<int>(std::floor(std::log10(size))));
+        text = fmt::format("{:.{}f}", value, places);
+        if (text.find('.') != std::string::npos)
+            text.erase(text.find_last_not_of('0') + 1);
+        if (text.back() == '.')
+            text.pop_back();
+    } else {
+        text = fmt::format("{:.{}g}", value, digits);
+    }
+    return {text.begin(), text.end()};
+}
+
+ZrString lightText(double value) { return plainNumber(value, kDigitsOfLight); }
+ZrString sizeText(double value) { return plainNumber(value, kDigitsOfSizes); }
+
+// In one line of at most so many columns, and of as many characters, some of which have no width.
+ZrString cut(const ZrString& text, std::size_t most) {
+    ZrString line = text.substr(0, most + 1);
+    std::replace(line.begin(), line.end(), L'\n', L' ');
+    line = visibleText(line);
+    std::size_t length = 0;
+    std::size_t columns = 0;
+    while (length < line.size() && length < most && columns < most)
+        columns += static_cast<std::size_t>(columnsOf(line[length++]));
+    return length == line.size() ? line : line.substr(0, length) + L"…";
+}
 
 ZrString editionText(ies::Edition edition) { return L"LM-63-" + std::to_wstring(static_cast<int>(edition)); }
 
@@ -28,12 +75,14 @@ ZrString tiltText(const std::optional<ies::Tilt>& tilt) {
 
 ZrString lampsText(const ies::PhotometricWeb& web) {
     if (web.lumensPerLamp < 0)
-        return fill(texts::kWebLampsAbsolute, numberText(web.lamps));
-    return fill(texts::kWebLampsRelative, numberText(web.lamps), numberText(web.lumensPerLamp));
+        return fill(texts::kWebLampsAbsolute, sizeText(web.lamps));
+    return fill(texts::kWebLampsRelative, sizeText(web.lamps), sizeText(web.lumensPerLamp));
 }
 
-ZrString anglesText(const std::vector<double>& angles) {
-    return fill(texts::kWebAngleRange, numberText(angles.front()), numberText(angles.back()), angles.size());
+ZrString anglesText(const std::vector<double>& angles, const Text& one, const Text& many) {
+    if (angles.size() == 1)
+        return fill(one, sizeText(angles.front()));
+    return fill(many, sizeText(angles.front()), sizeText(angles.back()), angles.size());
 }
 
 ZrString symmetryText(ies::Symmetry symmetry) {
@@ -41,48 +90,65 @@ ZrString symmetryText(ies::Symmetry symmetry) {
 }
 
 ZrString openingText(const ies::PhotometricWeb& web) {
-    return fill(texts::kWebOpeningSizes, numberText(web.width), numberText(web.length), numberText(web.height),
-                web.inFeet ? L"ft" : L"m");
+    const ies::Opening opening = ies::openingOf(web);
+    const Text& words = texts::kWebOpenings[static_cast<std::size_t>(opening.shape)];
+    const auto size = [&](std::size_t i) { return i < opening.sizes.size() ? sizeText(opening.sizes[i]) : ZrString(); };
+    const ZrString text = fill(words, size(0), size(1), size(2));
+    return opening.sizes.empty() ? text : text + (web.inFeet ? L" ft" : L" m");
 }
 
 void listKeyword(const ies::Keyword& keyword, Listing& listing) {
     if (keyword.text.empty())
         return;
-    ZrString text = keyword.text;
-    std::replace(text.begin(), text.end(), L'\n', L' ');
-    listing.row(keyword.name.empty() ? ZrString(texts::kWebText.get()) : fill(texts::kWebKeyword, keyword.name), text);
+    const ZrString name = keyword.name.empty() ? ZrString(texts::kWebText.get())
+                                               : fill(texts::kWebKeyword, cut(keyword.name, kMostOfName));
+    listing.row(name, cut(keyword.text, kMostOfText));
 }
 
-ZrString warningText(const ies::Warning& warning) {
-    return fill(texts::kWebWarnings[static_cast<std::size_t>(warning.kind)], warning.line);
+void listWarnings(const ies::PhotometricWeb& web, Listing& listing) {
+    for (const ies::Warning& warning : web.warnings)
+        listing.row(texts::kWebNotice,
+                    fill(texts::kWebWarnings[static_cast<std::size_t>(warning.kind)], warning.line, warning.number));
 }
 
 ZrString rotationText(const ZrDbLight& light) {
     ZrGeVector3d rotation;
     light.webRotation(rotation);
-    return L"X=" + numberText(rotation.x) + L"  Y=" + numberText(rotation.y) + L"  Z=" + numberText(rotation.z);
+    return fill(texts::kLightWebRotationAsGiven, sizeText(rotation.x), sizeText(rotation.y), sizeText(rotation.z));
 }
 
-// The web of a light. A drawing that came from somewhere else names a folder that is not here: then the file is looked
-// for by its name alone.
-Result<std::shared_ptr<const ies::WebFile>, ies::Error> webOf(const ZrDbLight& light) {
-    auto web = ies::loadWeb(toUtf8(light.webFile()));
-    const ZrString name = light.webFile().substr(light.webFile().find_last_of(L"/\\") + 1);
-    ZrString found;
-    if (web.ok() || web.error().kind != ies::Error::Kind::NotFound || zredFindFile(name.c_str(), found) != RTNORM)
-        return web;
-    return ies::loadWeb(toUtf8(found));
+ZrString rangeText(const std::vector<double>& angles) {
+    return anglesText(angles, texts::kLightWebOneAngle, texts::kLightWebRange);
 }
 
-void listFacts(const ZrDbLight& light, Listing& listing) {
-    const auto file = webOf(light);
-    if (!file.ok())
-        return listing.row(texts::kLightWebUnread, ies::describe(file.error(), light.webFile()));
-    const ies::PhotometricWeb& web = (*file)->web;
+// The flux of the file, and that of the day when the light got its web where it was another one.
+ZrString fluxText(double now, double kept) {
+    constexpr double kSame = 0.001;
+    if (std::abs(now - kept) <= kSame * std::max(now, std::abs(kept)))
+        return lightText(now) + L" lm";
+    return fill(texts::kLightWebFluxes, lightText(now), lightText(kept));
+}
+
+void listFacts(const ies::WebFile& file, const ZrDbLight& light, Listing& listing) {
+    const ies::PhotometricWeb& web = file.web;
+    listing.row(texts::kLightWebFlux, fluxText(file.flux, light.webFlux()));
     listing.row(texts::kLightWebSymmetry, symmetryText(web.symmetry));
     listing.row(texts::kLightWebAngles,
-                fill(texts::kLightWebAngleRanges, numberText(web.vertical.front()), numberText(web.vertical.back()),
-                     numberText(web.horizontal.front()), numberText(web.horizontal.back())));
+                fill(texts::kLightWebAngleRanges, rangeText(web.vertical), rangeText(web.horizontal)));
+    listWarnings(web, listing);
+}
+
+void listFile(const ZrDbLight& light, Listing& listing) {
+    const ZrString& kept = light.webFile();
+    const auto found = ed::findKeptFile(Session::current(), kept);
+    const ZrString used = found ? textOf(*found) : kept;
+    if (used != kept)
+        listing.row(texts::kLightWebUsed, used);
+    const ies::LoadedWeb file = ies::loadWeb(found.value_or(std::filesystem::path()));
+    if (file.ok())
+        return listFacts(**file, light, listing);
+    listing.row(texts::kLightWebFlux, fill(texts::kLightWebFluxKept, lightText(light.webFlux())));
+    listing.row(texts::kLightWebUnread, ies::describe(file.error(), used));
 }
 
 } // namespace
@@ -95,24 +161,21 @@ void listWebFile(const ies::WebFile& file, Listing& listing) {
     listing.row(texts::kWebPhotometry, photometryText(web.photometry));
     listing.row(texts::kWebTilt, tiltText(web.tilt));
     listing.row(texts::kWebLamps, lampsText(web));
-    listing.row(texts::kWebFlux, fluxText(file.flux));
-    listing.row(texts::kWebLargest, numberText(ies::maxIntensity(web)) + L" cd");
-    listing.row(texts::kWebVertical, anglesText(web.vertical));
-    listing.row(texts::kWebHorizontal, anglesText(web.horizontal));
+    listing.row(texts::kWebFlux, lightText(file.flux) + L" lm");
+    listing.row(texts::kWebLargest, lightText(ies::maxIntensity(web)) + L" cd");
+    listing.row(texts::kWebVertical, anglesText(web.vertical, texts::kWebOneAngle, texts::kWebAngles));
+    listing.row(texts::kWebHorizontal, anglesText(web.horizontal, texts::kWebOnePlane, texts::kWebPlanes));
     listing.row(texts::kWebSymmetry, symmetryText(web.symmetry));
     listing.row(texts::kWebOpening, openingText(web));
-    listing.row(texts::kWebWatts, numberText(web.watts) + L" W");
-    for (const ies::Warning& warning : web.warnings)
-        listing.row(texts::kWebNotice, warningText(warning));
+    listing.row(texts::kWebWatts, sizeText(web.watts) + L" W");
+    listWarnings(web, listing);
 }
 
 void listLightWeb(const ZrDbLight& light, Listing& listing) {
     const bool hasFile = !light.webFile().empty();
     listing.row(texts::kLightWebFile, hasFile ? light.webFile() : ZrString(texts::kNone.get()));
-    if (hasFile) {
-        listing.row(texts::kLightWebFlux, fluxText(light.webFlux()));
-        listFacts(light, listing);
-    }
+    if (hasFile)
+        listFile(light, listing);
     listing.row(texts::kLightWebRotation, rotationText(light));
 }
 

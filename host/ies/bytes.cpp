@@ -1,9 +1,12 @@
 #include "host/ies/bytes.h"
 
+#include "host/sys/code_page.h"
 #include "host/sys/utf8.h"
 #include "host/sys/visible_text.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace quor::ies {
 
@@ -15,6 +18,31 @@ bool isBlank(char c) {
 }
 
 char capital(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+bool isAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
+
+std::wstring fromLatin1(std::string_view bytes) {
+    std::wstring text(bytes.size(), L' ');
+    std::transform(bytes.begin(), bytes.end(), text.begin(),
+                   [](char c) { return static_cast<wchar_t>(static_cast<unsigned char>(c)); });
+    return text;
+}
+
+std::optional<std::wstring> fromGbk(std::string_view bytes) {
+    static const CodePage page(*findCodePage("ANSI_936"));
+    std::wstring text;
+    std::size_t common = 0;
+    std::size_t rare = 0;
+    for (std::size_t at = 0; at < bytes.size();) {
+        const bool isPair = !isAscii(bytes[at]);
+        text += page.next(bytes, at);
+        if (isEscapedByte(text.back()))
+            return std::nullopt;
+        if (isPair)
+            ++(isAscii(bytes[at - 1]) ? rare : common);
+    }
+    return common > rare ? std::optional(std::move(text)) : std::nullopt;
+}
 
 } // namespace
 
@@ -50,20 +78,22 @@ bool startsWithWord(std::string_view text, std::string_view capitals) {
 std::wstring decoded(std::string_view bytes) {
     if (isValidUtf8(bytes))
         return fromUtf8(bytes);
-    std::wstring text(bytes.size(), L' ');
-    std::transform(bytes.begin(), bytes.end(), text.begin(),
-                   [](char c) { return static_cast<wchar_t>(static_cast<unsigned char>(c)); });
-    return text;
+    if (auto text = fromGbk(bytes))
+        return std::move(*text);
+    return fromLatin1(bytes);
 }
 
 std::wstring excerptOf(std::string_view bytes) {
     constexpr std::size_t kLength = 40;
     constexpr std::size_t kMostBytes = 4; // of one character
-    // A character cut in two at the end must not make the rest look like Latin-1.
     std::string_view front = bytes.substr(0, kLength * kMostBytes);
-    if (const std::size_t valid = validUtf8Prefix(front);
-        front.size() < bytes.size() && valid + kMostBytes > front.size())
-        front = front.substr(0, valid);
+    // A character cut in two at the end must not make the rest look like Latin-1.
+    if (const std::size_t valid = validUtf8Prefix(front); front.size() < bytes.size()) {
+        if (valid + kMostBytes > front.size())
+            front = front.substr(0, valid);
+        else if (!fromGbk(front))
+            front.remove_suffix(1);
+    }
     std::wstring text = decoded(front).substr(0, kLength);
     std::replace_if(text.begin(), text.end(), isControl, L'?');
     return text;

@@ -31,7 +31,9 @@ private:
 [[nodiscard]] bool isWord(std::string_view text, std::string_view capitals);
 [[nodiscard]] bool startsWithWord(std::string_view text, std::string_view capitals);
 
-// UTF-8, or Latin-1 where the bytes are none: makers write in either.
+// UTF-8, else the code page of China (GBK), else Latin-1: makers write in any of them. Two neighbouring bytes of a text
+// in Latin-1 may look like a character of GBK, so that most of its characters have to be of the common kind whose bytes
+// are both beyond ASCII.
 [[nodiscard]] std::wstring decoded(std::string_view bytes);
 
 // The first 40 characters, those that command a terminal shown as '?'.

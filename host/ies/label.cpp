@@ -54,19 +54,27 @@ public:
             if (line.empty())
                 continue;
             if (const auto tilt = tiltOf(line)) {
-                settleEdition();
-                return finish(*tilt);
+                if (takeTilt(*tilt))
+                    return std::move(label_);
+                refuse(*tilt);
             }
             if (firstLine_ != 0 || !takeVersionLine(line))
                 takeLine(line);
             firstLine_ = firstLine_ == 0 ? lines_.number() : firstLine_;
         }
-        Error error;
-        error.kind = firstLine_ == 0 ? Error::Kind::Empty : Error::Kind::NoTilt;
-        return fail(std::move(error));
+        error_.kind = firstLine_ == 0 ? Error::Kind::Empty : error_.kind;
+        return fail(std::move(error_));
     }
 
 private:
+    // A label may tell of a tilt, too ("Tilt=15 degrees"), so that what names no factors is free text as long as the
+    // line that the format wants comes later.
+    void refuse(std::string_view tilt) {
+        error_.kind = tilt.empty() ? Error::Kind::NoTilt : Error::Kind::TiltFile;
+        error_.line = lines_.number();
+        error_.excerpt = excerptOf(tilt);
+    }
+
     // A line that looks like a version line without being one that is known is taken as one, too.
     bool takeVersionLine(std::string_view line) {
         edition_ = editionOf(line);
@@ -96,29 +104,27 @@ private:
     void settleEdition() {
         label_.edition = edition_.value_or(hasKeywords_ ? Edition::Lm1995 : Edition::Lm1986);
         if (!edition_ && (hasUnknownTag_ || hasKeywords_))
-            label_.warnings.push_back({Warning::Kind::UnknownVersionLine, firstLine_});
+            label_.warnings.push_back(
+                {Warning::Kind::UnknownVersionLine, firstLine_, static_cast<std::size_t>(label_.edition)});
     }
 
     // Numbers may stand in the line of TILT= already.
-    Result<Label, Error> finish(std::string_view tilt) {
+    bool takeTilt(std::string_view tilt) {
         const std::string_view word = tilt.substr(0, tilt.find_first_of(" \t,"));
         label_.includesTilt = isWord(word, "INCLUDE");
-        if (!label_.includesTilt && !isWord(word, "NONE")) {
-            Error error;
-            error.kind = tilt.empty() ? Error::Kind::NoTilt : Error::Kind::TiltFile;
-            error.line = lines_.number();
-            error.excerpt = excerptOf(tilt);
-            return fail(std::move(error));
-        }
+        if (!label_.includesTilt && !isWord(word, "NONE"))
+            return false;
+        settleEdition();
         const char* const begin = word.data() + word.size();
         const char* const end = lines_.rest().data() + lines_.rest().size();
         label_.numbers = {begin, static_cast<std::size_t>(end - begin)};
         label_.line = lines_.number();
-        return std::move(label_);
+        return true;
     }
 
     Lines lines_;
     Label label_;
+    Error error_{Error::Kind::NoTilt, 0, 0, {}}; // of the last line TILT= that was passed over
     std::optional<Edition> edition_;
     std::size_t firstLine_ = 0; // that is not blank
     bool hasUnknownTag_ = false;

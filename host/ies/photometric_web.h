@@ -42,13 +42,17 @@ struct Keyword {
 // Something that is not as the format wants it but does not stand in the way of reading.
 struct Warning {
     enum class Kind : std::uint8_t {
-        UnknownVersionLine, // read by the rules of 1986 or 1995
-        Missing360,         // the plane at 360 degrees was missing and is that at 0
-        TrailingText,       // something stands behind the last number
+        UnknownVersionLine, // `number` is the edition by whose rules the file was read
+        Missing360,         // the plane that closes the circle was missing; it is the first one again
+        TrailingText,       // something that is no number stands behind the last number
+        SurplusNumbers,     // so many numbers are left over behind the last one: the counts may be too small
         MissingPlanes,      // the planes leave out a part of the directions and no symmetry fills it; it is dark
+        OnePlaneNotAtZero,  // the only plane of a type C web, which stands for all directions, is not the one at 0
+        MissingRows,        // the vertical angles leave out a part of the directions; it is dark
     };
     Kind kind;
-    std::size_t line; // from 1
+    std::size_t line = 0; // from 1
+    std::size_t number = 0;
 };
 
 // Angles are in degrees and strictly increasing. `candela` holds a row of vertical.size() values per horizontal angle,

@@ -30,9 +30,9 @@ public:
     Result<PhotometricWeb, Error> read() {
         if (!(readTilt() && readHeader() && readAngles() && readCandela()))
             return fail(std::move(error_));
-        finishPlanes();
+        finishAngles();
         if (tokens_.next(token_))
-            warn(Warning::Kind::TrailingText);
+            warnOfRest();
         return std::move(web_);
     }
 
@@ -68,8 +68,10 @@ private:
     }
 
     bool readAngles() {
-        if (!angles(rows_, verticalRange(web_.photometry), web_.vertical) ||
-            !angles(planes_, horizontalRange(web_.photometry), web_.horizontal))
+        if (!angles(rows_, verticalRange(web_.photometry), web_.vertical))
+            return false;
+        lineOfRows_ = token_.line;
+        if (!angles(planes_, horizontalRange(web_.photometry), web_.horizontal))
             return false;
         web_.symmetry = symmetryOf(web_);
         lineOfPlanes_ = token_.line;
@@ -93,15 +95,31 @@ private:
         return true;
     }
 
-    void finishPlanes() {
-        if (lacks360(web_)) {
-            web_.horizontal.push_back(360);
+    void finishAngles() {
+        if (lacksRows(web_))
+            web_.warnings.push_back({Warning::Kind::MissingRows, lineOfRows_});
+        if (lacksLastPlane(web_)) {
+            web_.horizontal.push_back(web_.horizontal.front() + 360);
             for (std::size_t row = 0; row < rows_; ++row)
                 web_.candela.push_back(web_.at(0, row));
             web_.warnings.push_back({Warning::Kind::Missing360, lineOfPlanes_});
         }
         if (lacksPlanes(web_))
             web_.warnings.push_back({Warning::Kind::MissingPlanes, lineOfPlanes_});
+        if (web_.symmetry == Symmetry::Axial && web_.horizontal.front() != 0)
+            web_.warnings.push_back({Warning::Kind::OnePlaneNotAtZero, lineOfPlanes_});
+    }
+
+    // Numbers that are left over are the end of the data rather than a remark. `token_` is the first one of them.
+    void warnOfRest() {
+        Warning warning{Warning::Kind::TrailingText, token_.line};
+        bool more = true;
+        while (more && numberOf(token_.text)) {
+            warning.kind = Warning::Kind::SurplusNumbers;
+            ++warning.number;
+            more = tokens_.next(token_);
+        }
+        web_.warnings.push_back(warning);
     }
 
     bool number(double& value) {
@@ -169,8 +187,6 @@ private:
         return false;
     }
 
-    void warn(Warning::Kind kind) { web_.warnings.push_back({kind, token_.line}); }
-
     Tokens tokens_;
     Token token_;
     PhotometricWeb web_;
@@ -179,6 +195,7 @@ private:
     double multiplier_ = 1;
     std::size_t rows_ = 0;
     std::size_t planes_ = 0;
+    std::size_t lineOfRows_ = 0;
     std::size_t lineOfPlanes_ = 0;
 };
 

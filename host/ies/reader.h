@@ -23,7 +23,7 @@ struct Error {
         TooLarge,            // more than kMostBytes
         Empty,               // nothing but blanks
         NoTilt,              // the line TILT= is missing, or nothing stands behind the "="
-        TiltFile,            // TILT names another file; excerpt is the name
+        TiltFile,            // TILT names another file and no line TILT= is there for this one; excerpt is the name
         MissingNumber,       // the text ends where another number is needed
         BadNumber,           // excerpt is no decimal number, or an intensity beyond kMostCandela
         BadCount,            // a count of angles that is not whole or not from 1 to kMostAngles; excerpt is the number
@@ -50,9 +50,11 @@ struct WebFile {
     double flux = 0; // lumen
 };
 
-// The web of a file. What was read lately is kept and used again as long as the file stays the same (size and time of
-// change), so that a thousand lights with one web cost one reading.
-[[nodiscard]] Result<std::shared_ptr<const WebFile>, Error> loadWeb(const std::filesystem::path& file);
+using LoadedWeb = Result<std::shared_ptr<const WebFile>, Error>;
+
+// The web of a file. What was read lately, or found wrong, is kept and used again as long as the file stays the same
+// (size and time of change), so that a thousand lights with one web cost one reading.
+[[nodiscard]] LoadedWeb loadWeb(const std::filesystem::path& file);
 
 // What is wrong, for people, in the language of the host: file, line, reason, what to do.
 [[nodiscard]] std::wstring describe(const Error& error, const std::wstring& file);

@@ -43,29 +43,42 @@ Symmetry symmetryOf(const PhotometricWeb& web) {
     return Symmetry::None;
 }
 
-bool lacks360(const PhotometricWeb& web) {
+bool lacksLastPlane(const PhotometricWeb& web) {
     const std::vector<double>& planes = web.horizontal;
-    if (web.photometry != Photometry::C || planes.front() != 0 || symmetryOf(web) != Symmetry::None)
+    if (web.photometry != Photometry::C || symmetryOf(web) != Symmetry::None)
         return false;
     double widest = 0;
-    for (std::size_t i = 1; i < planes.size(); ++i)
+    double narrowest = kCircle;
+    for (std::size_t i = 1; i < planes.size(); ++i) {
         widest = std::max(widest, planes[i] - planes[i - 1]);
+        narrowest = std::min(narrowest, planes[i] - planes[i - 1]);
+    }
     constexpr double kRounding = 1e-3; // of angles written with few digits
-    return planes.back() < kCircle && kCircle - planes.back() <= widest + kRounding;
+    const double missing = planes.front() + kCircle - planes.back();
+    if (planes.front() != 0 && std::max(widest, missing) - std::min(narrowest, missing) > 2 * kRounding)
+        return false;
+    return missing > 0 && missing <= widest + kRounding;
 }
 
 bool lacksPlanes(const PhotometricWeb& web) {
     const AngleRange all = horizontalRange(web.photometry);
-    const bool startsLate = web.horizontal.front() > all.first;
     const bool endsEarly = web.horizontal.back() < all.last;
     switch (web.symmetry) {
     case Symmetry::None:
-        return startsLate || endsEarly;
+        return web.horizontal.back() < web.horizontal.front() + (all.last - all.first);
     case Symmetry::MirrorAtZero:
         return endsEarly;
     default:
         return false;
     }
+}
+
+bool lacksRows(const PhotometricWeb& web) {
+    const AngleRange all = verticalRange(web.photometry);
+    const double middle = (all.first + all.last) / 2;
+    const double first = web.vertical.front();
+    const double last = web.vertical.back();
+    return !((first == all.first || first == middle) && (last == middle || last == all.last) && first < last);
 }
 
 double foldedHorizontal(const PhotometricWeb& web, double horizontal) {
@@ -87,7 +100,9 @@ double foldedHorizontal(const PhotometricWeb& web, double horizontal) {
         break;
     }
     // The same direction by the name that the planes use for it.
-    return around > web.horizontal.back() ? around - kCircle : around;
+    if (around > web.horizontal.back())
+        return around - kCircle;
+    return around < web.horizontal.front() ? around + kCircle : around;
 }
 
 } // namespace quor::ies

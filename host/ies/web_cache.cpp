@@ -32,15 +32,23 @@ FileIdentity identityOf(const struct stat& status) {
     return {status.st_dev, status.st_ino, status.st_size, status.st_mtim};
 }
 
-Result<PhotometricWeb, Error> readFile(const std::string& path, FileIdentity& identity) {
+Result<std::string, Error> readFile(const std::string& path, FileIdentity& identity) {
     const Result<OpenFile, int> file = openFile(path);
     if (!file.ok())
         return cannotRead(file.error());
     identity = identityOf(file->status);
-    const Result<std::string, int> bytes = readToEnd(*file, kMostBytes);
+    Result<std::string, int> bytes = readToEnd(*file, kMostBytes);
     if (!bytes.ok())
         return cannotRead(bytes.error());
-    return readWeb(bytes.value());
+    return std::move(bytes).value();
+}
+
+LoadedWeb webIn(const std::string& bytes) {
+    Result<PhotometricWeb, Error> web = readWeb(bytes);
+    if (!web.ok())
+        return fail(std::move(web).error());
+    const double flux = luminousFlux(web.value());
+    return std::make_shared<const WebFile>(WebFile{std::move(web).value(), flux});
 }
 
 } // namespace
@@ -50,8 +58,11 @@ bool FileIdentity::operator==(const FileIdentity& other) const {
            changed.tv_sec == other.changed.tv_sec && changed.tv_nsec == other.changed.tv_nsec;
 }
 
+// An error takes next to no memory.
+std::size_t WebCache::Entry::bytes() const { return loaded.ok() ? static_cast<std::size_t>(identity.size) : 0; }
+
 // Forgets what it has of a file that is no longer the one that was read.
-std::shared_ptr<const WebFile> WebCache::find(const std::string& path) {
+const LoadedWeb* WebCache::find(const std::string& path) {
     const auto known =
         std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) { return entry.path == path; });
     if (known == entries_.end())
@@ -59,36 +70,35 @@ std::shared_ptr<const WebFile> WebCache::find(const std::string& path) {
     struct stat status {};
     if (::stat(path.c_str(), &status) == 0 && identityOf(status) == known->identity) {
         entries_.splice(entries_.begin(), entries_, known);
-        return known->web;
+        return &known->loaded;
     }
-    bytes_ -= static_cast<std::size_t>(known->identity.size);
+    bytes_ -= known->bytes();
     entries_.erase(known);
     return nullptr;
 }
 
-Result<std::shared_ptr<const WebFile>, Error> WebCache::load(const std::filesystem::path& file) {
-    if (auto known = find(file.native()))
-        return known;
+LoadedWeb WebCache::load(const std::filesystem::path& file) {
+    if (const LoadedWeb* known = find(file.native()))
+        return *known;
     FileIdentity identity;
-    Result<PhotometricWeb, Error> web = readFile(file.native(), identity);
-    if (!web.ok())
-        return fail(std::move(web).error());
-    const double flux = luminousFlux(web.value());
-    auto loaded = std::make_shared<const WebFile>(WebFile{std::move(web).value(), flux});
+    Result<std::string, Error> bytes = readFile(file.native(), identity);
+    if (!bytes.ok())
+        return fail(std::move(bytes).error());
+    LoadedWeb loaded = webIn(bytes.value());
     keep({file.native(), identity, loaded});
     return loaded;
 }
 
 void WebCache::keep(Entry&& entry) {
-    bytes_ += static_cast<std::size_t>(entry.identity.size);
+    bytes_ += entry.bytes();
     entries_.push_front(std::move(entry));
     while (entries_.size() > capacity_ || bytes_ > kMostBytesKept) {
-        bytes_ -= static_cast<std::size_t>(entries_.back().identity.size);
+        bytes_ -= entries_.back().bytes();
         entries_.pop_back();
     }
 }
 
-Result<std::shared_ptr<const WebFile>, Error> loadWeb(const std::filesystem::path& file) {
+LoadedWeb loadWeb(const std::filesystem::path& file) {
     static WebCache cache;
     return cache.load(file);
 }

@@ -24,28 +24,30 @@ struct FileIdentity {
 
 class WebCache {
 public:
-    // Keeps at most so many webs, and fewer when their files together are larger than kMostBytesKept.
+    // Keeps at most so many files, and fewer when their files together are larger than kMostBytesKept;
+    // broken ones do not count there.
     explicit WebCache(std::size_t capacity = 64) : capacity_(capacity) {}
 
     static constexpr std::size_t kMostBytesKept = 2 * kMostBytes;
 
-    // From memory when the file is still the one that was read, else from the file. What cannot be read is not
-    // remembered: a person may just be mending it.
-    [[nodiscard]] Result<std::shared_ptr<const WebFile>, Error> load(const std::filesystem::path& file);
+    // From memory when the file is still the one that was read, else from the file. What is wrong in a file is
+    // remembered, too; that a file could not be read is not.
+    [[nodiscard]] LoadedWeb load(const std::filesystem::path& file);
     [[nodiscard]] std::size_t size() const { return entries_.size(); }
 
 private:
     struct Entry {
         std::string path;
         FileIdentity identity;
-        std::shared_ptr<const WebFile> web;
+        LoadedWeb loaded;
+        [[nodiscard]] std::size_t bytes() const;
     };
 
-    [[nodiscard]] std::shared_ptr<const WebFile> find(const std::string& path);
+    [[nodiscard]] const LoadedWeb* find(const std::string& path);
     void keep(Entry&& entry);
 
     std::size_t capacity_;
-    std::size_t bytes_ = 0;    // of the files of all entries
+    std::size_t bytes_ = 0;    // of the webs of all entries, as files
     std::list<Entry> entries_; // what was used last is first
 };
 

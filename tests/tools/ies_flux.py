@@ -15,7 +15,7 @@ import math
 import re
 
 SEPARATORS = re.compile(r"[\s,]+")
-TILT = re.compile(r"^[ \t]*TILT[ \t]*=[ \t]*(\w+)", re.IGNORECASE | re.MULTILINE)
+TILT = re.compile(r"^[ \t]*TILT[ \t]*=[ \t]*(NONE|INCLUDE)\b", re.IGNORECASE | re.MULTILINE)
 OLD = ("IESNA91",)
 TAGS = ("IESNA:LM-63-1995", "IESNA:LM-63-2002", "IES:LM-63-2019")
 
@@ -69,8 +69,9 @@ class Web:
             self.mirror(90)
         if self.horizontal[0] == 90 or self.horizontal[-1] == 180:
             self.mirror(self.horizontal[-1])
-        if 180 < self.horizontal[-1] < 360 and self.horizontal[0] == 0:
-            self.horizontal.append(360.0)
+        first, last = self.horizontal[0], self.horizontal[-1]
+        if last - first > 180 and last < first + 360:
+            self.horizontal.append(first + 360)
             self.planes.append(self.planes[0])
 
     def mirror_back(self):

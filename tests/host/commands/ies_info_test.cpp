@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
+#include <sys/stat.h>
+
 namespace quor {
 namespace {
 
@@ -23,9 +27,10 @@ TEST_F(IesInfo, TellsWhatAFileHolds) {
     EXPECT_TRUE(host.front().shows(L"1 of 500 lm"));
     EXPECT_TRUE(host.front().shows(L"1359.9 lm"));
     EXPECT_TRUE(host.front().shows(L"3300 cd"));
-    EXPECT_TRUE(host.front().shows(L"0 to 90 degrees, 37 of them"));
+    EXPECT_TRUE(host.front().shows(L"0 to 90 degrees, 37 angles"));
     EXPECT_TRUE(host.front().shows(L"axial"));
-    EXPECT_TRUE(host.front().shows(L"width -0.12, length 0, height 0 m (negative: round)"));
+    EXPECT_TRUE(host.front().shows(L"one plane at 0 degrees"));
+    EXPECT_TRUE(host.front().shows(L"disc, diameter 0.12 m"));
 }
 
 TEST_F(IesInfo, TellsTheTiltAndTheNoticesOfTheReader) {
@@ -33,7 +38,7 @@ TEST_F(IesInfo, TellsTheTiltAndTheNoticesOfTheReader) {
               textOf(webs / "derived" / "m06_trailing_text.ies")});
 
     EXPECT_TRUE(host.front().shows(L"lamp position 2, 13 angles"));
-    EXPECT_TRUE(host.front().shows(L"what stands behind the data is ignored"));
+    EXPECT_TRUE(host.front().shows(L"the text after the data is ignored"));
 }
 
 TEST_F(IesInfo, JoinsTheLinesOfAKeyword) {
@@ -46,7 +51,7 @@ TEST_F(IesInfo, TellsTheLineAndTheReasonOfAFileThatCannotBeUsed) {
     const ed::Verdict verdict = host.run({L"IESINFO", textOf(webs / "derived" / "m02_truncated_candela.ies")});
 
     EXPECT_EQ(verdict.result, RTERROR);
-    EXPECT_TRUE(host.front().shows(L"breaks off behind line 20"));
+    EXPECT_TRUE(host.front().shows(L"ends after line 20"));
 }
 
 TEST_F(IesInfo, LooksForANameInTheSupportFolders) {
@@ -64,6 +69,151 @@ TEST_F(IesInfo, SaysWhereANameWasLookedFor) {
     EXPECT_EQ(verdict.result, RTERROR);
     EXPECT_TRUE(host.front().shows(L"no such lamp.ies was not found"));
     EXPECT_TRUE(host.front().shows(L"SUPPORTPATH"));
+}
+
+// What has the name and cannot be used is not "not found".
+TEST_F(IesInfo, SaysWhatIsWrongWithAFolderOfThatName) {
+    host.session().variables().set(L"SUPPORTPATH", textOf(host.folder()));
+    std::filesystem::create_directory(host.folder() / "folder.ies");
+
+    const ed::Verdict verdict = host.run({L"IESINFO", L"folder.ies"});
+
+    EXPECT_EQ(verdict.result, RTERROR);
+    EXPECT_TRUE(host.front().shows(L"folder.ies\": it is a folder"));
+}
+
+TEST_F(IesInfo, SaysWhatIsWrongWithALinkThatLeadsToItself) {
+    host.session().variables().set(L"SUPPORTPATH", textOf(host.folder()));
+    std::filesystem::create_symlink(host.folder() / "loop.ies", host.folder() / "loop.ies");
+
+    host.run({L"IESINFO", L"loop.ies"});
+
+    EXPECT_TRUE(host.front().shows(L"Cannot read the photometric web file"));
+}
+
+TEST_F(IesInfo, SaysThatAPipeIsNoFile) {
+    host.session().variables().set(L"SUPPORTPATH", textOf(host.folder()));
+    ASSERT_EQ(::mkfifo((host.folder() / "pipe.ies").c_str(), 0600), 0);
+
+    host.run({L"IESINFO", L"pipe.ies"});
+
+    EXPECT_TRUE(host.front().shows(L"pipe.ies\" is not a regular file"));
+}
+
+// A web of one intensity down to 90 degrees.
+std::string webOf(const std::string& label, const std::string& candela, const std::string& sizes = "0 0 0") {
+    return label + "TILT=NONE\n1 -1 1 2 1 1 2 " + sizes + " 1 1 10\n0 90\n0\n" + candela + "\n";
+}
+
+TEST_F(IesInfo, ShowsASmallFluxWithItsDigits) {
+    std::ofstream(host.folder() / "a.ies") << webOf("IESNA:LM-63-2002\n", "0.00001 0.00001");
+
+    host.run({L"IESINFO", textOf(host.folder() / "a.ies")});
+
+    EXPECT_TRUE(host.front().shows(L"0.000062832 lm\n"));
+    EXPECT_TRUE(host.front().shows(L"0.00001 cd\n"));
+}
+
+TEST_F(IesInfo, ShowsAFluxToFiveDigits) {
+    host.run({L"IESINFO", textOf(webs / "gc_nukit_torch.ies")});
+
+    EXPECT_TRUE(host.front().shows(L"12.724 lm\n"));
+}
+
+TEST_F(IesInfo, ShowsALargeFluxInFull) {
+    std::ofstream(host.folder() / "a.ies") << webOf("IESNA:LM-63-2002\n", "1234567.8 1234567.8");
+
+    host.run({L"IESINFO", textOf(host.folder() / "a.ies")});
+
+    EXPECT_TRUE(host.front().shows(L"7757018 lm\n"));
+    EXPECT_TRUE(host.front().shows(L"1234568 cd\n"));
+}
+
+TEST_F(IesInfo, TellsThatTheCountsMayBeTooSmall) {
+    std::ofstream(host.folder() / "a.ies") << webOf("IESNA:LM-63-2002\n", "3 2 1 0");
+
+    host.run({L"IESINFO", textOf(host.folder() / "a.ies")});
+
+    EXPECT_TRUE(host.front().shows(L"line 6: numbers too many: 2; the counts of angles may be wrong"));
+}
+
+TEST_F(IesInfo, TellsByWhichRulesAFileOfAnUnknownEditionWasRead) {
+    std::ofstream(host.folder() / "a.ies") << webOf("IES:LM-63-2020\n[TEST] 1\n", "1 1");
+
+    host.run({L"IESINFO", textOf(host.folder() / "a.ies")});
+
+    EXPECT_TRUE(host.front().shows(L"line 1: no known version line; read by the rules of LM-63-1995"));
+}
+
+TEST_F(IesInfo, CutsLongKeywords) {
+    const std::string label = "IESNA91\n[" + std::string(5000, 'K') + "] a\n[TEST] " + std::string(3000, 't') + "\n" +
+                              std::string(201, 'f') + "\n[A] " + std::string(200, 'u') + "\n";
+    std::ofstream(host.folder() / "a.ies") << webOf(label, "1 1");
+
+    host.run({L"IESINFO", textOf(host.folder() / "a.ies")});
+
+    EXPECT_TRUE(host.front().shows(L"\n  [" + ZrString(24, L'K') + L"…]  a\n"));
+    EXPECT_TRUE(host.front().shows(L"  " + ZrString(200, L't') + L"…\n"));
+    EXPECT_TRUE(host.front().shows(L"  " + ZrString(200, L'f') + L"…\n"));
+    EXPECT_TRUE(host.front().shows(L"  " + ZrString(200, L'u') + L"\n"));
+}
+
+TEST_F(IesInfo, CutsWideAndWeightlessCharactersToo) {
+    std::string wide;
+    std::string weightless;
+    for (int i = 0; i < 300; ++i) {
+        wide += "\xE7\x81\xAF";
+        weightless += "\xCC\x81";
+    }
+    std::ofstream(host.folder() / "a.ies") << webOf("IESNA91\n[A] " + wide + "\n[B] " + weightless + "\n", "1 1");
+
+    host.run({L"IESINFO", textOf(host.folder() / "a.ies")});
+
+    EXPECT_TRUE(host.front().shows(L"  " + ZrString(100, L'灯') + L"…\n"));
+    EXPECT_TRUE(host.front().shows(L"  " + ZrString(200, L'\x301') + L"…\n"));
+}
+
+struct OpeningInWords {
+    const char* label;
+    const char* sizes;
+    const wchar_t* words;
+};
+
+class Openings : public IesInfo, public testing::WithParamInterface<OpeningInWords> {};
+
+TEST_P(Openings, AreToldInWords) {
+    std::ofstream(host.folder() / "a.ies") << webOf(GetParam().label, "1 1", GetParam().sizes);
+
+    host.run({L"IESINFO", textOf(host.folder() / "a.ies")});
+
+    EXPECT_TRUE(host.front().shows(ZrString(L"  Luminous opening   ") + GetParam().words + L"\n"));
+}
+
+constexpr const char* k1991 = "IESNA91\n";
+constexpr const char* k1995 = "IESNA:LM-63-1995\n";
+constexpr const char* k2002 = "IESNA:LM-63-2002\n";
+
+INSTANTIATE_TEST_SUITE_P(
+    All, Openings,
+    testing::Values(
+        OpeningInWords{k2002, "0 0 0", L"point"},
+        OpeningInWords{k2002, ".1 .6 0", L"rectangle, width 0.1, length 0.6 m"},
+        OpeningInWords{k2002, ".1 .6 .05", L"box, width 0.1, length 0.6, height 0.05 m"},
+        OpeningInWords{k2002, "-.2 -.2 0", L"disc, diameter 0.2 m"},
+        OpeningInWords{k2002, "-.2 0 -.2", L"upright disc, diameter 0.2 m"},
+        OpeningInWords{k2002, "-.2 -.3 0", L"ellipse, width 0.2, length 0.3 m"},
+        OpeningInWords{k1995, "-.2 0 1", L"vertical cylinder, diameter 0.2, height 1 m"},
+        OpeningInWords{k2002, "-.2 -.3 1", L"vertical elliptical cylinder, width 0.2, length 0.3, height 1 m"},
+        OpeningInWords{k1995, "0 1 -.2", L"horizontal cylinder along the luminaire, diameter 0.2, length 1 m"},
+        OpeningInWords{k2002, "1 -.2 -.2", L"horizontal cylinder across the luminaire, diameter 0.2, length 1 m"},
+        OpeningInWords{k2002, "-.2 -.2 -.2", L"sphere, diameter 0.2 m"},
+        OpeningInWords{k1991, "-.2 .3 .4", L"ellipsoid, width 0.2, length 0.3, height 0.4 m"},
+        OpeningInWords{k2002, "-.2 0 0", L"of no defined shape, width -0.2, length 0, height 0 m"}));
+
+TEST_F(IesInfo, TellsTheOpeningInFeetWhereTheFileHasThem) {
+    host.run({L"IESINFO", textOf(webs / "dl_imperial_units.ies")});
+
+    EXPECT_TRUE(host.front().shows(L" ft\n"));
 }
 
 TEST_F(IesInfo, LetsAPersonChooseAFile) {

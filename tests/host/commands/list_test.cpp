@@ -1,3 +1,4 @@
+#include "host/document.h"
 #include "host/sys/path_text.h"
 #include "host/sys/system_variables.h"
 #include "sdk/db/light.h"
@@ -117,7 +118,7 @@ TEST_F(ListOfALight, ShowsTheWebOfWebLights) {
     EXPECT_TRUE(host.front().shows(L"Web symmetry           none"));
     EXPECT_TRUE(host.front().shows(L"vertical 0 to 90, horizontal 0 to 360 degrees"));
     EXPECT_TRUE(host.front().shows(L" lm\n"));
-    EXPECT_TRUE(host.front().shows(L"X=0  Y=90  Z=0"));
+    EXPECT_TRUE(host.front().shows(L"X=0  Y=90  Z=0 (as given)"));
 }
 
 TEST_F(ListOfALight, SaysThatAWebLightHasNoWebYet) {
@@ -136,8 +137,9 @@ TEST_F(ListOfALight, SaysWhyTheWebCannotBeReadAnyMore) {
         std::filesystem::remove(file);
     });
 
-    EXPECT_TRUE(host.front().shows(L"317.3 lm")); // lumen, as the drawing keeps them
+    EXPECT_TRUE(host.front().shows(L"317.27 lm, kept in the drawing"));
     EXPECT_TRUE(host.front().shows(L"gone.ies\" was not found"));
+    EXPECT_FALSE(host.front().shows(L"File used"));
 }
 
 TEST_F(ListOfALight, FindsAWebWhoseFolderIsGoneByItsName) {
@@ -152,6 +154,85 @@ TEST_F(ListOfALight, FindsAWebWhoseFolderIsGoneByItsName) {
     });
 
     EXPECT_TRUE(host.front().shows(L"vertical 0 to 90, horizontal 0 to 360 degrees"));
+    EXPECT_TRUE(host.front().shows(L"File used              " + textOf(host.folder() / "lamps" / "moved.ies")));
+}
+
+TEST_F(ListOfALight, ShowsNoSecondPathWhereTheFileIsTheOneThatTheDrawingNames) {
+    list([](ZrDbLight& light) { light.setWebFile(textOf(webs / "gc_sterilray.ies")); });
+
+    EXPECT_FALSE(host.front().shows(L"File used"));
+    EXPECT_FALSE(host.front().shows(L"kept in the drawing"));
+}
+
+// The drawing keeps "lamp.ies"; it was read in the working folder when it was set.
+class ListOfARelativeWeb : public ListOfALight {
+protected:
+    ListOfARelativeWeb() : before_(std::filesystem::current_path()) {
+        for (const char* folder : {"working", "drawing", "support"})
+            std::filesystem::create_directories(host.folder() / folder);
+        std::filesystem::current_path(host.folder() / "working");
+        put("gc_sterilray.ies", "working");
+        host.session().variables().set(L"SUPPORTPATH", textOf(host.folder() / "support"));
+        host.session().documents().current()->setPath(host.folder() / "drawing" / "a.dxf");
+    }
+    ~ListOfARelativeWeb() override { std::filesystem::current_path(before_); }
+
+    void put(const char* web, const char* folder) {
+        std::filesystem::copy_file(webs / web, fileIn(folder), std::filesystem::copy_options::overwrite_existing);
+    }
+    [[nodiscard]] std::filesystem::path fileIn(const char* folder) { return host.folder() / folder / "lamp.ies"; }
+
+    std::filesystem::path before_;
+};
+
+TEST_F(ListOfARelativeWeb, TakesTheFileThatIesInfoTakes) {
+    list([&](ZrDbLight& light) {
+        light.setWebFile(L"lamp.ies");
+        put("dl_point_opening.ies", "drawing");
+        EXPECT_EQ(light.webSymmetry(), WebSymmetry::kAxial);
+    });
+    host.run({L"IESINFO", L"lamp.ies"});
+
+    EXPECT_TRUE(host.front().shows(L"File used              " + textOf(fileIn("drawing"))));
+    EXPECT_TRUE(host.front().shows(L"Web symmetry           axial"));
+    EXPECT_TRUE(host.front().shows(L"\n" + textOf(fileIn("drawing")) + L"\n"));
+}
+
+TEST_F(ListOfARelativeWeb, FallsBackToTheSupportFolders) {
+    list([&](ZrDbLight& light) {
+        light.setWebFile(L"lamp.ies");
+        std::filesystem::remove(fileIn("working"));
+        put("pp_LLIA001477-003.ies", "support");
+        EXPECT_EQ(light.webSymmetry(), WebSymmetry::kMirror0_180);
+    });
+
+    EXPECT_TRUE(host.front().shows(L"File used              " + textOf(fileIn("support"))));
+    EXPECT_TRUE(host.front().shows(L"about the plane 0-180"));
+}
+
+TEST_F(ListOfALight, ShowsBothFluxesAfterTheFileChanged) {
+    const std::filesystem::path file = host.folder() / "lamp.ies";
+    std::filesystem::copy_file(webs / "gc_sterilray.ies", file);
+
+    list([&](ZrDbLight& light) {
+        light.setWebFile(textOf(file));
+        std::filesystem::copy_file(webs / "gc_nukit_torch.ies", file,
+                                   std::filesystem::copy_options::overwrite_existing);
+    });
+
+    EXPECT_TRUE(host.front().shows(L"12.724 lm in the file, 317.27 lm kept in the drawing"));
+}
+
+TEST_F(ListOfALight, ShowsTheNoticesOfTheReaderAboutTheWeb) {
+    list([](ZrDbLight& light) { light.setWebFile(textOf(webs / "own" / "made_missing_360.ies")); });
+
+    EXPECT_TRUE(host.front().shows(L"the plane that closes the circle is missing"));
+}
+
+TEST_F(ListOfALight, ShowsTheOnlyPlaneOfAWeb) {
+    list([](ZrDbLight& light) { light.setWebFile(textOf(webs / "dl_point_opening.ies")); });
+
+    EXPECT_TRUE(host.front().shows(L"vertical 0 to 90, horizontal 0 degrees"));
 }
 
 TEST_F(ListOfALight, ShowsShadowsThatAreOffWithTheirKind) {

@@ -26,10 +26,9 @@ protected:
 };
 
 TEST_F(Described, SaysWhatWhereAndWhatToDoInEnglish) {
-    EXPECT_EQ(
-        english({Kind::BadNumber, 17, 0, L"12x"}),
-        L"Photometric web file \"lamp.ies\", line 17: \"12x\" is no number that can be used; the file is not used. "
-        L"Correct it, or get the file anew.");
+    EXPECT_EQ(english({Kind::BadNumber, 17, 0, L"12x"}),
+              L"Photometric web file \"lamp.ies\", line 17: \"12x\" is not a usable number; the file is not used. "
+              L"Correct it, or get a new copy of the file.");
 }
 
 TEST_F(Described, SaysWhatWhereAndWhatToDoInChinese) {
@@ -44,13 +43,13 @@ TEST_F(Described, NamesTheFileOfTheTiltFactors) {
 }
 
 TEST_F(Described, TellsAnEmptyTiltFromAMissingOne) {
-    EXPECT_NE(english({Kind::NoTilt, 0, 0, L""}).find(L"is no photometric web file"), std::wstring::npos);
-    EXPECT_NE(english({Kind::NoTilt, 4, 0, L""}).find(L"line 4: nothing stands behind \"TILT=\""), std::wstring::npos);
+    EXPECT_NE(english({Kind::NoTilt, 0, 0, L""}).find(L"is not a photometric web file"), std::wstring::npos);
+    EXPECT_NE(english({Kind::NoTilt, 4, 0, L""}).find(L"line 4: nothing follows \"TILT=\""), std::wstring::npos);
 }
 
 TEST_F(Described, SaysWhyTheSystemRefused) {
     EXPECT_NE(english({Kind::Unreadable, 0, EACCES, L""}).find(L"permission denied"), std::wstring::npos);
-    EXPECT_NE(english({Kind::Unreadable, 0, 0, L""}).find(L"no regular file"), std::wstring::npos);
+    EXPECT_NE(english({Kind::Unreadable, 0, 0, L""}).find(L"is not a regular file"), std::wstring::npos);
 }
 
 TEST_F(Described, ShowsNoControlCharactersOfAFileName) {
@@ -63,6 +62,14 @@ TEST_F(Described, PercentSignsOfAFileNameAreNoPlaceholders) {
     EXPECT_NE(
         describe({Kind::BadCount, 5, 0, L"%s"}, L"%d.ies").find(L"\"%d.ies\", line 5: the count of angles \"%s\""),
         std::wstring::npos);
+}
+
+// What looks like a wrong angle is often the number behind the last one.
+TEST_F(Described, SaysThatTheCountsMayBeWrongWhereAnglesAre) {
+    for (const Kind kind : {Kind::AnglesNotIncreasing, Kind::AnglesOutOfRange}) {
+        EXPECT_NE(english({kind, 7, 0, L"0"}).find(L"their counts"), std::wstring::npos);
+        EXPECT_NE(chinese({kind, 7, 0, L"0"}).find(L"角度数目"), std::wstring::npos);
+    }
 }
 
 struct Placed {

@@ -64,6 +64,15 @@ TEST(Flux, OfUnevenPlanesWeighsEachByItsStep) {
     EXPECT_TRUE(isCloseTo(50 * kPi, luminousFlux(web)));
 }
 
+// 100 + 100 cos(h - 22.5) cd: the mean of all planes is 100, whose flux over the lower half is 2 pi x 100.
+TEST(Flux, OfACircleThatBeginsElsewhereIsThatOfAllDirections) {
+    const Intensity uneven = [](double h, double) { return 100 + 100 * cosine(h - 22.5); };
+    const PhotometricWeb web = made(Photometry::C, steps(0, 90, 10), steps(22.5, 382.5, 45), uneven);
+
+    EXPECT_TRUE(isCloseTo(2 * kPi * 100, luminousFlux(web)));
+    EXPECT_NEAR(intensityAt(web, 0, 45), (uneven(-22.5, 45) + uneven(22.5, 45)) / 2, 1e-9);
+}
+
 struct OneLight {
     const char* name;
     Intensity intensity;

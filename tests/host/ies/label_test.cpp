@@ -36,6 +36,7 @@ TEST_P(UnknownVersionLine, WithKeywordsIsReadAs1995WithAWarning) {
     ASSERT_EQ(web.warnings.size(), 1U);
     EXPECT_EQ(web.warnings[0].kind, Warning::Kind::UnknownVersionLine);
     EXPECT_EQ(web.warnings[0].line, 1U);
+    EXPECT_EQ(web.warnings[0].number, 1995U);
 }
 
 TEST_P(UnknownVersionLine, WithoutKeywordsIsReadAs1986) {
@@ -113,7 +114,25 @@ TEST(Label, TextIsReadAsUtf8) {
     EXPECT_EQ(sound({.label = "IESNA91\n[MANUFAC] \xE7\x81\xAF\xE5\x85\xB7\n"}).keywords.at(0).text, L"灯具");
 }
 
-TEST(Label, TextThatIsNoUtf8IsReadAsLatin1) {
+TEST(Label, TextThatIsNoUtf8IsReadAsGbk) {
+    EXPECT_EQ(sound({.label = "IESNA91\n[MANUFAC] \xB5\xC6\xBE\xDF LED\n"}).keywords.at(0).text, L"灯具 LED");
+}
+
+TEST(Label, TextInGbkMayHaveCharactersWithAByteOfAscii) {
+    EXPECT_EQ(sound({.label = "IESNA91\n[OTHER] \xD6\xEC\xE9\x46\xBB\xF9\n"}).keywords.at(0).text, L"朱镕基");
+}
+
+// Most pairs of such bytes are characters of GBK, which nobody meant.
+TEST(Label, TextInLatin1WithLettersBehindItsSignsIsNoGbk) {
+    EXPECT_EQ(sound({.label = "IESNA91\n[OTHER] 25\xB0"
+                              "C \xFC"
+                              "ber\n"})
+                  .keywords.at(0)
+                  .text,
+              L"25°C über");
+}
+
+TEST(Label, TextThatIsNeitherIsReadAsLatin1) {
     EXPECT_EQ(sound({.label = "IESNA91\n[MANUFAC] M\xFCller\n"}).keywords.at(0).text, L"Müller");
 }
 
@@ -160,6 +179,27 @@ TEST(Label, TiltInAnotherFileIsRefusedWithItsName) {
     EXPECT_EQ(error.kind, Error::Kind::TiltFile);
     EXPECT_EQ(error.line, 4U);
     EXPECT_EQ(error.excerpt, L"my lamps.tlt");
+}
+
+TEST(Label, LineOfTheLabelThatLooksLikeATiltLineIsPassedOver) {
+    const PhotometricWeb web = sound({.label = "IESNA91\nTilt=15 degrees optic\nTILT=\n[TEST] 1\n"});
+
+    EXPECT_FALSE(web.tilt.has_value());
+    ASSERT_EQ(web.keywords.size(), 3U);
+    EXPECT_EQ(web.keywords[0].text, L"Tilt=15 degrees optic");
+    EXPECT_TRUE(web.warnings.empty());
+}
+
+TEST(Label, LineThatLooksLikeATiltLineMayComeBeforeTheFactors) {
+    EXPECT_TRUE(sound({.label = "tilt = any\n", .tilt = "TILT=INCLUDE 1 2 0 90 1 1\n"}).tilt.has_value());
+}
+
+TEST(Label, OfSeveralTiltLinesWithoutFactorsTheLastIsTold) {
+    const Error error = refused({.label = "Tilt=15 degrees optic\n", .tilt = "TILT=my.tlt\n"});
+
+    EXPECT_EQ(error.kind, Error::Kind::TiltFile);
+    EXPECT_EQ(error.line, 2U);
+    EXPECT_EQ(error.excerpt, L"my.tlt");
 }
 
 TEST(Label, NameThatOnlyBeginsWithNoneIsAFile) {

@@ -123,8 +123,56 @@ TEST(Reader, WarnsOfTextBehindTheData) {
     EXPECT_EQ(web.warnings[0].line, 11U);
 }
 
-TEST(Reader, WarnsOfOneNumberTooMany) {
-    EXPECT_EQ(sound({.candela = "100 80 20 10\n"}).warnings.at(0).kind, Warning::Kind::TrailingText);
+// The counts are 3 and 1 where 4 and 1 are there: 90 is taken as the plane, 0 as an intensity.
+TEST(Reader, WarnsOfNumbersThatAreLeftOverAndCountsThem) {
+    const PhotometricWeb web =
+        sound({.header = "1 -1 1 3 1 1 2 0 0 0\n", .vertical = "0 30 60 90\n", .candela = "4 3 2 1\n"});
+
+    EXPECT_EQ(web.warnings.back().kind, Warning::Kind::SurplusNumbers);
+    EXPECT_EQ(web.warnings.back().number, 2U);
+    EXPECT_EQ(web.warnings.back().line, 9U);
+}
+
+TEST(Reader, CountsTheNumbersThatAreLeftOverUpToTheFirstText) {
+    const PhotometricWeb web = sound({.candela = "100 80 20 10\n5 4 end 3\n"});
+
+    ASSERT_EQ(web.warnings.size(), 1U);
+    EXPECT_EQ(web.warnings[0].kind, Warning::Kind::SurplusNumbers);
+    EXPECT_EQ(web.warnings[0].number, 3U);
+}
+
+TEST(Reader, DecimalCommasMakeNumbersTooMany) {
+    const Warning warning = sound({.candela = "100,5 80,25 20,0\n"}).warnings.at(0);
+
+    EXPECT_EQ(warning.kind, Warning::Kind::SurplusNumbers);
+    EXPECT_EQ(warning.number, 3U);
+}
+
+TEST(Reader, ANumberBehindOtherTextIsText) {
+    EXPECT_EQ(sound({.candela = "100 80 20\nend 1 2\n"}).warnings.at(0).kind, Warning::Kind::TrailingText);
+}
+
+TEST(Reader, WarnsOfTheOnlyPlaneThatIsNotAtZero) {
+    const PhotometricWeb web = sound({.horizontal = "45\n"});
+
+    ASSERT_EQ(web.warnings.size(), 1U);
+    EXPECT_EQ(web.warnings[0].kind, Warning::Kind::OnePlaneNotAtZero);
+    EXPECT_EQ(web.warnings[0].line, 8U);
+    EXPECT_EQ(intensityAt(web, 200, 0), 100);
+}
+
+TEST(Reader, WarnsOfVerticalAnglesThatLeaveDirectionsOut) {
+    const PhotometricWeb web = sound({.vertical = "10 45\n90\n"});
+
+    ASSERT_EQ(web.warnings.size(), 1U);
+    EXPECT_EQ(web.warnings[0].kind, Warning::Kind::MissingRows);
+    EXPECT_EQ(web.warnings[0].line, 8U);
+}
+
+TEST(Reader, WarnsOfASingleVerticalAngle) {
+    const PhotometricWeb web = sound({.header = "1 -1 1 1 1 1 2 0 0 0\n", .vertical = "0\n", .candela = "100\n"});
+
+    EXPECT_EQ(web.warnings.at(0).kind, Warning::Kind::MissingRows);
 }
 
 TEST(Reader, NegativeZeroIsZero) { EXPECT_FALSE(std::signbit(sound({.candela = "100 80 -0.0\n"}).candela[2])); }
@@ -165,6 +213,27 @@ TEST(Reader, AddsThePlaneAt360BehindUnevenStepsToo) {
         sound({.header = "1 -1 1 3 4 1 2 0 0 0\n", .horizontal = "0 150 250 345\n", .candela = kFourPlanes});
 
     EXPECT_EQ(web.horizontal.back(), 360);
+}
+
+TEST(Reader, ClosesACircleThatDoesNotBeginAtZero) {
+    const PhotometricWeb web =
+        sound({.header = "1 -1 1 3 4 1 2 0 0 0\n", .horizontal = "45 135 225 315\n", .candela = kFourPlanes});
+
+    EXPECT_THAT(web.horizontal, ElementsAre(45, 135, 225, 315, 405));
+    ASSERT_EQ(web.warnings.size(), 1U);
+    EXPECT_EQ(web.warnings[0].kind, Warning::Kind::Missing360);
+    EXPECT_EQ(intensityAt(web, 315, 45), 40);
+    EXPECT_EQ(intensityAt(web, 0, 45), 25) << "half way from 315 to 405";
+    EXPECT_EQ(intensityAt(web, 45, 45), 10);
+    EXPECT_EQ(intensityAt(web, 405, 45), 10);
+}
+
+TEST(Reader, ClosesNoCircleOfUnevenStepsThatDoesNotBeginAtZero) {
+    const PhotometricWeb web =
+        sound({.header = "1 -1 1 3 4 1 2 0 0 0\n", .horizontal = "40 135 225 315\n", .candela = kFourPlanes});
+
+    EXPECT_EQ(web.horizontal.size(), 4U);
+    EXPECT_EQ(web.warnings.at(0).kind, Warning::Kind::MissingPlanes);
 }
 
 TEST(Reader, KeepsBothPlanesAt0And360EvenIfTheyDiffer) {

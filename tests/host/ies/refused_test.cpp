@@ -59,6 +59,15 @@ INSTANTIATE_TEST_SUITE_P(Texts, Defective,
                                          Defect{{.factors = "1 1 15W\n"}, Kind::BadNumber, 6, L"15W"},
                                          Defect{{.header = "1 - 1 3 1 1 2 0 0 0\n"}, Kind::BadNumber, 5, L"-"}));
 
+TEST(Refused, ExcerptsInGbkAreReadableWhereverTheyAreCut) {
+    std::string name = "x";
+    for (int i = 0; i < 100; ++i)
+        name += "\xB5\xC6";
+
+    EXPECT_EQ(refused({.candela = name + "\n"}).excerpt, L"x" + std::wstring(39, L'灯'));
+    EXPECT_EQ(refused({.candela = name.substr(1) + "\n"}).excerpt, std::wstring(40, L'灯'));
+}
+
 TEST(Refused, ExcerptsHaveFortyCharacters) {
     EXPECT_EQ(refused({.candela = std::string(50, 'x') + "\n"}).excerpt, std::wstring(40, L'x'));
 }
@@ -112,7 +121,7 @@ TEST_P(GoodAngles, AreAccepted) { EXPECT_TRUE(sound(GetParam()).warnings.empty()
 INSTANTIATE_TEST_SUITE_P(
     UpToTheLimits, GoodAngles,
     testing::Values(twoPlanes("1", "0 45 180\n", "0 360\n"), twoPlanes("1", "90 135 180\n", "90 270\n"),
-                    twoPlanes("1", "0 1e-9 2e-9\n", "0 90\n"), twoPlanes("2", "-90 0 90\n", "-90 90\n"),
+                    twoPlanes("1", "0 1e-9 90\n", "0 90\n"), twoPlanes("2", "-90 0 90\n", "-90 90\n"),
                     twoPlanes("2", "0 45 90\n", "0 90\n"), twoPlanes("3", "-90 0 90\n", "-90 90\n"),
                     twoPlanes("3", "-90 -45 0\n", "0 90\n")));
 

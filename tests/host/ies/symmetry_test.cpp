@@ -42,6 +42,44 @@ TEST(Symmetry, PlanesThatLeaveDirectionsOutAreWarnedOf) {
     EXPECT_TRUE(lacksPlanes(made(Photometry::A, {-90, 90}, {-60, 60}, label)));
 }
 
+struct Rows {
+    Photometry photometry;
+    std::vector<double> vertical;
+    bool leaveOut;
+};
+
+class VerticalAngles : public testing::TestWithParam<Rows> {};
+
+TEST_P(VerticalAngles, ThatLeaveDirectionsOutAreWarnedOf) {
+    EXPECT_EQ(lacksRows(made(GetParam().photometry, GetParam().vertical, {0}, label)), GetParam().leaveOut);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfTypeC, VerticalAngles,
+                         testing::Values(Rows{Photometry::C, {0, 45, 90}, false}, Rows{Photometry::C, {90, 180}, false},
+                                         Rows{Photometry::C, {0, 90, 180}, false}, Rows{Photometry::C, {0, 180}, false},
+                                         Rows{Photometry::C, {0, 89.9}, true}, Rows{Photometry::C, {0.1, 90}, true},
+                                         Rows{Photometry::C, {45, 180}, true}, Rows{Photometry::C, {90, 179}, true},
+                                         Rows{Photometry::C, {0, 120}, true}, Rows{Photometry::C, {0}, true},
+                                         Rows{Photometry::C, {90}, true}));
+INSTANTIATE_TEST_SUITE_P(OfTypesAAndB, VerticalAngles,
+                         testing::Values(Rows{Photometry::B, {-90, 0, 90}, false}, Rows{Photometry::A, {0, 90}, false},
+                                         Rows{Photometry::A, {-90, 0}, false}, Rows{Photometry::B, {-60, 60}, true},
+                                         Rows{Photometry::A, {0}, true}));
+
+TEST(Symmetry, CircleThatLacksItsLastPlaneIsKnown) {
+    EXPECT_TRUE(lacksLastPlane(ofPlanes({0, 90, 180, 270})));
+    EXPECT_TRUE(lacksLastPlane(ofPlanes({0, 150, 250, 345}))) << "what is missing is less than a step";
+    EXPECT_TRUE(lacksLastPlane(ofPlanes({22.5, 112.5, 202.5, 292.5})));
+    EXPECT_TRUE(lacksLastPlane(ofPlanes({90, 180, 270, 360})));
+    EXPECT_TRUE(lacksLastPlane(ofPlanes({17.143, 68.571, 120, 171.429, 222.857, 274.286, 325.714})));
+    EXPECT_FALSE(lacksLastPlane(ofPlanes({0, 90, 180, 270, 360})));
+    EXPECT_FALSE(lacksLastPlane(ofPlanes({0, 80, 160, 240})));
+    EXPECT_FALSE(lacksLastPlane(ofPlanes({22.5, 112.5, 202.5, 290})));
+    EXPECT_FALSE(lacksLastPlane(ofPlanes({90, 180, 270})));
+    EXPECT_FALSE(lacksLastPlane(ofPlanes({45})));
+    EXPECT_FALSE(lacksLastPlane(made(Photometry::B, {-90, 90}, {-90, -45, 0, 45}, label)));
+}
+
 TEST(Intensity, OfTheGridIsThatOfTheFile) {
     const PhotometricWeb web = ofPlanes({0, 90, 180, 270, 360});
 

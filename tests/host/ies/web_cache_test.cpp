@@ -119,22 +119,61 @@ TEST_F(WebCaching, KeepsLessOfLargeFiles) {
     EXPECT_EQ(cache.size(), 2U);
 }
 
-TEST_F(WebCaching, DoesNotRememberErrors) {
+TEST_F(WebCaching, RemembersWhatIsWrongInAFile) {
+    std::string broken = kDim;
+    broken.replace(broken.find("100 80"), 6, "100 x0");
+    put(folder / "a.ies", broken);
+    EXPECT_EQ(cache.load(folder / "a.ies").error().kind, Error::Kind::BadNumber);
+    replaceUnnoticed("a.ies", kDim);
+
+    const Error again = cache.load(folder / "a.ies").error();
+
+    EXPECT_EQ(again.kind, Error::Kind::BadNumber);
+    EXPECT_EQ(again.line, 9U);
+    EXPECT_EQ(again.excerpt, L"x0");
+}
+
+TEST_F(WebCaching, ReadsAFileThatWasMended) {
     put(folder / "a.ies", "no web");
     EXPECT_EQ(cache.load(folder / "a.ies").error().kind, Error::Kind::NoTilt);
-    EXPECT_EQ(cache.size(), 0U);
     put(folder / "a.ies", kDim);
 
     EXPECT_EQ(straightDown("a.ies"), 100);
+    EXPECT_EQ(cache.size(), 1U);
 }
 
-TEST_F(WebCaching, FileThatBecomesBadIsRefusedAndForgotten) {
+TEST_F(WebCaching, LargeBrokenFilesTakeNoPlaceFromSoundOnes) {
+    put(folder / "a.ies", kDim);
+    (void)straightDown("a.ies");
+    for (const char* name : {"b.ies", "c.ies"}) {
+        put(folder / name, std::string(kMostBytes, 'x'));
+        EXPECT_EQ(cache.load(folder / name).error().kind, Error::Kind::NoTilt);
+    }
+    replaceUnnoticed("a.ies", kBright);
+
+    EXPECT_EQ(straightDown("a.ies"), 100) << "still the one in memory";
+}
+
+TEST_F(WebCaching, FileThatBecomesBadIsRefused) {
     put(folder / "a.ies", kDim);
     (void)straightDown("a.ies");
     put(folder / "a.ies", "no web");
 
     EXPECT_EQ(cache.load(folder / "a.ies").error().kind, Error::Kind::NoTilt);
+}
+
+TEST_F(WebCaching, ThatAFileCannotBeOpenedIsNotRemembered) {
+    EXPECT_EQ(cache.load(folder / "a.ies").error().kind, Error::Kind::NotFound);
     EXPECT_EQ(cache.size(), 0U);
+}
+
+TEST_F(WebCaching, LinkThatLeadsToItselfIsRefusedWithTheReason) {
+    fs::create_symlink(folder / "a.ies", folder / "a.ies");
+
+    const Error error = cache.load(folder / "a.ies").error();
+
+    EXPECT_EQ(error.kind, Error::Kind::Unreadable);
+    EXPECT_EQ(error.systemError, ELOOP);
 }
 
 TEST_F(WebCaching, FileThatIsNotThere) {

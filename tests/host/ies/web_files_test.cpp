@@ -25,6 +25,12 @@ fs::path found(const std::string& name) {
     return fs::exists(further) ? further : fs::path();
 }
 
+// Files that come with the program, with the lumens that they state.
+struct Shipped {
+    const char* name;
+    double stated;
+};
+
 // What tests/tools/ies_flux.py prints for the file; it has a parser and an integration of its own.
 // `zonal` unfolds the web to all directions and gives each cell the mean of its corners, as the flux is defined here.
 // `interpolated` is the integral of the interpolated intensities by Simpson's rule in every cell: another integral,
@@ -36,7 +42,7 @@ struct Sample {
     Edition edition;
     Symmetry symmetry;
     double differs;
-    double stated = 0; // what the file says the luminaire gives, in lumen
+    double stated = 0; // what the file says the luminaire gives, or the integral of its formula; lumen
 };
 
 constexpr auto kAxial = Symmetry::Axial;
@@ -72,6 +78,9 @@ const std::vector<Sample> kSamples{
     {"derived/m05_utf8_bom_cjk_keywords.ies", 906.5742, 904.5245, k1995, kAxial, 0.003},
     {"derived/m06_trailing_text.ies", 906.5742, 904.5245, k1995, kAxial, 0.003},
     {"derived/m07_one_number_per_line.ies", 906.5742, 904.5245, k1995, kAxial, 0.003},
+    {"own/made_90_270.ies", 1570.7950, 1566.7955, k2002, Symmetry::Mirror90_270, 0.003, 1570.796},
+    {"own/made_circle_from_22_5.ies", 1256.6092, 1253.4096, k2002, kNone, 0.003, 1256.637},
+    {"own/made_missing_360.ies", 1012.1224, 1008.3002, k2002, kNone, 0.004, 1005.310},
     // Further samples.
     {"eu_Indoor_60W_OVNI.ies", 5300.8666, 5300.8229, k2002, kAxial, 0.001, 5300},
     {"eu_OutdoorRoadway.ies", 9155.4206, 9155.3676, k1995, kNone, 0.001, 9155.7},
@@ -135,24 +144,45 @@ std::string testName(const testing::TestParamInfo<Sample>& test) {
 
 INSTANTIATE_TEST_SUITE_P(Webs, WebSample, testing::ValuesIn(samplesHere()), testName);
 
-// Of luminaires whose lumens the file tells, measured in steps fine enough to find them again.
+// Of luminaires whose lumens are known, given in steps fine enough to find them again.
 class StatedLumens : public WebSample {};
-// All of them are among the further samples.
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(StatedLumens);
 
 TEST_P(StatedLumens, AreThoseOfTheFlux) { EXPECT_NEAR(sample->flux, GetParam().stated, 0.01 * GetParam().stated); }
 
 INSTANTIATE_TEST_SUITE_P(Webs, StatedLumens, testing::ValuesIn(statingSamplesHere()), testName);
 
-TEST(WebFiles, EveryWebOfTheTestDataHasItsFlux) {
-    for (const fs::directory_entry& file : fs::directory_iterator(fs::path(QUOR_TEST_DATA) / "ies")) {
+class WebOfTheProgram : public testing::TestWithParam<Shipped> {};
+
+TEST_P(WebOfTheProgram, HasTheLumensThatItStates) {
+    const fs::path folder = fs::path(QUOR_TEST_DATA) / ".." / ".." / "resources" / "webs";
+    const auto file = loadWeb(folder / GetParam().name).value();
+    const auto stated = std::find_if(file->web.keywords.begin(), file->web.keywords.end(),
+                                     [](const Keyword& keyword) { return keyword.name == L"_FLUX"; });
+
+    ASSERT_NE(stated, file->web.keywords.end());
+    EXPECT_EQ(stated->text, std::to_wstring(static_cast<int>(GetParam().stated)) + L" lm");
+    EXPECT_NEAR(file->flux, GetParam().stated, 0.01 * GetParam().stated);
+    EXPECT_TRUE(file->web.warnings.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, WebOfTheProgram,
+                         testing::Values(Shipped{"downlight.ies", 1000}, Shipped{"wall_washer.ies", 2000},
+                                         Shipped{"street.ies", 8000}));
+
+class TestDataFolder : public testing::TestWithParam<const char*> {};
+
+TEST_P(TestDataFolder, HasAFluxForEachOfItsWebs) {
+    const fs::path all = fs::path(QUOR_TEST_DATA) / "ies";
+    for (const fs::directory_entry& file : fs::directory_iterator(all / GetParam())) {
         if (file.path().extension() == ".ies") {
             EXPECT_TRUE(std::any_of(kSamples.begin(), kSamples.end(), [&](const Sample& sample) {
-                return sample.name == file.path().filename();
+                return sample.name == file.path().lexically_relative(all).lexically_normal();
             })) << file.path();
         }
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(All, TestDataFolder, testing::Values(".", "own"));
 
 Error refused(const char* name) { return loadWeb(fs::path(QUOR_TEST_DATA) / "ies" / "derived" / name).error(); }
 
@@ -192,6 +222,35 @@ TEST(WebFiles, TextBehindTheDataIsWarnedOf) {
 }
 
 TEST(WebFiles, SoundOneGivesNoWarnings) { EXPECT_TRUE(warningsOf("dl_absolute_photometry.ies").empty()); }
+
+TEST(WebFiles, MissingPlaneIsAdded) {
+    const PhotometricWeb web = loadWeb(found("own/made_missing_360.ies")).value()->web;
+
+    EXPECT_EQ(web.horizontal.size(), 25U);
+    EXPECT_EQ(web.horizontal.back(), 360);
+    ASSERT_EQ(web.warnings.size(), 1U);
+    EXPECT_EQ(web.warnings[0].kind, Warning::Kind::Missing360);
+    EXPECT_DOUBLE_EQ(intensityAt(web, 352.5, 40), (web.at(23, 4) + web.at(0, 4)) / 2);
+}
+
+TEST(WebFiles, CircleThatDoesNotBeginAtZeroIsClosed) {
+    const PhotometricWeb web = loadWeb(found("own/made_circle_from_22_5.ies")).value()->web;
+
+    EXPECT_EQ(web.horizontal.back(), 382.5);
+    ASSERT_EQ(web.warnings.size(), 1U);
+    EXPECT_EQ(web.warnings[0].kind, Warning::Kind::Missing360);
+    EXPECT_DOUBLE_EQ(intensityAt(web, 0, 40), (web.at(7, 4) + web.at(0, 4)) / 2);
+}
+
+TEST(WebFiles, OneOf90To270KeepsItsAngles) {
+    const PhotometricWeb web = loadWeb(found("own/made_90_270.ies")).value()->web;
+
+    EXPECT_EQ(web.horizontal.front(), 90);
+    EXPECT_EQ(web.horizontal.back(), 270);
+    EXPECT_TRUE(web.warnings.empty());
+    EXPECT_DOUBLE_EQ(intensityAt(web, 30, 40), intensityAt(web, 150, 40));
+    EXPECT_NE(intensityAt(web, 112.5, 40), intensityAt(web, 247.5, 40)) << "left and right of the plane 0-180 differ";
+}
 
 TEST(WebFiles, CjkKeywordsAreRead) {
     const auto file = loadWeb(fs::path(QUOR_TEST_DATA) / "ies/derived/m05_utf8_bom_cjk_keywords.ies").value();
