@@ -3,10 +3,12 @@
 #include "host/cm/color_books.h"
 #include "host/cm/color_names.h"
 #include "host/commands/command_list.h"
+#include "host/db/light_web.h"
 #include "host/document.h"
 #include "host/ed/command_processor.h"
 #include "host/ed/input_stack.h"
 #include "host/ed/input_state.h"
+#include "host/ed/support_files.h"
 #include "host/rx/module_loader.h"
 #include "host/sys/problem_report.h"
 #include "host/sys/program_folder.h"
@@ -87,12 +89,14 @@ Session::Session(FrontEnd& front, SessionOptions options) : front_(front) {
     modules_ = std::make_unique<rx::ModuleLoader>(*this);
     registerHostCommands(*this);
     setUpColors(*settings_, options_);
+    db::setWebFinder([this](const ZrString& kept) { return ed::findKeptFile(*this, kept); });
 }
 
 // Modules go first, then the drawings; both may use everything else while they do.
 Session::~Session() {
     modules_.reset();
     documents_->closeAll();
+    db::setWebFinder(nullptr);
     processor_.reset();
     commands_.reset();
     inputState_.reset();

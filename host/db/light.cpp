@@ -208,7 +208,7 @@ Quor::ErrorStatus ZrDbLight::setWebFile(const ZrString& path, ZrString* reason) 
 
 double ZrDbLight::webFlux() const { return data().webFlux; }
 
-WebSymmetry ZrDbLight::webSymmetry() const { return quor::db::readLightWeb(data().webFile, nullptr).symmetry; }
+WebSymmetry ZrDbLight::webSymmetry() const { return quor::db::symmetryOfKeptWeb(data().webFile); }
 
 Quor::ErrorStatus ZrDbLight::webRotation(ZrGeVector3d& rotation) const {
     rotation = data().webRotation;

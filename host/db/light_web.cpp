@@ -3,6 +3,8 @@
 #include "host/ies/reader.h"
 #include "host/sys/utf8.h"
 
+#include <utility>
+
 namespace quor::db {
 
 namespace {
@@ -36,7 +38,14 @@ WebSymmetry symmetryOf(ies::Symmetry symmetry) {
     return WebSymmetry::kUnknown;
 }
 
+WebFinder& webFinder() {
+    static WebFinder finder;
+    return finder;
+}
+
 } // namespace
+
+void setWebFinder(WebFinder finder) { webFinder() = std::move(finder); }
 
 LightWeb readLightWeb(const ZrString& path, ZrString* reason) {
     if (path.empty())
@@ -47,6 +56,17 @@ LightWeb readLightWeb(const ZrString& path, ZrString* reason) {
     if (reason != nullptr)
         *reason = ies::describe(file.error(), path);
     return {statusOf(file.error().kind), 0, WebSymmetry::kUnknown};
+}
+
+WebSymmetry symmetryOfKeptWeb(const ZrString& kept) {
+    if (kept.empty())
+        return WebSymmetry::kUnknown;
+    const std::optional<std::filesystem::path> file =
+        webFinder() ? webFinder()(kept) : std::filesystem::path(toUtf8(kept));
+    if (!file)
+        return WebSymmetry::kUnknown;
+    const ies::LoadedWeb web = ies::loadWeb(*file);
+    return web.ok() ? symmetryOf((*web)->web.symmetry) : WebSymmetry::kUnknown;
 }
 
 } // namespace quor::db

@@ -1,4 +1,5 @@
 // The photometric web of a light: read when it is set, kept in the drawing.
+#include "host/db/light_web.h"
 #include "host/sys/path_text.h"
 #include "host/sys/utf8.h"
 #include "tests/host/db/drawings.h"
@@ -73,6 +74,30 @@ TEST_F(LightWeb, AMalformedFileIsRefusedWithTheLineAndTheOldWebStays) {
 }
 
 TEST_F(LightWeb, NobodyHasToAskForTheReason) { EXPECT_EQ(light.setWebFile(L"/no/such/lamp.ies"), Quor::eFileNotFound); }
+
+struct LightWebElsewhere : LightWeb {
+    ~LightWebElsewhere() override { setWebFinder(nullptr); }
+};
+
+TEST_F(LightWebElsewhere, SymmetryIsThatOfTheFileWhichTheFinderAnswers) {
+    light.setWebFile(fileOf("dl_point_opening.ies"));
+    setWebFinder([](const ZrString&) { return toUtf8(fileOf("pp_LLIA001477-003.ies")); });
+
+    EXPECT_EQ(light.webSymmetry(), WebSymmetry::kMirror0_180);
+}
+
+TEST_F(LightWebElsewhere, SymmetryIsUnknownWhereTheFinderFindsNothing) {
+    light.setWebFile(fileOf("dl_point_opening.ies"));
+    setWebFinder([](const ZrString&) { return std::nullopt; });
+
+    EXPECT_EQ(light.webSymmetry(), WebSymmetry::kUnknown);
+}
+
+TEST_F(LightWebElsewhere, FinderIsNotAskedForALightWithoutAWeb) {
+    setWebFinder([](const ZrString&) { return toUtf8(fileOf("dl_point_opening.ies")); });
+
+    EXPECT_EQ(light.webSymmetry(), WebSymmetry::kUnknown);
+}
 
 TEST_F(LightWeb, AnEmptyPathTakesTheWebAway) {
     light.setWebFile(fileOf("dl_point_opening.ies"));
