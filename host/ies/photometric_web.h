@@ -55,8 +55,8 @@ struct Warning {
     std::size_t number = 0;
 };
 
-// Angles are in degrees and strictly increasing. `candela` holds a row of vertical.size() values per horizontal angle,
-// all factors of the file applied.
+// Angles are in degrees and strictly increasing; a circle of planes that does not begin at 0 ends beyond 360. `candela`
+// holds a row of vertical.size() values per horizontal angle, all factors of the file applied.
 struct PhotometricWeb {
     Edition edition = Edition::Lm2002;
     std::vector<Keyword> keywords;
