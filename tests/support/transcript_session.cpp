@@ -113,11 +113,10 @@ public:
     std::string play() {
         while (problem_.empty() && !session_.processor().quitRequested()) {
             const TranscriptLine* line = recording_.peek();
-            if (session_.input().hasProgramInput() || session_.input().hasAnswer())
-                session_.processor().step();
-            else if (line == nullptr)
+            const bool isAnswered = session_.input().hasProgramInput() || session_.input().hasAnswer();
+            if (!isAnswered && line == nullptr)
                 break;
-            else if (line->kind == Kind::Directive)
+            if (!isAnswered && line->kind == Kind::Directive)
                 obey(recording_.next()->text.substr(2));
             else
                 session_.processor().step();

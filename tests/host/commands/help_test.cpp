@@ -19,7 +19,6 @@ namespace quor {
 namespace {
 
 using ::testing::ElementsAreArray;
-using ::testing::IsEmpty;
 
 std::set<ZrString> hostCommands(Session& session) {
     std::set<ZrString> names;

@@ -15,7 +15,7 @@ protected:
     };
     static Index readIndex(ZrString text) {
         const bool isOne = isColorIndexName(text.data());
-        return {isOne, text.c_str()};
+        return {isOne, text.substr(0, text.find(L'\0'))};
     }
 
     test::TestSession session_;
