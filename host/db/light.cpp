@@ -5,6 +5,7 @@
 #include "host/db/finite.h"
 #include "host/db/light_names.h"
 #include "host/db/light_web.h"
+#include "host/texts/web_files.h"
 
 #include <algorithm>
 #include <cmath>
@@ -31,9 +32,18 @@ bool isUpTo(Enumeration value, Enumeration last) {
     return static_cast<int>(value) >= 0 && static_cast<int>(value) <= static_cast<int>(last);
 }
 
-bool isLightName(const ZrString& name) {
-    return !name.empty() && name.size() <= kLongestName &&
-           std::none_of(name.begin(), name.end(), [](wchar_t c) { return c < L' ' || c == 0x7F; });
+// A line of a drawing file holds no control characters.
+bool holdsControls(const ZrString& text) {
+    return std::any_of(text.begin(), text.end(), [](wchar_t c) { return c < L' ' || c == 0x7F; });
+}
+
+bool isLightName(const ZrString& name) { return !name.empty() && name.size() <= kLongestName && !holdsControls(name); }
+
+// Answers the status, with the words for it where they are wanted.
+Quor::ErrorStatus refused(Quor::ErrorStatus status, const quor::Text& words, ZrString* reason) {
+    if (reason != nullptr)
+        *reason = words.get();
+    return status;
 }
 
 } // namespace
@@ -198,6 +208,10 @@ Quor::ErrorStatus ZrDbLight::setLampColorPreset(LampColorPreset preset) {
 const ZrString& ZrDbLight::webFile() const { return data().webFile; }
 
 Quor::ErrorStatus ZrDbLight::setWebFile(const ZrString& path, ZrString* reason) {
+    if (!path.empty() && lightType() != DrawableType::kWebLight)
+        return refused(Quor::eNotApplicable, quor::texts::kWebForWebLightsOnly, reason);
+    if (holdsControls(path))
+        return refused(Quor::eInvalidInput, quor::texts::kWebNameHoldsControls, reason);
     const quor::db::LightWeb web = quor::db::readLightWeb(path, reason);
     if (web.status != Quor::eOk)
         return web.status;

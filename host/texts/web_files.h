@@ -5,6 +5,11 @@
 
 namespace quor::texts {
 
+inline constexpr Text kWebForWebLightsOnly{L"只有光域网灯光才能使用光域网文件。",
+                                           L"Only web lights have a photometric web file."};
+inline constexpr Text kWebNameHoldsControls{L"光域网文件的名称中有控制字符，图形中无法保存。请重命名该文件。",
+                                            L"The name of the photometric web file holds control characters, which a "
+                                            L"drawing cannot keep. Rename the file."};
 inline constexpr Text kWebNotFound{L"找不到光域网文件“%s”。请检查路径后再试。",
                                    L"The photometric web file \"%s\" was not found. Check the path."};
 inline constexpr Text kWebUnreadable{L"无法读取光域网文件“%s”：%s。请检查该文件后再试。",

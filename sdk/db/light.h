@@ -123,7 +123,8 @@ public:
 
     // The photometric web file. Setting it reads it: a file that cannot be read, or is no photometric web, is refused
     // and `reason`, where it is wanted, tells why: eFileNotFound, eFileAccessErr, or eUnsupportedFileFormat with the
-    // line. An empty path takes the web away.
+    // line. A light of another type than web has none (eNotApplicable); a name with control characters is
+    // eInvalidInput. An empty path takes the web away.
     [[nodiscard]] const ZrString& webFile() const;
     Quor::ErrorStatus setWebFile(const ZrString& path, ZrString* reason = nullptr);
     // The luminous flux of the web in lumen, found by integration when the file was set; 0 without a web.

@@ -133,6 +133,7 @@ TEST_F(ListOfALight, SaysWhyTheWebCannotBeReadAnyMore) {
     std::filesystem::copy_file(webs / "gc_sterilray.ies", file);
 
     list([&](ZrDbLight& light) {
+        light.setLightType(DrawableType::kWebLight);
         light.setWebFile(textOf(file));
         std::filesystem::remove(file);
     });
@@ -149,6 +150,7 @@ TEST_F(ListOfALight, FindsAWebWhoseFolderIsGoneByItsName) {
     host.session().variables().set(L"SUPPORTPATH", textOf(host.folder() / "lamps"));
 
     list([&](ZrDbLight& light) {
+        light.setLightType(DrawableType::kWebLight);
         light.setWebFile(textOf(file));
         std::filesystem::rename(file, host.folder() / "lamps" / "moved.ies");
     });
@@ -158,7 +160,10 @@ TEST_F(ListOfALight, FindsAWebWhoseFolderIsGoneByItsName) {
 }
 
 TEST_F(ListOfALight, ShowsNoSecondPathWhereTheFileIsTheOneThatTheDrawingNames) {
-    list([](ZrDbLight& light) { light.setWebFile(textOf(webs / "gc_sterilray.ies")); });
+    list([](ZrDbLight& light) {
+        light.setLightType(DrawableType::kWebLight);
+        light.setWebFile(textOf(webs / "gc_sterilray.ies"));
+    });
 
     EXPECT_FALSE(host.front().shows(L"File used"));
     EXPECT_FALSE(host.front().shows(L"kept in the drawing"));
@@ -187,6 +192,7 @@ protected:
 
 TEST_F(ListOfARelativeWeb, TakesTheFileThatIesInfoTakes) {
     list([&](ZrDbLight& light) {
+        light.setLightType(DrawableType::kWebLight);
         light.setWebFile(L"lamp.ies");
         put("dl_point_opening.ies", "drawing");
         EXPECT_EQ(light.webSymmetry(), WebSymmetry::kAxial);
@@ -200,6 +206,7 @@ TEST_F(ListOfARelativeWeb, TakesTheFileThatIesInfoTakes) {
 
 TEST_F(ListOfARelativeWeb, FallsBackToTheSupportFolders) {
     list([&](ZrDbLight& light) {
+        light.setLightType(DrawableType::kWebLight);
         light.setWebFile(L"lamp.ies");
         std::filesystem::remove(fileIn("working"));
         put("pp_LLIA001477-003.ies", "support");
@@ -215,6 +222,7 @@ TEST_F(ListOfALight, ShowsBothFluxesAfterTheFileChanged) {
     std::filesystem::copy_file(webs / "gc_sterilray.ies", file);
 
     list([&](ZrDbLight& light) {
+        light.setLightType(DrawableType::kWebLight);
         light.setWebFile(textOf(file));
         std::filesystem::copy_file(webs / "gc_nukit_torch.ies", file,
                                    std::filesystem::copy_options::overwrite_existing);
@@ -224,13 +232,19 @@ TEST_F(ListOfALight, ShowsBothFluxesAfterTheFileChanged) {
 }
 
 TEST_F(ListOfALight, ShowsTheNoticesOfTheReaderAboutTheWeb) {
-    list([](ZrDbLight& light) { light.setWebFile(textOf(webs / "own" / "made_missing_360.ies")); });
+    list([](ZrDbLight& light) {
+        light.setLightType(DrawableType::kWebLight);
+        light.setWebFile(textOf(webs / "own" / "made_missing_360.ies"));
+    });
 
     EXPECT_TRUE(host.front().shows(L"the plane that closes the circle is missing"));
 }
 
 TEST_F(ListOfALight, ShowsTheOnlyPlaneOfAWeb) {
-    list([](ZrDbLight& light) { light.setWebFile(textOf(webs / "dl_point_opening.ies")); });
+    list([](ZrDbLight& light) {
+        light.setLightType(DrawableType::kWebLight);
+        light.setWebFile(textOf(webs / "dl_point_opening.ies"));
+    });
 
     EXPECT_TRUE(host.front().shows(L"vertical 0 to 90, horizontal 0 degrees"));
 }

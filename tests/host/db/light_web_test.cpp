@@ -19,6 +19,8 @@ using testing::HasSubstr;
 ZrString fileOf(const char* name) { return textOf(std::filesystem::path(QUOR_TEST_DATA) / "ies" / name); }
 
 struct LightWeb : testing::Test {
+    LightWeb() { light.setLightType(DrawableType::kWebLight); }
+
     ZrDbLight light;
     ZrString reason;
 };
@@ -40,6 +42,7 @@ struct LightWebSymmetry : testing::TestWithParam<SymmetryOfAFile> {};
 
 TEST_P(LightWebSymmetry, IsThatOfTheFile) {
     ZrDbLight light;
+    light.setLightType(DrawableType::kWebLight);
     light.setWebFile(fileOf(GetParam().file));
     EXPECT_EQ(light.webSymmetry(), GetParam().symmetry);
 }
@@ -71,6 +74,20 @@ TEST_F(LightWeb, AMalformedFileIsRefusedWithTheLineAndTheOldWebStays) {
     EXPECT_THAT(reason, HasSubstr(L"第 16 行"));
     EXPECT_EQ(light.webFile(), fileOf("dl_point_opening.ies"));
     EXPECT_NEAR(light.webFlux(), 906.6, 0.05);
+}
+
+TEST_F(LightWeb, IsForWebLightsOnly) {
+    light.setLightType(DrawableType::kSpotLight);
+
+    EXPECT_EQ(light.setWebFile(fileOf("dl_point_opening.ies"), &reason), Quor::eNotApplicable);
+
+    EXPECT_FALSE(reason.empty());
+    EXPECT_TRUE(light.webFile().empty());
+}
+
+TEST_F(LightWeb, ANameThatADrawingCannotKeepIsRefused) {
+    EXPECT_EQ(light.setWebFile(L"/lamps/two\nlines.ies", &reason), Quor::eInvalidInput);
+    EXPECT_FALSE(reason.empty());
 }
 
 TEST_F(LightWeb, NobodyHasToAskForTheReason) { EXPECT_EQ(light.setWebFile(L"/no/such/lamp.ies"), Quor::eFileNotFound); }
@@ -114,7 +131,10 @@ TEST(LightWebInTheDrawing, FileAndFluxStandInTheirTagsAndComeBack) {
     const std::string before = bytesOf(*database);
     const ZrString file = fileOf("gc_sterilray.ies");
 
-    change(lightOf(*database), [&](ZrDbLight& light) { light.setWebFile(file); });
+    change(lightOf(*database), [&](ZrDbLight& light) {
+        light.setLightType(DrawableType::kWebLight);
+        light.setWebFile(file);
+    });
     const std::string after = bytesOf(*database);
 
     EXPECT_THAT(difference(before, after).come, Contains("300|" + toUtf8(file)));
@@ -128,7 +148,10 @@ TEST(LightWebInTheDrawing, FileAndFluxStandInTheirTagsAndComeBack) {
 
 TEST(LightWebInTheDrawing, AFileThatIsNotOnThisMachineIsKeptAsItIs) {
     const auto database = opened("own/light_2018.dxf");
-    change(lightOf(*database), [](ZrDbLight& light) { light.setWebFile(fileOf("gc_sterilray.ies")); });
+    change(lightOf(*database), [](ZrDbLight& light) {
+        light.setLightType(DrawableType::kWebLight);
+        light.setWebFile(fileOf("gc_sterilray.ies"));
+    });
     std::string bytes = bytesOf(*database);
     const std::string path = toUtf8(fileOf("gc_sterilray.ies"));
     bytes.replace(bytes.find(path), path.size(), "C:\\lamps\\gone.ies");
