@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <tuple>
 
 #include <iconv.h>
 
@@ -105,8 +106,9 @@ void CodePage::buildSingleBytes() {
         if (high_[i] != 0)
             singles_.push_back({high_[i], byte});
     }
-    std::stable_sort(singles_.begin(), singles_.end(),
-                     [](const SingleByte& a, const SingleByte& b) { return a.character < b.character; });
+    std::sort(singles_.begin(), singles_.end(), [](const SingleByte& a, const SingleByte& b) {
+        return std::tie(a.character, a.byte) < std::tie(b.character, b.byte);
+    });
 }
 
 // 0 when the bytes are not exactly one character above 127.
