@@ -49,7 +49,8 @@ public:
     // Empty unless hasColorName().
     [[nodiscard]] ZrString bookName() const;
     [[nodiscard]] ZrString colorName() const;
-    // What a person sees: "ByLayer", "ByBlock", the local name of 1 to 7, another number, "r,g,b", "book$colour" or a name alone.
+    // What a person sees: "ByLayer", "ByBlock", the local name of 1 to 7, another number, "r,g,b", "book$colour" or a
+    // name alone.
     [[nodiscard]] ZrString colorNameForDisplay() const;
 
     // The colour as one 32-bit word of a drawing file: method in the top byte (0xC0 by layer, 0xC1 by block,
