@@ -38,7 +38,7 @@ std::string repeated(const std::string& text, std::size_t times) {
     return result;
 }
 
-constexpr std::size_t kLittle = 64 * 1024;
+constexpr std::size_t kLittle = std::size_t{64} * 1024;
 
 TEST(Memory, IsInProportionToTheNumbersThatAreThereNotToTheCounts) {
     const std::string text =
