@@ -42,6 +42,7 @@ ZrString whyNotRead(int systemError) {
 struct HostBooks {
     std::vector<fs::path> folders;
     std::optional<ColorBooks> books; // nothing: not asked for yet
+    bool isReported = false;         // what is wrong with them
 };
 
 HostBooks& hostBooks() {
@@ -89,7 +90,7 @@ std::optional<ColorBook> parseColorBook(std::string_view utf8, ColorBookError& e
         utf8.remove_prefix(byteOrderMark.size());
     BookParser parser;
     for (std::size_t number = 1; !utf8.empty(); ++number) {
-        const std::string_view line = utf8.substr(0, utf8.find('\n'));
+        const std::string_view line = utf8.substr(0, utf8.find_first_of("\r\n"));
         std::optional<ZrString> complaint =
             isValidUtf8(line) ? parser.take(fromUtf8(line), number) : fill(texts::colorBookNotUtf8);
         if (complaint) {
@@ -97,7 +98,8 @@ std::optional<ColorBook> parseColorBook(std::string_view utf8, ColorBookError& e
             error.reason = std::move(*complaint);
             return std::nullopt;
         }
-        utf8.remove_prefix(std::min(line.size() + 1, utf8.size()));
+        utf8.remove_prefix(line.size());
+        utf8.remove_prefix(utf8.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, utf8.size()));
     }
     return parser.finish(error);
 }
@@ -138,15 +140,25 @@ const ColorBook* ColorBooks::find(std::wstring_view bookName) const {
 const ColorBooks& colorBooks() {
     HostBooks& host = hostBooks();
     if (!host.books)
-        for (const ColorBookError& error : rereadColorBooks().errors())
-            reportProblem(error.message());
+        (void)rereadColorBooks();
+    if (!host.isReported)
+        reportColorBookErrors();
     return *host.books;
 }
 
 const ColorBooks& rereadColorBooks() {
     HostBooks& host = hostBooks();
     host.books = ColorBooks::load(host.folders);
+    host.isReported = false;
     return *host.books;
+}
+
+void reportColorBookErrors() {
+    HostBooks& host = hostBooks();
+    host.isReported = true;
+    if (host.books)
+        for (const ColorBookError& error : host.books->errors())
+            reportProblem(error.message());
 }
 
 void setColorBookFolders(std::vector<fs::path> folders) {

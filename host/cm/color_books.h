@@ -82,8 +82,11 @@ private:
 
 // The books of the host, read at the first use; what is wrong with them is then reported (host/sys/problem_report.h).
 [[nodiscard]] const ColorBooks& colorBooks();
-// The same, read anew and without a report: the caller tells what is wrong. Books from before are gone.
+// The same, read anew; what is wrong is reported when they are asked for the next time, or at once by the caller. Books
+// from before are gone.
 [[nodiscard]] const ColorBooks& rereadColorBooks();
+// Reports what is wrong with the books that were read, now instead of later.
+void reportColorBookErrors();
 // Where they are read from, from now on; the books of an earlier folder come first. None unless set.
 void setColorBookFolders(std::vector<std::filesystem::path> folders);
 

@@ -2,7 +2,6 @@
 #include "host/cm/color_books.h"
 #include "host/commands/ask.h"
 #include "host/commands/commands.h"
-#include "host/sys/problem_report.h"
 #include "host/sys/text_width.h"
 #include "host/texts/color_books.h"
 
@@ -37,8 +36,7 @@ void listBooks(const ColorBooks& books) {
     for (const ColorBook& book : books.books())
         printText(L"\n  " + padRight(book.name(), names) + L"  " + padLeft(countText(book), counts) + L"  " +
                   visibleText(textOf(book.file())) + L"\n");
-    for (const cm::ColorBookError& error : books.errors())
-        reportProblem(error.message());
+    cm::reportColorBookErrors();
 }
 
 void listColors(const ColorBook& book) {
@@ -66,8 +64,10 @@ int colorBooks(Session&) {
         return RTNORM;
     }
     const ColorBook* const book = books.find(*name);
-    if (book == nullptr)
+    if (book == nullptr) {
+        cm::reportColorBookErrors(); // it may be one of those
         return failWith(texts::kNoSuchColorBook, shortened(*name));
+    }
     listColors(*book);
     return RTNORM;
 }

@@ -85,7 +85,11 @@ Quor::ErrorStatus ZrDbLight::setName(const ZrString& name) {
 DrawableType ZrDbLight::lightType() const { return data().type; }
 
 Quor::ErrorStatus ZrDbLight::setLightType(DrawableType type) {
-    return change(isKnown(type), &ZrDbLightData::type, type);
+    const bool losesWeb = type != DrawableType::kWebLight && lightType() == DrawableType::kWebLight;
+    if (const Quor::ErrorStatus status = change(isKnown(type), &ZrDbLightData::type, type);
+        status != Quor::eOk || !losesWeb)
+        return status;
+    return setWebFile(L"");
 }
 
 bool ZrDbLight::isOn() const { return data().on; }

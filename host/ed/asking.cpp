@@ -78,8 +78,8 @@ std::optional<Outcome> Asking::read(const Answer& answer) {
 }
 
 std::optional<Outcome> Asking::readText(const ZrString& typed) {
-    if (!isText(typed)) {
-        say(texts::kNotUtf8);
+    if (const Text* const problem = whyNoText(typed)) {
+        say(*problem);
         return std::nullopt;
     }
     if (ranTransparently(typed))

@@ -49,7 +49,7 @@ std::optional<Verdict> CommandProcessor::step() {
     case Answer::Kind::Point:
         return Verdict{};
     case Answer::Kind::Text:
-        return isText(answer.text) ? run(answer.text, byProgram) : refuseBytes(answer.text);
+        return whyNoText(answer.text) == nullptr ? run(answer.text, byProgram) : refuseBytes(answer.text);
     case Answer::Kind::Enter:
         break;
     }
@@ -61,7 +61,7 @@ std::optional<Verdict> CommandProcessor::step() {
 
 Verdict CommandProcessor::refuseBytes(const ZrString& typed) {
     session_.input().dropTypedAhead();
-    say(texts::kNotUtf8);
+    say(*whyNoText(typed));
     return {Verdict::Kind::Refused, RTREJ, shortened(typed)};
 }
 

@@ -7,6 +7,7 @@
 #include "host/sys/system_variables.h"
 #include "host/sys/utf8.h"
 
+#include <algorithm>
 #include <system_error>
 #include <utility>
 
@@ -100,7 +101,11 @@ std::optional<fs::path> findKeptFile(Session& session, const ZrString& kept) {
     const Found whole = search(session, kept);
     if (whole.file && thingAt(*whole.file) != Thing::None)
         return whole.file;
-    const ZrString name = kept.substr(kept.find_last_of(L"/\\") + 1);
+    ZrString slashed = kept;
+    std::replace(slashed.begin(), slashed.end(), L'\\', L'/');
+    if (const Found found = search(session, slashed); found.file && thingAt(*found.file) != Thing::None)
+        return found.file;
+    const ZrString name = slashed.substr(slashed.rfind(L'/') + 1);
     if (const Found byName = search(session, name); byName.file)
         return byName.file;
     return whole.other;

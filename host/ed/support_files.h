@@ -28,7 +28,8 @@ namespace quor::ed {
 
 // What a path that a drawing keeps stands for on this machine: an absolute path for itself while something is there,
 // any other one for what findSupportName finds. Then for the first file of its last name alone, because the drawing may
-// have come from elsewhere; backslashes separate names in it, too. Nothing when none of these is there.
+// have come from elsewhere. Backslashes separate names, too, where nothing has them in its name. Nothing when none of
+// these is there.
 [[nodiscard]] std::optional<std::filesystem::path> findKeptFile(Session& session, const ZrString& kept);
 
 } // namespace quor::ed

@@ -19,8 +19,6 @@ bool isBlank(char c) {
 
 char capital(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
-bool isAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
-
 std::wstring fromLatin1(std::string_view bytes) {
     std::wstring text(bytes.size(), L' ');
     std::transform(bytes.begin(), bytes.end(), text.begin(),
@@ -28,20 +26,28 @@ std::wstring fromLatin1(std::string_view bytes) {
     return text;
 }
 
+// The rows of the everyday characters. Two accented letters of Latin-1 that stand side by side, as in "Größe", are in
+// none of them.
+bool isEverydayHanzi(std::string_view pair) {
+    const auto first = static_cast<unsigned char>(pair[0]);
+    const auto second = static_cast<unsigned char>(pair[1]);
+    return first >= 0xB0 && first <= 0xD7 && second >= 0xA1 && second <= 0xFE;
+}
+
 std::optional<std::wstring> fromGbk(std::string_view bytes) {
     static const CodePage page(*findCodePage("ANSI_936"));
     std::wstring text;
-    std::size_t common = 0;
+    std::size_t everyday = 0;
     std::size_t rare = 0;
     for (std::size_t at = 0; at < bytes.size();) {
-        const bool isPair = !isAscii(bytes[at]);
+        const std::size_t begin = at;
         text += page.next(bytes, at);
         if (isEscapedByte(text.back()))
             return std::nullopt;
-        if (isPair)
-            ++(isAscii(bytes[at - 1]) ? rare : common);
+        if (at - begin == 2)
+            ++(isEverydayHanzi(bytes.substr(begin, 2)) ? everyday : rare);
     }
-    return common > rare ? std::optional(std::move(text)) : std::nullopt;
+    return everyday > 0 && everyday >= rare ? std::optional(std::move(text)) : std::nullopt;
 }
 
 } // namespace

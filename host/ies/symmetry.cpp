@@ -45,7 +45,8 @@ Symmetry symmetryOf(const PhotometricWeb& web) {
 
 bool lacksLastPlane(const PhotometricWeb& web) {
     const std::vector<double>& planes = web.horizontal;
-    if (web.photometry != Photometry::C || symmetryOf(web) != Symmetry::None)
+    constexpr std::size_t kFewest = 3; // two planes say nothing of a step around the circle
+    if (web.photometry != Photometry::C || symmetryOf(web) != Symmetry::None || planes.size() < kFewest)
         return false;
     double widest = 0;
     double narrowest = kCircle;

@@ -13,7 +13,7 @@ Result<OpenFile, int> openFile(const std::filesystem::path& path, FileKinds kind
     const int waiting = kinds == FileKinds::Regular ? O_NONBLOCK : 0;
     OpenFile file{Descriptor(::open(path.c_str(), kFlags | waiting))};
     if (!file.descriptor.isOpen() || ::fstat(file.descriptor.get(), &file.status) != 0)
-        return fail(int{errno});
+        return fail(errno == ENXIO ? ENODEV : int{errno}); // a socket, a device that is not there
     if (S_ISDIR(file.status.st_mode))
         return fail(EISDIR);
     if (kinds == FileKinds::Regular && !S_ISREG(file.status.st_mode))

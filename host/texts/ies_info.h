@@ -69,7 +69,7 @@ inline constexpr Text kWebWarnings[] = {
      L"line %d: the plane that closes the circle is missing; the first one is used again"},
     {L"第 %d 行：数据之后还有文字，已忽略", L"line %d: the text after the data is ignored"},
     {L"第 %d 行：多出的数值有 %d 个；角度数目可能有误，或以逗号作小数点",
-     L"line %d: numbers too many: %d; the counts of angles may be wrong, or commas used as decimal points"},
+     L"line %d: %d numbers too many; the counts of angles may be wrong, or commas used as decimal points"},
     {L"第 %d 行：水平角没有覆盖所有方向，其余方向没有光",
      L"line %d: the horizontal angles leave out directions; there is no light in them"},
     {L"第 %d 行：唯一的平面不在 0°，仍用于所有方向",

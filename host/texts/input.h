@@ -22,6 +22,8 @@ inline constexpr Text kUnexpectedError{L"未知异常", L"unknown exception"};
 inline constexpr Text kBadKeyword{L"\n选项关键字无效。\n", L"\nInvalid option keyword.\n"};
 inline constexpr Text kNeedKeyword{L"\n需要选项关键字。\n", L"\nAn option keyword is required.\n"};
 inline constexpr Text kNeedText{L"\n需要输入文字。\n", L"\nA text is required.\n"};
+inline constexpr Text kZeroByte{L"\n输入的内容含有零字节，不是文字。请重新输入。\n",
+                                L"\nThis holds a zero byte, which no text does. Type it again.\n"};
 inline constexpr Text kNotUtf8{L"\n输入的内容不是有效的 UTF-8 文字。请检查终端或管道的编码后重新输入。\n",
                                L"\nThis is not valid UTF-8 text. Check the encoding of the terminal or pipe.\n"};
 inline constexpr Text kNeedInteger{L"\n需要整数。\n", L"\nRequires a whole number.\n"};

@@ -59,7 +59,7 @@ std::optional<ZrString> askBook() {
 
 // Enter at the colour leaves, whatever was chosen before.
 bool promptColorBook(ZrCmColor& color) {
-    if (color.hasColorName())
+    if (!color.bookName().empty())
         remember(color);
     const std::optional<ZrString> book = askBook();
     if (!book)

@@ -59,7 +59,7 @@ public:
     [[nodiscard]] const ZrString& name() const;
     Quor::ErrorStatus setName(const ZrString& name);
 
-    // 1 distant, 2 point, 3 spot, 10 web.
+    // 1 distant, 2 point, 3 spot, 10 web. A web light that becomes another one loses its web.
     [[nodiscard]] DrawableType lightType() const;
     Quor::ErrorStatus setLightType(DrawableType type);
     Quor::ErrorStatus setLightType(int type) { return setLightType(static_cast<DrawableType>(type)); }

@@ -52,6 +52,16 @@ TEST(ColorBookText, HoldsNamesBlanksCommentsAndBothLineEnds) {
     EXPECT_EQ(book->find(L"deep"), nullptr);
 }
 
+TEST(ColorBookText, MayEndItsLinesWithACarriageReturnAlone) {
+    ColorBookError error;
+    const auto book = parseColorBook("book = \"Inks\"\r# c\r\rred = 255,0,0\rblue = 0,0,255\r", error);
+    ASSERT_TRUE(book);
+    EXPECT_EQ(book->colors().size(), 2U);
+
+    EXPECT_FALSE(parseColorBook("book = \"Inks\"\r\rred = blue\r", error));
+    EXPECT_EQ(error.line, 3U);
+}
+
 struct Broken {
     const char* text;
     std::size_t line;

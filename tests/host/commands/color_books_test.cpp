@@ -74,6 +74,25 @@ TEST_F(ColorBooksCommand, ListsBrokenBooksWithTheirReasonsAtTheEnd) {
     EXPECT_EQ(result_, RTNORM);
 }
 
+TEST_F(ColorBooksCommand, TellsWhatIsWrongWithABookThatIsAskedForByItsName) {
+    write("1.book", "book = \"Inks\"\nred = blue\n");
+
+    const ZrString answer = answerTo({L"COLORBOOKS", L"Inks"});
+
+    EXPECT_NE(answer.find(path("1.book") + L", line 2"), ZrString::npos);
+    EXPECT_NE(answer.find(L"There is no colour book \"Inks\"."), ZrString::npos);
+}
+
+TEST_F(ColorBooksCommand, LeavesWhatIsWrongToTheNextWhoAsksWhereTheBookIsFound) {
+    write("1.book", "none");
+    write("2.book", "book = \"Inks\"\na = 1,2,3\n");
+
+    EXPECT_EQ(answerTo({L"COLORBOOKS", L"Inks"}), L"Inks  1 colour\n  a    1,  2,  3\n");
+    EXPECT_FALSE(host_.front().shows(path("1.book")));
+    (void)cm::colorBooks();
+    EXPECT_TRUE(host_.front().shows(path("1.book")));
+}
+
 TEST_F(ColorBooksCommand, FindsABookThatWasAddedMeanwhile) {
     std::vector<ZrString> names;
     std::vector<ZrString> displayNames;

@@ -134,7 +134,7 @@ TEST_F(IesInfo, TellsThatTheCountsMayBeTooSmall) {
 
     host.run({L"IESINFO", textOf(host.folder() / "a.ies")});
 
-    EXPECT_TRUE(host.front().shows(L"line 6: numbers too many: 2; the counts of angles may be wrong"));
+    EXPECT_TRUE(host.front().shows(L"line 6: 2 numbers too many; the counts of angles may be wrong"));
 }
 
 TEST_F(IesInfo, TellsByWhichRulesAFileOfAnUnknownEditionWasRead) {

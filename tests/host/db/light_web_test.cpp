@@ -85,6 +85,15 @@ TEST_F(LightWeb, IsForWebLightsOnly) {
     EXPECT_TRUE(light.webFile().empty());
 }
 
+TEST_F(LightWeb, GoesWhenTheLightBecomesAnotherOne) {
+    light.setWebFile(fileOf("dl_point_opening.ies"));
+
+    EXPECT_EQ(light.setLightType(DrawableType::kPointLight), Quor::eOk);
+
+    EXPECT_TRUE(light.webFile().empty());
+    EXPECT_EQ(light.webFlux(), 0);
+}
+
 TEST_F(LightWeb, ANameThatADrawingCannotKeepIsRefused) {
     EXPECT_EQ(light.setWebFile(L"/lamps/two\nlines.ies", &reason), Quor::eInvalidInput);
     EXPECT_FALSE(reason.empty());

@@ -294,6 +294,7 @@ TEST_F(Processor, AZeroByteIsNoTextEither) {
     test_.run({ZrString(L"ASK"), ZrString(L"5\0", 2), ZrString(L"6"), ZrString(L"OK\0", 3)});
     EXPECT_EQ(number_, 6);
     EXPECT_EQ(runs_, 0);
+    EXPECT_TRUE(test_.front().shows(L"输入的内容含有零字节"));
 }
 
 TEST_F(Processor, LongUnknownCommandIsShownShortened) {

@@ -246,6 +246,13 @@ TEST_F(FindFile, AKeptPathWithBackslashesIsLookedForByItsLastName) {
     EXPECT_EQ(ed::findKeptFile(session_, L"C:\\lamps\\"), std::nullopt);
 }
 
+TEST_F(FindFile, AKeptRelativePathWithBackslashesIsFoundInItsFolder) {
+    make("working/a.ies");
+    const fs::path file = make("working/lamps/a.ies");
+
+    EXPECT_EQ(ed::findKeptFile(session_, L"lamps\\a.ies"), file);
+}
+
 TEST_F(FindFile, AKeptNameOfAFolderOnlyIsAnsweredSoThatReadingItTellsWhatIsWrong) {
     fs::create_directories(root() / "working" / "a.ies");
 

@@ -119,7 +119,7 @@ TEST(Label, TextThatIsNoUtf8IsReadAsGbk) {
 }
 
 TEST(Label, TextInGbkMayHaveCharactersWithAByteOfAscii) {
-    EXPECT_EQ(sound({.label = "IESNA91\n[OTHER] \xD6\xEC\xE9\x46\xBB\xF9\n"}).keywords.at(0).text, L"朱镕基");
+    EXPECT_EQ(sound({.label = "IESNA91\n[OTHER] \xB5\xC6\xBE\xDF\xE9\x46\n"}).keywords.at(0).text, L"灯具镕");
 }
 
 // Most pairs of such bytes are characters of GBK, which nobody meant.
@@ -130,6 +130,16 @@ TEST(Label, TextInLatin1WithLettersBehindItsSignsIsNoGbk) {
                   .keywords.at(0)
                   .text,
               L"25°C über");
+}
+
+// Two accented letters side by side make a pair of GBK, though none of those that people write every day.
+TEST(Label, TextInLatin1WithTwoLettersSideBySideIsNoGbk) {
+    EXPECT_EQ(sound({.label = "IESNA91\n[LUMINAIRE] Leuchte Gr\xF6\xDF"
+                              "e 3\n"})
+                  .keywords.at(0)
+                  .text,
+              L"Leuchte Größe 3");
+    EXPECT_EQ(sound({.label = "IESNA91\n[MANUFAC] Cora\xE7\xE3o\n"}).keywords.at(0).text, L"Coração");
 }
 
 TEST(Label, TextThatIsNeitherIsReadAsLatin1) {

@@ -77,6 +77,7 @@ TEST(Symmetry, CircleThatLacksItsLastPlaneIsKnown) {
     EXPECT_FALSE(lacksLastPlane(ofPlanes({22.5, 112.5, 202.5, 290})));
     EXPECT_FALSE(lacksLastPlane(ofPlanes({90, 180, 270})));
     EXPECT_FALSE(lacksLastPlane(ofPlanes({45})));
+    EXPECT_FALSE(lacksLastPlane(ofPlanes({0, 200}))) << "two planes tell no step";
     EXPECT_FALSE(lacksLastPlane(made(Photometry::B, {-90, 90}, {-90, -45, 0, 45}, label)));
 }
 

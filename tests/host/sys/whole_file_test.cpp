@@ -7,7 +7,9 @@
 #include <thread>
 
 #include <fcntl.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 
 #include <gtest/gtest.h>
 
@@ -15,6 +17,20 @@ namespace quor {
 namespace {
 
 constexpr std::size_t kPlenty = 1U << 20;
+
+// A socket in the file system, there as long as the object.
+class Socket {
+public:
+    [[nodiscard]] std::filesystem::path bind(const std::filesystem::path& path) const {
+        sockaddr_un address{AF_UNIX, {}};
+        path.native().copy(address.sun_path, sizeof address.sun_path - 1);
+        EXPECT_EQ(::bind(socket_.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+        return path;
+    }
+
+private:
+    Descriptor socket_{::socket(AF_UNIX, SOCK_STREAM, 0)};
+};
 
 class WholeFile : public testing::Test {
 protected:
@@ -27,6 +43,7 @@ protected:
         return file_;
     }
 
+    Socket socket_;
     test::TemporaryFolder folder_;
     std::filesystem::path file_ = folder_.path() / "file";
 };
@@ -77,6 +94,7 @@ TEST_F(WholeFile, ThatFailsWhileItIsReadIsAnError) {
 TEST_F(WholeFile, ThatIsAPipeOrADeviceIsRefusedWithoutWaiting) {
     EXPECT_EQ(readWholeFile(makePipe(), kPlenty).error(), ENODEV);
     EXPECT_EQ(readWholeFile("/dev/zero", kPlenty).error(), ENODEV);
+    EXPECT_EQ(readWholeFile(socket_.bind(folder_.path() / "socket"), kPlenty).error(), ENODEV);
 }
 
 TEST_F(WholeFile, ThatIsAPipeIsReadToItsEndWhereAllKindsAreWanted) {
