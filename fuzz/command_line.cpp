@@ -26,7 +26,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!session.loadLight(QUOR_BUILD_DIR))
         std::abort();
     keepModuleMapped();
-    for (const wchar_t* name : {L"SAVE", L"SAVEAS", L"OPEN", L"RECOVER", L"SCRIPT", L"LOADMODULE", L"SETVAR"})
+    for (const wchar_t* name :
+         {L"SAVE", L"SAVEAS", L"OPEN", L"RECOVER", L"SCRIPT", L"LOADMODULE", L"SETVAR", L"IESINFO"})
         (void)session.session().commands().remove(L"QUOR", name);
 
     std::string_view rest(reinterpret_cast<const char*>(data), size);

@@ -71,9 +71,8 @@ int CZrMultiLight::promptLampColor() {
     const LoadedText keywords(texts.lampColorKeywords);
     End end;
     while (!end) {
-        zredInitGet(RSG_OTHER, keywords.c_str());
         ZrString reply;
-        const int result = quor::light::askKeyword(prompt.c_str(), reply);
+        const int result = quor::light::askKeywordOrText(prompt.c_str(), keywords.c_str(), reply);
         if (result != RTNORM)
             end = result;
         else if (equalFolded(reply, L"Kelvin"))

@@ -7,7 +7,7 @@
 #include "sdk/sys/case_fold.h"
 
 using quor::equalFolded;
-using quor::light::askKeyword;
+using quor::light::askKeywordOrText;
 using quor::light::askReal;
 using quor::light::decimalUnits;
 using quor::light::LoadedText;
@@ -81,9 +81,8 @@ int CZrMultiLight::promptPhotometricIntensity() {
         texts.candelaPrompt, convertPhotometricIntensity(static_cast<int>(PhysicalIntensityMethod::kPeakIntensity)));
     const LoadedText keywords(texts.candelaKeywords);
     for (;;) {
-        zredInitGet(RSG_OTHER, keywords.c_str());
         ZrString reply;
-        const int result = askKeyword(prompt.c_str(), reply);
+        const int result = askKeywordOrText(prompt.c_str(), keywords.c_str(), reply);
         if (result != RTNORM)
             return result;
         if (equalFolded(reply, L"Flux"))
@@ -117,9 +116,8 @@ int CZrMultiLight::promptIlluminance() {
     const ZrString prompt = illuminancePrompt(photometricIntensityOf(*m_pLight));
     const LoadedText keywords(texts.illuminanceKeywords);
     for (;;) {
-        zredInitGet(RSG_OTHER, keywords.c_str());
         ZrString reply;
-        const int result = askKeyword(prompt.c_str(), reply);
+        const int result = askKeywordOrText(prompt.c_str(), keywords.c_str(), reply);
         if (result != RTNORM)
             return result;
         constexpr auto illuminance = PhysicalIntensityMethod::kIlluminance;

@@ -22,6 +22,12 @@ inline constexpr int replyTooLong = -5008;
     return checkReplyLength(result, reply);
 }
 
+// A question for one of some keywords that takes any other text too, as it was typed.
+[[nodiscard]] inline int askKeywordOrText(const wchar_t* prompt, const wchar_t* keywords, ZrString& reply) {
+    zredInitGet(RSG_OTHER, keywords);
+    return askKeyword(prompt, reply);
+}
+
 // A question whose answer is a text with blanks in it.
 [[nodiscard]] inline int askLine(const wchar_t* prompt, ZrString& reply) {
     const int result = zredGetString(1, prompt, reply);

@@ -188,6 +188,17 @@ TEST_F(ColorPromptsTest, TheBookOfTheGivenColourIsRememberedAtOnce) {
     EXPECT_EQ(light::s_lastBookColor, L"ink");
 }
 
+TEST_F(ColorPromptsTest, AGivenColourThatIsOfNoBookLeavesTheRememberedOne) {
+    light::s_lastColorBook = L"Neutral Greys";
+    ZrCmColor color = ZrCmColor::fromRGB(1, 2, 3);
+    ASSERT_EQ(color.setNames(L"ink", L""), Quor::eOk);
+    front().type({L"^C"});
+
+    EXPECT_FALSE(light::promptColorBook(color));
+
+    EXPECT_EQ(light::s_lastColorBook, L"Neutral Greys");
+}
+
 TEST_F(ColorPromptsTest, EnterTakesTheBookOfTheGivenColour) {
     ZrCmColor color = ZrCmColor::fromRGB(1, 2, 3);
     ASSERT_EQ(color.setNames(L"Grey 5", L"Neutral Greys"), Quor::eOk);
@@ -213,6 +224,7 @@ TEST_F(ColorPromptsTest, NamesOf131CharactersAreFoundAndLongerOnesAreCut) {
     writeBook("book = \"" + std::string(131, 'b') + "\"\n" + std::string(131, 'c') + " = 1,2,3\n");
 
     EXPECT_EQ(askBook({book, color}), Quor::eOk);
+    EXPECT_EQ(askBook({book + L"bb", color + L"x"}), Quor::eOk);
     EXPECT_EQ(shown(), book + L"$" + color);
     color_ = ZrCmColor::fromIndex(1);
     EXPECT_EQ(askBook({book + L"x", color + L"x"}), Quor::eOk);
