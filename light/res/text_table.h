@@ -213,6 +213,13 @@ struct TextTable {
     Text targetPointCommand{63324, words, L"TargetPoint"};
     Text lightCommand{63325, words, L"Light"};
     Text pointLightHelp{64001, lib, L"放置一个点光源，它向四面八方发光。\n先问位置(Enter 为 0,0,0)，再问要更改的选项，直到按 Enter 或 X；Esc 放弃这个光源。\n名称(N): 最多 255 个字符，不与其他光源重名。强度(I): 亮度的倍数，0 到 1000000。状态(S): 开或关。\n光度(P): 光强(Cd)、光通量(Lm)或照度(Lx、FC)，灯的预设颜色或色温。\n阴影(W): 关、锐化、已映射柔和、已采样柔和。衰减(A): 类型，起始和结束界限。\n颜色(C): R,G,B，或索引颜色、HSL、配色系统。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: POINTLIGHT 0,0,3000 I 0.8 X"};
+    Text spotLightHelp{64002, lib, L"放置一个聚光灯，它从源位置照向目标。\n先问源位置(Enter 为 0,0,0)，再问目标(Enter 为 UCS 中向下 10 个单位，不能与源位置相同)，\n然后问要更改的选项，直到按 Enter 或 X；Esc 放弃这个光源。\n聚光角(H)、照射角(F): 最亮光锥和整个光锥的角度，0 到 160 度，聚光角不大于照射角。\n其余选项与 POINTLIGHT 相同；要照向正下方而不指定目标，请用 FREESPOT。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: SPOTLIGHT 0,0,3000 0,0,0 F 60 H 40 X"};
+    Text targetPointHelp{64003, lib, L"放置一个目标点光源: 带目标的点光源，向四面八方发光，目标可用来移动和对准它。\n先问源位置(Enter 为 0,0,0)，再问目标(Enter 为 UCS 中向下 10 个单位)，\n然后问要更改的选项，直到按 Enter 或 X；Esc 放弃这个光源。\n选项与 POINTLIGHT 相同。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: TARGETPOINT 0,0,3000 0,0,0 I 0.8 X"};
+    Text webLightHelp{64004, lib, L"放置一个光域灯光，它的配光来自光域网文件(.ies)，并照向目标。\n先问源位置(Enter 为 0,0,0)，再问目标(Enter 为 UCS 中向下 10 个单位)，\n然后问要更改的选项，直到按 Enter 或 X；Esc 放弃这个光源。\n光域网(B): 文件(F) 给出文件名，~ 打开文件对话框；X、Y、Z 是光域网绕各轴的旋转角度。\n其余选项与 POINTLIGHT 相同，但没有衰减。IESINFO 说明光域网文件的内容。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: WEBLIGHT 0,0,3000 0,0,0 B F downlight.ies E X"};
+    Text freeSpotHelp{64005, lib, L"放置一个自由聚光灯: 没有目标的聚光灯，沿当前 UCS 的 Z 轴向下照射。\n只问源位置(Enter 为 0,0,0)，然后问要更改的选项，直到按 Enter 或 X；Esc 放弃这个光源。\n聚光角(H)、照射角(F): 最亮光锥和整个光锥的角度，0 到 160 度；\n照射角不大于聚光角时，聚光角改为照射角减 1 度。\n其余选项与 POINTLIGHT 相同。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: FREESPOT 0,0,3000 F 60 H 40 X"};
+    Text freeWebHelp{64006, lib, L"放置一个自由光域灯光: 没有目标，配光来自光域网文件(.ies)，沿当前 UCS 的 Z 轴向下照射。\n只问源位置(Enter 为 0,0,0)，然后问要更改的选项，直到按 Enter 或 X；Esc 放弃这个光源。\n选项与 WEBLIGHT 相同。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: FREEWEB 0,0,3000 B F downlight.ies E X"};
+    Text distantLightHelp{64007, lib, L"放置一个平行光，例如阳光: 只有方向，亮度不随距离减弱。\n先问光源来向(Enter 为 0,0,0)和光源去向(Enter 为 1,1,1)，或用 矢量(V) 给出方向，例如 0,-0.5,-1；\n然后问要更改的选项，直到按 Enter 或 X；Esc 放弃这个光源。\n光度控制单位下平行光可能过度曝光，所以先问是否允许；脚本中不问。\n选项与 POINTLIGHT 相同，但没有衰减，光度(P) 只用 Cd。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: DISTANTLIGHT 0,0,10 0,0,0 I 0.5 X"};
+    Text lightHelp{64008, lib, L"问光源的类型，然后与该类型自己的命令一样放置光源。\n点光源(P): POINTLIGHT。聚光灯(S): SPOTLIGHT。光域网(W): WEBLIGHT。目标点光源(T): TARGETPOINT。\n自由聚光灯(F): FREESPOT。自由光域(B): FREEWEB。平行光(D): DISTANTLIGHT。\nEnter 取上一次的类型；第一次为自由聚光灯。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: LIGHT P 0,0,3000 X"};
     // clang-format on
 };
 
