@@ -1,28 +1,9 @@
-// A light's photometric intensity in each of its three measures: peak intensity in candela, luminous flux in lumen,
-// illuminance at a distance in foot-candle or lux.
+// What the prompts do with a photometric intensity beyond its conversion: what they show, and what they accept.
 #pragma once
 
-#include "sdk/db/light.h"
+#include "sdk/gi/photometric_intensity.h"
 
 namespace quor::light {
-
-// Values of LIGHTINGUNITS with a unit of illuminance: a lumen on a square foot, a lumen on a square metre.
-inline constexpr int footCandles = 1;
-inline constexpr int lux = 2;
-
-// A light's intensity, and what its measures depend on.
-struct PhotometricIntensity {
-    double value = 0; // in the unit of the method
-    PhysicalIntensityMethod method = PhysicalIntensityMethod::kPeakIntensity;
-    double distance = 1; // at which the illuminance is measured, in drawing units
-    bool isSpot = false;
-    int lightingUnits = lux;       // LIGHTINGUNITS
-    double unitsPerMillimetre = 1; // drawing units
-};
-
-// The intensity in the unit of another method. No finite number where it has none: there is no illuminance at distance
-// 0.
-[[nodiscard]] double convertIntensity(const PhotometricIntensity& intensity, PhysicalIntensityMethod target);
 
 // The illuminance that its question shows. In foot-candle the distance counts as millimetres whatever the drawing's
 // unit is; so it is not what convertIntensity() answers, except in a drawing in millimetres.

@@ -7,11 +7,12 @@
 #include "sdk/sys/case_fold.h"
 
 using quor::equalFolded;
+using quor::PhotometricIntensity;
 using quor::light::askKeywordOrText;
 using quor::light::askReal;
 using quor::light::decimalUnits;
 using quor::light::LoadedText;
-using quor::light::PhotometricIntensity;
+using quor::light::shownIlluminance;
 using quor::light::texts;
 using quor::light::withNumber;
 
@@ -48,9 +49,9 @@ PhotometricIntensity photometricIntensityOf(const ZrDbLight& light) {
 // illuminance: 0 is shown.
 ZrString illuminancePrompt(const PhotometricIntensity& intensity) {
     switch (intensity.lightingUnits) {
-    case quor::light::footCandles:
+    case quor::footCandles:
         return withNumber(texts.illuminancePromptFootCandle, shownIlluminance(intensity));
-    case quor::light::lux:
+    case quor::lux:
         return withNumber(texts.illuminancePromptLux, shownIlluminance(intensity));
     default:
         return {};
@@ -69,8 +70,7 @@ void askIlluminanceDistance(ZrDbLight& light) {
 double CZrMultiLight::convertPhotometricIntensity(int target) const {
     if (m_pLight == nullptr)
         return 0;
-    return quor::light::convertIntensity(photometricIntensityOf(*m_pLight),
-                                         static_cast<PhysicalIntensityMethod>(target));
+    return quor::convertIntensity(photometricIntensityOf(*m_pLight), static_cast<PhysicalIntensityMethod>(target));
 }
 
 // What is neither a number nor a keyword is asked again without a word.
