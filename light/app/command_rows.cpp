@@ -1,6 +1,13 @@
 #include "light/app/command_rows.h"
 
+#include "light/commands/distant_light.h"
+#include "light/commands/free_spot.h"
+#include "light/commands/free_web.h"
+#include "light/commands/light.h"
 #include "light/commands/point_light.h"
+#include "light/commands/spot_light.h"
+#include "light/commands/target_point.h"
+#include "light/commands/web_light.h"
 
 #include <new>
 
@@ -25,6 +32,13 @@ constexpr CommandRow row(const wchar_t* globalName, const Text& localName, const
 
 constexpr CommandRow rows[] = {
     row<CZrPointLightCmd>(L"POINTLIGHT", texts.pointLightCommand, texts.pointLightHelp),
+    row<CZrSpotLightCmd>(L"SPOTLIGHT", texts.spotLightCommand, texts.spotLightHelp),
+    row<CZrTargetPointCmd>(L"TargetPoint", texts.targetPointCommand, texts.targetPointHelp),
+    row<CZrWebLightCmd>(L"WEBLIGHT", texts.webLightCommand, texts.webLightHelp),
+    row<CZrDistantLightCmd>(L"distantlight", texts.distantLightCommand, texts.distantLightHelp),
+    row<CZrFreeSpotCmd>(L"FREESPOT", texts.freeSpotCommand, texts.freeSpotHelp),
+    row<CZrFreeWebCmd>(L"FREEWEB", texts.freeWebCommand, texts.freeWebHelp),
+    row<CZrLightCmd>(L"Light", texts.lightCommand, texts.lightHelp),
 };
 
 } // namespace

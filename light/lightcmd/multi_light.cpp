@@ -1,5 +1,6 @@
 #include "light/lightcmd/multi_light.h"
 
+#include "light/lightcmd/model_space.h"
 #include "light/res/load_text.h"
 #include "sdk/db/database.h"
 #include "sdk/rx/result_codes.h"
@@ -17,14 +18,6 @@ namespace {
 
 constexpr const wchar_t* lastNumberVariable = L"LAST_LIGHT_NUM_DISPLAY";
 constexpr int notInModelSpace = -1;
-
-bool isPaperSpaceCurrent() {
-    short tileMode = 1;
-    short viewport = 0;
-    zwutads::getVar(L"TILEMODE", tileMode);
-    zwutads::getVar(L"CVPORT", viewport);
-    return tileMode == 0 && viewport == 1;
-}
 
 // The manager of the process-wide variables, with the counter of default names in it.
 ZrGlobalVarManager* managerWithCounter() {
@@ -48,10 +41,8 @@ int CZrMultiLight::execute() {
     short units = 0;
     if (!checkLightingUnits(units))
         return RTERROR;
-    if (isPaperSpaceCurrent()) {
-        printText(texts.modelSpaceOnly);
+    if (!quor::light::checkModelSpace())
         return notInModelSpace;
-    }
     ZrGlobalVarManager* globals = managerWithCounter();
     if (!createLight())
         return RTERROR;
@@ -75,8 +66,6 @@ ZrString& CZrMultiLight::defaultNamePrefix(ZrString& out) {
 }
 
 bool CZrMultiLight::placeLight() { return true; }
-
-bool CZrMultiLight::finishLight() { return true; }
 
 bool CZrMultiLight::applyName() {
     if (!m_nameEntered)

@@ -44,8 +44,10 @@ protected:
     virtual bool placeLight();
     // Gives the light the name that was typed, or the default one.
     virtual bool applyName();
-    virtual bool finishLight();
 
+    // The options that lights have in common: name, intensity, status, photometry, shadows, attenuation and colour. A
+    // command whose keyword list leaves one out does not have it.
+    [[nodiscard]] static std::span<const quor::light::LightOption> usualOptions();
     // The whole option loop from a command's description of it.
     int runOptionLoop(const quor::light::OptionLoop& loop);
 

@@ -7,6 +7,7 @@
 #include "sdk/sys/ads.h"
 #include "sdk/sys/case_fold.h"
 
+using quor::light::ask;
 using quor::light::LightOption;
 using quor::light::LoadedText;
 using quor::light::OptionLoop;
@@ -15,19 +16,48 @@ using quor::light::WithoutLight;
 
 namespace {
 
+constexpr short photometric = 2; // a value of LIGHTINGUNITS
+
 const LightOption* findOption(const OptionLoop& loop, const ZrString& keyword) {
-    return quor::light::findRow(loop.options,
-                                [&](const LightOption& option) { return quor::equalFolded(option.keyword, keyword); });
+    const auto isAsked = [&](const LightOption& option) { return quor::equalFolded(option.keyword, keyword); };
+    const LightOption* option = quor::light::findRow(loop.options, isAsked);
+    return option != nullptr ? option : quor::light::findRow(loop.ownOptions, isAsked);
+}
+
+enum class Next { Ask, Leave, End };
+
+Next nextWithoutLight(WithoutLight rule, bool isExit) {
+    switch (rule) {
+    case WithoutLight::EndsAtOnce:
+        return Next::End;
+    case WithoutLight::EndsButForExit:
+        return isExit ? Next::Leave : Next::End;
+    case WithoutLight::LeavesTheLoop:
+        return Next::Leave;
+    case WithoutLight::IsIgnored:
+        break;
+    }
+    return isExit ? Next::Leave : Next::Ask;
 }
 
 } // namespace
+
+std::span<const LightOption> CZrMultiLight::usualOptions() {
+    static constexpr LightOption options[] = {
+        {L"Name", ask<&CZrMultiLight::promptName>},     {L"Intensity", ask<&CZrMultiLight::promptIntensity>},
+        {L"Status", ask<&CZrMultiLight::promptStatus>}, {L"Photometry", ask<&CZrMultiLight::promptPhotometry>, true},
+        {L"shadoW", ask<&CZrMultiLight::promptShadow>}, {L"Attenuation", ask<&CZrMultiLight::promptAttenuation>},
+        {L"Color", ask<&CZrMultiLight::promptColor>},   {L"filterColor", ask<&CZrMultiLight::promptColor>},
+    };
+    return options;
+}
 
 // Esc answers RTCAN at once; Enter and eXit name the light and answer RTNORM, or RTERROR when it refuses its name.
 int CZrMultiLight::runOptionLoop(const OptionLoop& loop) {
     const LoadedText standardPrompt(loop.standardPrompt);
     const LoadedText photometricPrompt(loop.photometricPrompt);
     const LoadedText keywords(loop.keywords);
-    short units = 0;
+    short units = photometric;
     if (loop.unitsRead == UnitsRead::OnceAtTheStart)
         zwutads::getVar(L"LIGHTINGUNITS", units);
     for (;;) {
@@ -43,10 +73,11 @@ int CZrMultiLight::runOptionLoop(const OptionLoop& loop) {
             break;
         if (result != RTNORM)
             continue;
-        if (m_pLight == nullptr && loop.withoutLight == WithoutLight::EndsAtOnce)
+        const bool isExit = quor::equalFolded(keyword, L"eXit");
+        const Next next = nextWithoutLight(m_pLight != nullptr ? WithoutLight::IsIgnored : loop.withoutLight, isExit);
+        if (next == Next::End)
             return RTNORM;
-        const bool leaves = m_pLight == nullptr && loop.withoutLight == WithoutLight::LeavesTheLoop;
-        if (leaves || quor::equalFolded(keyword, L"eXit"))
+        if (next == Next::Leave)
             break;
         const LightOption* option = findOption(loop, keyword);
         if (option != nullptr && (units != 0 || !option->photometricOnly))

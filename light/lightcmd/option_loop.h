@@ -12,13 +12,18 @@ namespace quor::light {
 
 // Which question is asked, and whether Photometry is answered, follows LIGHTINGUNITS. A person who changes the variable
 // transparently during the loop sees the difference.
-enum class UnitsRead { OnEveryPass, OnceAtTheStart };
+enum class UnitsRead {
+    OnEveryPass,
+    OnceAtTheStart,
+    Never, // the light is photometric, whatever the variable has become
+};
 
 // What a keyword does when the light is gone.
 enum class WithoutLight {
-    EndsAtOnce,    // with RTNORM, no name is given
-    IsIgnored,     // the keyword is answered all the same
-    LeavesTheLoop, // as eXit does
+    EndsAtOnce,     // with RTNORM, no name is given
+    EndsButForExit, // as above, but eXit leaves the loop as ever
+    IsIgnored,      // the keyword is answered all the same
+    LeavesTheLoop,  // as eXit does
 };
 
 // One option: the keyword, matched without regard to case, and the prompt behind it. "eXit" needs no row.
@@ -35,6 +40,7 @@ struct OptionLoop {
     UnitsRead unitsRead;
     WithoutLight withoutLight;
     std::span<const LightOption> options;
+    std::span<const LightOption> ownOptions = {}; // those that only this command has
 };
 
 template <auto prompt>
@@ -42,10 +48,17 @@ struct PromptOf;
 template <class Command, class Result, Result (Command::*prompt)()>
 struct PromptOf<prompt> {
     static void ask(CZrMultiLight& command) { static_cast<void>((static_cast<Command&>(command).*prompt)()); }
+    static void askUntilDone(CZrMultiLight& command) {
+        while (!(static_cast<Command&>(command).*prompt)()) {
+        }
+    }
 };
 
 // The function behind a row from a prompt of the command's class; what the prompt answers is ignored.
 template <auto prompt>
 inline constexpr void (*ask)(CZrMultiLight& command) = &PromptOf<prompt>::ask;
+// The same for a prompt that answers false where it has to be asked again.
+template <auto prompt>
+inline constexpr void (*askUntilDone)(CZrMultiLight& command) = &PromptOf<prompt>::askUntilDone;
 
 } // namespace quor::light
