@@ -119,14 +119,14 @@ void writePolyline(TagWriter& out, Coordinates& coordinates) {
     }
 }
 
-void writeEntity(TagWriter& out, Coordinates& coordinates, std::size_t index) {
+void writeEntity(TagWriter& out, Coordinates& coordinates, std::size_t index, Entities entities) {
     struct Kind {
         const char* name;
         const char* marker;
     };
     static constexpr Kind kinds[] = {
         {"LINE", "AcDbLine"}, {"LWPOLYLINE", "AcDbPolyline"}, {"3DFACE", "AcDbFace"}, {"CIRCLE", "AcDbCircle"}};
-    const std::size_t kind = index % std::size(kinds);
+    const std::size_t kind = entities == Entities::Mixed ? index % std::size(kinds) : 0;
     char layer[8];
     std::snprintf(layer, sizeof layer, "L%d", static_cast<int>(index % layerCount));
     out.text(0, kinds[kind].name);
@@ -165,13 +165,13 @@ void beginSection(TagWriter& out, const char* name) {
 
 } // namespace
 
-std::string makeDrawing(std::size_t entities) {
+std::string makeDrawing(std::size_t count, Entities entities) {
     TagWriter out;
     beginSection(out, "HEADER");
     out.text(9, "$ACADVER");
     out.text(1, "AC1027");
     out.text(9, "$HANDSEED");
-    out.handle(5, firstEntity + static_cast<unsigned>(entities));
+    out.handle(5, firstEntity + static_cast<unsigned>(count));
     out.text(0, "ENDSEC");
     beginSection(out, "TABLES");
     writeLayers(out);
@@ -182,8 +182,8 @@ std::string makeDrawing(std::size_t entities) {
     out.text(0, "ENDSEC");
     beginSection(out, "ENTITIES");
     Coordinates coordinates;
-    for (std::size_t i = 0; i < entities; ++i)
-        writeEntity(out, coordinates, i);
+    for (std::size_t i = 0; i < count; ++i)
+        writeEntity(out, coordinates, i, entities);
     out.text(0, "ENDSEC");
     beginSection(out, "OBJECTS");
     writeObjects(out);

@@ -7,9 +7,12 @@
 
 namespace quor::bench {
 
-// A drawing (AC1027, ASCII, CRLF) with that many entities in model space on ten layers: lines, polylines of six
-// vertices, faces and circles in turn. The same count always gives the same bytes.
-[[nodiscard]] std::string makeDrawing(std::size_t entities);
+// What a drawing is made of: lines, polylines of six vertices, faces and circles in turn, or lines alone.
+enum class Entities { Mixed, Lines };
+
+// A drawing (AC1027, ASCII, CRLF) with that many entities in model space on ten layers. The same count always gives the
+// same bytes.
+[[nodiscard]] std::string makeDrawing(std::size_t count, Entities entities = Entities::Mixed);
 
 // A folder for files, there as long as the object.
 class ScratchFolder {
