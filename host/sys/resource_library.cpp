@@ -83,7 +83,9 @@ const ZrString* ResourceModule::find(unsigned number) const {
 }
 
 ResourceLibrary::ResourceLibrary(fs::path folder, ZrString language)
-    : folder_(std::move(folder)), language_(std::move(language)) {}
+    : folder_(std::move(folder)), language_(std::move(language)) {
+    retiredModules(); // a library that is static itself goes before the place where it leaves its modules
+}
 
 ResourceLibrary::~ResourceLibrary() {
     for (auto& [name, module] : modules_)

@@ -82,14 +82,15 @@ TEST(Module, CommandsStandInTheirGroupWithoutFlags) {
     EXPECT_FALSE(command->isHost);
 }
 
-TEST(Module, WithoutAKeywordModuleLocalNamesAreTheGlobalOnes) {
+TEST(Module, TheLocalNamesOfItsCommandsAreThoseOfTheLanguage) {
     TestSession session;
     ASSERT_TRUE(session.loadLight(QUOR_BUILD_DIR));
 
-    const ed::Command* command = findCommand(session, L"POINTLIGHT");
+    const ed::Command* command = findCommand(session, L"点光源");
 
     ASSERT_NE(command, nullptr);
-    EXPECT_EQ(command->localName, L"POINTLIGHT");
+    EXPECT_EQ(command->globalName, L"POINTLIGHT");
+    EXPECT_EQ(command, findCommand(session, L"POINTLIGHT"));
 }
 
 TEST(CommandRows, TheBuiltInLocalNameOfEachCommandIsItsGlobalName) {
@@ -112,6 +113,10 @@ protected:
         std::filesystem::create_directories(language);
         std::ofstream(language / "quorkwlres.txt") << keywordModule;
         std::ofstream(language / "quorcmdres.txt") << commandLibrary;
+        startWithFolder();
+    }
+    // The folder of the language as it is: without `start`, there is none.
+    void startWithFolder() {
         session_.emplace(front_, SessionOptions{.settingsFile = folder_.path() / "settings.ini",
                                                 .resourceFolder = folder_.path(),
                                                 .moduleFolders = {QUOR_BUILD_DIR "/lib/quor/modules"},
@@ -135,6 +140,12 @@ TEST_F(ModuleInALanguage, ItsKeywordModuleGivesTheLocalName) {
     start("63301 = \"PLAMP\"\n");
 
     EXPECT_EQ(localNameOfPointLight(), L"PLAMP");
+}
+
+TEST_F(ModuleInALanguage, WithoutAKeywordModuleLocalNamesAreTheGlobalOnes) {
+    startWithFolder();
+
+    EXPECT_EQ(localNameOfPointLight(), L"POINTLIGHT");
 }
 
 TEST_F(ModuleInALanguage, ANumberThatIsMissingThereIsTheBuiltInName) {

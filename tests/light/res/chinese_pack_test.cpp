@@ -1,36 +1,22 @@
-// Chinese is built in, and yet the names of the lamp presets stand in a resource module too: both have to be the same.
-#include "light/res/text_table.h"
+// Chinese is built in, and yet two things stand in resource modules: the names of the lamp presets, which have to be
+// the built-in ones, and what the commands are called.
+#include "tests/light/res/language_pack.h"
 
-#include "host/session.h"
-#include "host/sys/resource_library.h"
-#include "tests/support/scripted_front_end.h"
-#include "tests/support/test_session.h"
+#include "host/sys/case_fold.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <set>
 
 namespace quor::light {
 namespace {
 
-class ChinesePack : public testing::Test {
-protected:
-    [[nodiscard]] sys::ResourceLibrary& resources() { return session_.resources(); }
-    [[nodiscard]] ZwResourceHandle commandLibrary() { return resources().load(L"quorcmdres"); }
+const LanguagePack& chinese() { return LanguagePack::chinese(); }
 
-private:
-    test::TemporaryFolder folder_;
-    test::ScriptedFrontEnd front_;
-    Session session_{front_,
-                     {.settingsFile = folder_.path() / "settings.ini",
-                      .resourceFolder = QUOR_TEST_DATA "/../../resources",
-                      .moduleFolders = {},
-                      .language = L"zh"}};
-};
-
-class NameInTheChinesePack : public ChinesePack, public testing::WithParamInterface<Text> {};
+class NameInTheChinesePack : public testing::TestWithParam<Text> {};
 
 TEST_P(NameInTheChinesePack, IsTheBuiltInOne) {
-    ASSERT_NE(commandLibrary(), nullptr);
-    const ZrString* const name = commandLibrary()->find(GetParam().number);
+    const ZrString* const name = chinese().find(GetParam());
 
     ASSERT_NE(name, nullptr) << GetParam().number;
     EXPECT_EQ(*name, GetParam().builtIn);
@@ -42,12 +28,38 @@ INSTANTIATE_TEST_SUITE_P(LampPresets, NameInTheChinesePack,
                                          texts.lampHalogen, texts.lampQuartz, texts.lampMetalHalide, texts.lampMercury,
                                          texts.lampPhosphorMercury, texts.lampHighPressureSodium,
                                          texts.lampLowPressureSodium),
-                         [](const auto& text) { return "Text" + std::to_string(text.param.number); });
+                         nameOfText<testing::TestParamInfo<Text>>);
 
-TEST_F(ChinesePack, HoldsThirteenNamesAndNothingElse) {
-    ASSERT_NE(commandLibrary(), nullptr);
-    EXPECT_EQ(commandLibrary()->size(), 13U);
-    EXPECT_TRUE(resources().problems().empty());
+const Text commandNames[] = {
+    texts.pointLightCommand, texts.spotLightCommand,      texts.targetPointCommand,  texts.webLightCommand,
+    texts.freeSpotCommand,   texts.freeWebCommand,        texts.distantLightCommand, texts.lightCommand,
+    texts.lightListCommand,  texts.lightListCloseCommand,
+};
+
+class CommandInTheChinesePack : public testing::TestWithParam<Text> {};
+
+TEST_P(CommandInTheChinesePack, HasANameInChinese) {
+    const ZrString* const name = chinese().find(GetParam());
+
+    ASSERT_NE(name, nullptr);
+    ASSERT_FALSE(name->empty());
+    EXPECT_TRUE(std::ranges::all_of(*name, [](wchar_t c) { return c >= 0x4E00 && c <= 0x9FFF; }));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, CommandInTheChinesePack, testing::ValuesIn(commandNames),
+                         nameOfText<testing::TestParamInfo<Text>>);
+
+TEST(ChinesePack, NoTwoCommandsHaveTheSameName) {
+    std::set<ZrString> names;
+    for (const Text& text : commandNames)
+        names.insert(foldCase(chinese().shown(text)));
+    EXPECT_EQ(names.size(), std::size(commandNames));
+}
+
+TEST(ChinesePack, HoldsTheseNamesAndNothingElse) {
+    EXPECT_EQ(chinese().size(TextSource::CommandLibrary), 13U);
+    EXPECT_EQ(chinese().size(TextSource::Keywords), std::size(commandNames));
+    EXPECT_TRUE(chinese().problems().empty());
 }
 
 } // namespace
