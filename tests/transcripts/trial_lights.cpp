@@ -27,18 +27,11 @@ struct Kind {
     bool hasPhotometry = true;
 };
 
-// A distant light asks for its candela in a way of its own, which no trial light has. The shadow prompts know a free
-// spot light by two words: that of its names and, in the last of these, one that stands for its kind.
+// A distant light asks for its candela in a way of its own, which no trial light has.
 constexpr Kind kKinds[] = {
-    {L"TRIALSPOT", DrawableType::kSpotLight, texts.spotNamePrefix, texts.spotPhotometricOptions,
-     texts.spotOptionKeywords},
-    {L"TRIALFREESPOT", DrawableType::kSpotLight, texts.freeSpotNamePrefix, texts.freeSpotPhotometricOptions,
-     texts.freeSpotOptionKeywords},
     {L"TRIALDISTANT", DrawableType::kDistantLight, texts.distantNamePrefix, texts.distantPhotometricOptions,
      texts.distantOptionKeywords, false},
     {L"TRIALWEB", DrawableType::kWebLight, texts.webNamePrefix, texts.webOptions, texts.webOptionKeywords},
-    {L"TRIALFREESPOTKINDWORD", DrawableType::kSpotLight, texts.freeSpotKindWord, texts.freeSpotPhotometricOptions,
-     texts.freeSpotOptionKeywords},
 };
 
 class TrialLight : public CZrMultiLight {

@@ -7,8 +7,8 @@ class Session;
 
 namespace quor::test {
 
-// Adds TRIALSPOT, TRIALFREESPOT, TRIALDISTANT and TRIALWEB. Each places its light at the origin and then asks for
-// options as the point light does.
+// Adds TRIALDISTANT and TRIALWEB. Each places its light at the origin and then asks for options as the point light
+// does.
 void addTrialLights(Session& session);
 
 } // namespace quor::test

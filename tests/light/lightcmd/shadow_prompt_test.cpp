@@ -256,6 +256,22 @@ TEST_F(ShapePrompt, EnterTakesTheShapeOfASpotLightAlsoWhenItIsNotOffered) {
               }));
 }
 
+// No command names its lights so.
+TEST_F(ShapePrompt, TheWordForFreeSpotLightsOffersTheTwoShapesOfSpotLightsToo) {
+    command_.prefix = L"自由聚光灯";
+    command_.type = DrawableType::kSpotLight;
+
+    EXPECT_FALSE(answerOf(&PromptCommand::promptShadowShape, {L"L", L"Sphere", L"R", L"2", L"3"}));
+
+    EXPECT_EQ(asked().front(), L"\n输入形 [圆盘形(D)/矩形(R)] <圆盘形>:");
+    EXPECT_EQ(linesLeft(), 0U);
+    EXPECT_EQ(shadows(), shadowsWith([](auto& record) {
+                  record.setExtendedLightShape(ZrGiShadowParameters::kRect);
+                  record.setExtendedLightLength(2);
+                  record.setExtendedLightWidth(3);
+              }));
+}
+
 TEST_F(ShapePrompt, TheWordOfTheCommandDecidesNotTheTypeOfTheLight) {
     command_.type = DrawableType::kSpotLight;
 
