@@ -11,6 +11,9 @@ using quor::light::toRadians;
 
 namespace {
 
+// An angle loses less than this, in degrees, when it is turned into radians and back.
+constexpr double roundingOfAngles = 1e-9;
+
 // Asks until the angle is in range, with a word about one that is not. False when the question was left.
 bool askConeAngle(const ZrString& prompt, double& degrees) {
     for (;;) {
@@ -71,6 +74,7 @@ bool CZrFreeSpotCmd::promptFalloff() {
     if (!askConeAngle(quor::light::withAngle(texts.freeSpotFalloffPrompt, falloff), falloff))
         return false;
     const double current = m_pLight->hotspotAngle();
-    const double hotspot = toDegrees(current) < falloff ? current : toRadians(falloff - 1);
+    const bool isInside = toDegrees(current) < falloff - roundingOfAngles;
+    const double hotspot = isInside ? current : toRadians(falloff - 1);
     return m_pLight->setHotspotAndFalloff(hotspot, toRadians(falloff)) == Quor::eOk;
 }
