@@ -18,6 +18,7 @@
 #include "tests/support/transcript.h"
 
 #include <algorithm>
+#include <functional>
 #include <sstream>
 #include <system_error>
 
@@ -141,7 +142,7 @@ private:
             copyFile(rest);
         else if (word == "link")
             makeLink(rest);
-        else if (word != "keyboard" && word != "lang" && word != "no-module" && word != "trial-lights")
+        else if (word != "keyboard" && word != "lang" && word != "no-module")
             problem_ = "unknown directive: " + std::string(directive);
     }
 
@@ -233,8 +234,7 @@ private:
 
 } // namespace
 
-TranscriptResult runTranscript(const std::filesystem::path& path, std::string_view text,
-                               const std::function<void(Session&)>& addTrialLights) {
+TranscriptResult runTranscript(const std::filesystem::path& path, std::string_view text) {
     const std::vector<TranscriptLine> lines = readTranscript(text);
     const std::filesystem::path home = std::filesystem::absolute(path).parent_path();
     const TemporaryFolder folder;
@@ -250,8 +250,6 @@ TranscriptResult runTranscript(const std::filesystem::path& path, std::string_vi
         session.documents().newDocument();
         if (!hasDirective(lines, "#! no-module") && session.modules().loadModule(L"light.so") != Quor::eOk)
             result.problem = toUtf8(session.modules().lastError());
-        if (hasDirective(lines, "#! trial-lights"))
-            addTrialLights(session);
         if (result.problem.empty())
             result.problem = Player(session, recording, home).play();
     }

@@ -2,13 +2,8 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
 #include <string>
 #include <string_view>
-
-namespace quor {
-class Session;
-}
 
 namespace quor::test {
 
@@ -25,12 +20,10 @@ struct TranscriptResult {
 //   #! keyboard        ends that
 //   #! lang en         the language of the whole session
 //   #! no-module       the session runs without the module of lighting commands
-//   #! trial-lights    adds light commands that the module does not have: `addTrialLights` does
 //   #! light LABEL…    shows what LIST says under these labels of the light that was made last
 //   #! copy FILE [AS]  copies a file from beside the transcript into the working folder; AS may hold blanks, and
 //                      folders, which are made
 //   #! link AS TARGET  makes a symbolic link in the working folder; nothing needs to be where it leads
-[[nodiscard]] TranscriptResult runTranscript(const std::filesystem::path& path, std::string_view text,
-                                             const std::function<void(Session&)>& addTrialLights);
+[[nodiscard]] TranscriptResult runTranscript(const std::filesystem::path& path, std::string_view text);
 
 } // namespace quor::test

@@ -4,7 +4,6 @@
 
 #include "tests/support/transcript.h"
 #include "tests/support/transcript_session.h"
-#include "tests/transcripts/trial_lights.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -35,7 +34,7 @@ bool check(const std::filesystem::path& path, bool rebaseline) {
         return false;
     }
     const std::string expected{std::istreambuf_iterator<char>(in), {}};
-    const quor::test::TranscriptResult result = quor::test::runTranscript(path, expected, quor::test::addTrialLights);
+    const quor::test::TranscriptResult result = quor::test::runTranscript(path, expected);
     if (!result.problem.empty()) {
         std::cout << path.string() << ": " << result.problem << '\n';
         return false;
