@@ -29,8 +29,9 @@ constexpr std::array<std::string_view, 4> kTypesRead{"LINE", "3DFACE", "LIGHT", 
 
 Database::Database(dxf::Image image, dxf::Layout layout, bool isNew)
     : file_(std::move(image), std::move(layout)), objects_(*this), structure_(file_, objects_),
-      layers_(structure_.table("LAYER"), file_), headers_(file_), variables_(file_, objects_, structure_),
-      journal_(*this), interface_(makeInterface(*this)), isNew_(isNew) {
+      layers_(structure_.table("LAYER"), file_), headers_(file_), tileMode_(headers_.place(L"$TILEMODE")),
+      currentLayerName_(headers_.place(L"$CLAYER")), modelUcs_(ucsPlaces(true)), paperUcs_(ucsPlaces(false)),
+      variables_(file_, objects_, structure_), journal_(*this), interface_(makeInterface(*this)), isNew_(isNew) {
     for (const LayoutRecord& sheet : structure_.layouts())
         if (sheet.block == &structure_.paperSpace())
             currentLayout_ = sheet.name;

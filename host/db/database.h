@@ -76,10 +76,10 @@ public:
     [[nodiscard]] Journal& journal() { return journal_; }
 
     // Header variables by name with the "$". Setting one is undoable.
-    [[nodiscard]] std::optional<HeaderValue> header(const ZrString& name) const;
+    [[nodiscard]] std::optional<HeaderValue> header(std::wstring_view name) const;
     void setHeader(const ZrString& name, int code, const HeaderValue& value);
     // Values of the variable dictionary (LIGHTINGUNITS); text as in the file. Setting one is undoable.
-    [[nodiscard]] std::optional<ZrString> dictionaryVariable(const ZrString& name) const;
+    [[nodiscard]] std::optional<ZrString> dictionaryVariable(std::wstring_view name) const;
     void setDictionaryVariable(const ZrString& name, const ZrString& value);
     // DEFAULTLIGHTING: 292 of the active viewport from AC1021 on, else kept for the session. Undoable.
     [[nodiscard]] bool defaultLighting();
@@ -104,6 +104,8 @@ public:
 
     // Every entity of a space that is not erased, in drawing order.
     [[nodiscard]] std::vector<ZrDbObjectId> entities(ZrDbObjectId space) const;
+    // The last of them; null when there is none.
+    [[nodiscard]] ZrDbObjectId lastEntity(ZrDbObjectId space) const;
     // Layers in drawing order; hidden ones too.
     [[nodiscard]] std::vector<ZrDbObjectId> layerIds() const;
     // Nothing happens for an id that is no layer's of this drawing.
@@ -140,6 +142,16 @@ public:
     [[nodiscard]] std::optional<bool> defaultLightingToSave();
 
 private:
+    // Where the header keeps a coordinate system.
+    struct UcsPlaces {
+        const HeaderStore::Place& origin;
+        const HeaderStore::Place& xAxis;
+        const HeaderStore::Place& yAxis;
+        const HeaderStore::Place& name;
+    };
+    [[nodiscard]] UcsPlaces ucsPlaces(bool ofModel) const;
+    [[nodiscard]] bool isModelUcs() const;
+
     Database(dxf::Image image, dxf::Layout layout, bool isNew);
     static Result<std::unique_ptr<Database>, FileProblem> make(dxf::Image image, const OpenOptions& options,
                                                                const ZrString& what);
@@ -154,6 +166,10 @@ private:
     Structure structure_;
     Layers layers_;
     HeaderStore headers_;
+    const HeaderStore::Place& tileMode_;
+    const HeaderStore::Place& currentLayerName_;
+    UcsPlaces modelUcs_;
+    UcsPlaces paperUcs_;
     VariableDictionary variables_;
     Journal journal_;
     std::unique_ptr<ZrDbDatabase> interface_;

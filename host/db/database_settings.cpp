@@ -17,14 +17,13 @@ constexpr int kViewportNumberCode = 69;
 constexpr int kModelTabViewport = 2;
 constexpr int kSheetViewport = 1;
 
-struct UcsNames {
-    const wchar_t* origin;
-    const wchar_t* xAxis;
-    const wchar_t* yAxis;
-    const wchar_t* name;
-};
-constexpr UcsNames kModelUcs{L"$UCSORG", L"$UCSXDIR", L"$UCSYDIR", L"$UCSNAME"};
-constexpr UcsNames kPaperUcs{L"$PUCSORG", L"$PUCSXDIR", L"$PUCSYDIR", L"$PUCSNAME"};
+// What the names of the variables begin with that hold the UCS of model space, or of a layout.
+ZrString ucsPrefix(bool ofModel) { return ofModel ? L"$" : L"$P"; }
+
+ZrGePoint3d pointAt(const HeaderStore::Place& place, const ZrGePoint3d& otherwise) {
+    const auto* found = place.value() == nullptr ? nullptr : std::get_if<ZrGePoint3d>(place.value());
+    return found == nullptr ? otherwise : *found;
+}
 
 } // namespace
 
@@ -42,10 +41,13 @@ const ZrString& Database::version() const { return file_.versionName(); }
 
 bool Database::isNew() const { return isNew_; }
 
-std::optional<HeaderValue> Database::header(const ZrString& name) const { return headers_.get(name); }
+std::optional<HeaderValue> Database::header(std::wstring_view name) const {
+    const HeaderValue* const value = headers_.place(name).value();
+    return value == nullptr ? std::nullopt : std::optional(*value);
+}
 
 void Database::setHeader(const ZrString& name, int code, const HeaderValue& value) {
-    if (headers_.get(name) == value)
+    if (header(name) == value)
         return;
     std::optional<HeaderStore::Variable> before = headers_.set(name, HeaderStore::Variable{code, value});
     journal_.settingChanged(name.substr(1), [this, name, kept = std::move(before)]() mutable {
@@ -53,7 +55,7 @@ void Database::setHeader(const ZrString& name, int code, const HeaderValue& valu
     });
 }
 
-std::optional<ZrString> Database::dictionaryVariable(const ZrString& name) const { return variables_.get(name); }
+std::optional<ZrString> Database::dictionaryVariable(std::wstring_view name) const { return variables_.get(name); }
 
 void Database::setDictionaryVariable(const ZrString& name, const ZrString& value) {
     if (variables_.get(name) == value)
@@ -110,8 +112,8 @@ bool Database::setCurrentLayout(const ZrString& name) {
 }
 
 bool Database::isModelTab() const {
-    const auto value = header(L"$TILEMODE");
-    const auto* number = value ? std::get_if<long long>(&*value) : nullptr;
+    const HeaderValue* const value = tileMode_.value();
+    const auto* number = value == nullptr ? nullptr : std::get_if<long long>(value);
     return number == nullptr || *number != 0;
 }
 
@@ -153,39 +155,42 @@ Block& Database::currentSpace() const {
     return inModel ? structure_.modelSpace() : currentSheet();
 }
 
+Database::UcsPlaces Database::ucsPlaces(bool ofModel) const {
+    const ZrString prefix = ucsPrefix(ofModel);
+    return {headers_.place(prefix + L"UCSORG"), headers_.place(prefix + L"UCSXDIR"),
+            headers_.place(prefix + L"UCSYDIR"), headers_.place(prefix + L"UCSNAME")};
+}
+
+bool Database::isModelUcs() const { return isModelTab() || currentViewport_ > kSheetViewport; }
+
 Ucs Database::ucs() const {
-    const UcsNames& names = isModelTab() || currentViewport_ > 1 ? kModelUcs : kPaperUcs;
-    const auto point = [&](const wchar_t* name, const ZrGePoint3d& otherwise) {
-        const auto value = header(name);
-        const auto* found = value ? std::get_if<ZrGePoint3d>(&*value) : nullptr;
-        return found == nullptr ? otherwise : *found;
-    };
+    const UcsPlaces& places = isModelUcs() ? modelUcs_ : paperUcs_;
     Ucs ucs;
-    ucs.origin = point(names.origin, {});
-    ucs.xAxis = point(names.xAxis, {1, 0, 0}).asVector().normal();
-    ucs.yAxis = point(names.yAxis, {0, 1, 0}).asVector().normal();
+    ucs.origin = pointAt(places.origin, {});
+    ucs.xAxis = pointAt(places.xAxis, {1, 0, 0}).asVector().normal();
+    ucs.yAxis = pointAt(places.yAxis, {0, 1, 0}).asVector().normal();
     if (ucs.xAxis.isParallelTo(ucs.yAxis) || ucs.xAxis.isZeroLength() || ucs.yAxis.isZeroLength()) {
         ucs.xAxis = ZrGeVector3d::kXAxis;
         ucs.yAxis = ZrGeVector3d::kYAxis;
     }
-    if (const auto value = header(names.name))
-        if (const auto* text = std::get_if<ZrString>(&*value))
+    if (const HeaderValue* const value = places.name.value())
+        if (const auto* text = std::get_if<ZrString>(value))
             ucs.name = *text;
     return ucs;
 }
 
 void Database::setUcs(const Ucs& ucs) {
-    const UcsNames& names = isModelTab() || currentViewport_ > 1 ? kModelUcs : kPaperUcs;
+    const ZrString prefix = ucsPrefix(isModelUcs());
     const auto asPoint = [](const ZrGeVector3d& v) { return ZrGePoint3d(v.x, v.y, v.z); };
-    setHeader(names.name, 2, ucs.name);
-    setHeader(names.origin, 10, ucs.origin);
-    setHeader(names.xAxis, 10, asPoint(ucs.xAxis));
-    setHeader(names.yAxis, 10, asPoint(ucs.yAxis));
+    setHeader(prefix + L"UCSNAME", 2, ucs.name);
+    setHeader(prefix + L"UCSORG", 10, ucs.origin);
+    setHeader(prefix + L"UCSXDIR", 10, asPoint(ucs.xAxis));
+    setHeader(prefix + L"UCSYDIR", 10, asPoint(ucs.yAxis));
 }
 
 ObjectEntry* Database::currentLayer() {
-    if (const auto value = header(L"$CLAYER"))
-        if (const auto* name = std::get_if<ZrString>(&*value))
+    if (const HeaderValue* const value = currentLayerName_.value())
+        if (const auto* name = std::get_if<ZrString>(value))
             if (ObjectEntry* layer = layers_.find(*name))
                 return layer;
     return layers_.find(L"0");
@@ -221,6 +226,15 @@ std::vector<ZrDbObjectId> Database::entities(ZrDbObjectId space) const {
             if (!entity->erased)
                 ids.emplace_back(entity);
     return ids;
+}
+
+ZrDbObjectId Database::lastEntity(ZrDbObjectId space) const {
+    const Block* block = structure_.blockOf(space.entry());
+    if (block == nullptr)
+        return {};
+    const auto last = std::find_if(block->entities.rbegin(), block->entities.rend(),
+                                   [](const ObjectEntry* entity) { return !entity->erased; });
+    return last == block->entities.rend() ? ZrDbObjectId() : ZrDbObjectId(*last);
 }
 
 ZrString Database::typeName(ZrDbObjectId id) const {

@@ -2,6 +2,8 @@
 
 #include "host/sys/utf8.h"
 
+#include <utility>
+
 namespace quor::db {
 
 namespace {
@@ -47,38 +49,25 @@ void writePoint(dxf::TagWriter& writer, const HeaderStore::Variable& variable, c
 
 } // namespace
 
-std::optional<HeaderStore::Variable> HeaderStore::inFile(const ZrString& name) const {
-    const auto [found, isNew] = read_.try_emplace(name);
-    if (isNew)
-        if (const dxf::HeaderVar* variable = file_.layout().findVar(toUtf8(name)))
-            found->second = readValue(file_, *variable);
-    return found->second;
-}
-
-std::optional<HeaderValue> HeaderStore::get(const ZrString& name) const {
-    if (const auto found = set_.find(name); found != set_.end())
-        return found->second.value;
-    const std::optional<Variable> variable = inFile(name);
-    return variable ? std::optional(variable->value) : std::nullopt;
+HeaderStore::Place& HeaderStore::placeOf(std::wstring_view name) const {
+    if (const auto known = places_.find(name); known != places_.end())
+        return known->second;
+    Place& place = places_[ZrString(name)];
+    if (const dxf::HeaderVar* variable = file_.layout().findVar(toUtf8(name)))
+        place.inFile = readValue(file_, *variable);
+    return place;
 }
 
 std::optional<HeaderStore::Variable> HeaderStore::set(const ZrString& name, std::optional<Variable> variable) {
-    std::optional<Variable> before;
-    if (const auto found = set_.find(name); found != set_.end()) {
-        before = std::move(found->second);
-        set_.erase(found);
-    }
-    if (variable)
-        set_.emplace(name, std::move(*variable));
-    return before;
+    return std::exchange(placeOf(name).set, std::move(variable));
 }
 
 std::map<ZrString, HeaderStore::Variable> HeaderStore::changed() const {
     std::map<ZrString, Variable> different;
-    for (const auto& [name, variable] : set_) {
-        const std::optional<Variable> original = inFile(name);
-        if (!original || original->value != variable.value)
-            different.emplace(name, original ? Variable{original->code, variable.value, original->flat} : variable);
+    for (const auto& [name, place] : places_) {
+        const std::optional<Variable>& original = place.inFile;
+        if (place.set && (!original || original->value != place.set->value))
+            different.emplace(name, original ? Variable{original->code, place.set->value, original->flat} : *place.set);
     }
     return different;
 }

@@ -22,10 +22,18 @@ public:
         bool operator==(const Variable&) const = default;
     };
 
+    // What is known of one variable, there or not.
+    struct Place {
+        std::optional<Variable> inFile;
+        std::optional<Variable> set;
+        // Null when the drawing has no such variable.
+        [[nodiscard]] const HeaderValue* value() const { return set ? &set->value : inFile ? &inFile->value : nullptr; }
+    };
+
     explicit HeaderStore(const DrawingFile& file) : file_(file) {}
 
-    // Nothing when the drawing has no such variable.
-    [[nodiscard]] std::optional<HeaderValue> get(const ZrString& name) const;
+    // Where a variable is kept: found once by those who ask for it often, there as long as the store.
+    [[nodiscard]] const Place& place(std::wstring_view name) const { return placeOf(name); }
     // Sets a variable (nothing: as the file has it) and answers what was set before.
     std::optional<Variable> set(const ZrString& name, std::optional<Variable> variable);
 
@@ -36,11 +44,10 @@ public:
                       const Variable& variable);
 
 private:
-    [[nodiscard]] std::optional<Variable> inFile(const ZrString& name) const;
+    [[nodiscard]] Place& placeOf(std::wstring_view name) const;
 
     const DrawingFile& file_;
-    std::map<ZrString, Variable> set_;
-    mutable std::map<ZrString, std::optional<Variable>> read_; // what was looked up in the file before
+    mutable std::map<ZrString, Place, std::less<>> places_; // of the variables that somebody asked for
 };
 
 } // namespace quor::db

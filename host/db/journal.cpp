@@ -8,10 +8,13 @@
 
 namespace quor::db {
 
-void Journal::begin(const ZrString& name) {
+void Journal::begin(std::wstring_view name) {
     if (depth_++ > 0)
         return;
-    open_ = Group{name, {}, nextNumber_++};
+    auto known = names_.find(name);
+    if (known == names_.end())
+        known = names_.emplace(name).first;
+    open_ = Group{&*known, {}, nextNumber_++};
     ++serial_;
 }
 
@@ -38,7 +41,7 @@ std::optional<ZrString> Journal::undo() {
     undo_.pop_back();
     apply(group, true);
     redo_.push_back(std::move(group));
-    return redo_.back().name;
+    return *redo_.back().name;
 }
 
 std::optional<ZrString> Journal::redo() {
@@ -48,7 +51,7 @@ std::optional<ZrString> Journal::redo() {
     redo_.pop_back();
     apply(group, false);
     undo_.push_back(std::move(group));
-    return undo_.back().name;
+    return *undo_.back().name;
 }
 
 std::size_t Journal::top() const {
@@ -91,7 +94,7 @@ void Journal::sayGoodbye() { tell(&ZrDbDatabaseReactor::goodbye); }
 void Journal::record(Change change) {
     const bool alone = !isOpen();
     if (alone)
-        begin(ZrString());
+        begin({});
     leaveSaved();
     open_.changes.push_back(std::move(change));
     if (alone)
@@ -136,7 +139,7 @@ void Journal::announce(ObjectEntry& entry) {
 }
 
 void Journal::settingChanged(const ZrString& name, std::function<void()> exchange) {
-    record(Setting{name, std::move(exchange)});
+    record(std::make_unique<Setting>(Setting{name, std::move(exchange)}));
     tell(&ZrDbDatabaseReactor::headerSysVarChanged, name.c_str());
 }
 
@@ -179,9 +182,9 @@ void Journal::applyChange(Erase& change, bool undoing) {
     tell(&ZrDbDatabaseReactor::objectErased, *change.entry->object, erased);
 }
 
-void Journal::applyChange(Setting& change, bool /*undoing*/) {
-    change.exchange();
-    tell(&ZrDbDatabaseReactor::headerSysVarChanged, change.name.c_str());
+void Journal::applyChange(std::unique_ptr<Setting>& change, bool /*undoing*/) {
+    change->exchange();
+    tell(&ZrDbDatabaseReactor::headerSysVarChanged, change->name.c_str());
 }
 
 } // namespace quor::db

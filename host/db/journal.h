@@ -8,6 +8,8 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -24,7 +26,7 @@ public:
 
     // A group is what one command did; groups nest, only the outermost counts. One that changed nothing leaves no
     // trace.
-    void begin(const ZrString& name);
+    void begin(std::wstring_view name);
     void end();
     // Takes back what the open group did so far and forgets it.
     void rollback();
@@ -72,9 +74,10 @@ private:
         ZrString name;
         std::function<void()> exchange;
     };
-    using Change = std::variant<Append, Modify, Erase, Setting>;
+    // Settings are rare and large; the others should not be as large as they are.
+    using Change = std::variant<Append, Modify, Erase, std::unique_ptr<Setting>>;
     struct Group {
-        ZrString name;
+        const ZrString* name = nullptr; // one of names_
         std::vector<Change> changes;
         std::size_t number = 0; // counts groups over the life of the drawing
     };
@@ -89,12 +92,13 @@ private:
     void applyChange(Append& change, bool undoing);
     void applyChange(Modify& change, bool undoing);
     void applyChange(Erase& change, bool undoing);
-    void applyChange(Setting& change, bool undoing);
+    void applyChange(std::unique_ptr<Setting>& change, bool undoing);
     void setErased(ObjectEntry& entry, bool erased);
     template <class... Parameters, class... Arguments>
     void tell(void (ZrDbDatabaseReactor::*message)(Parameters...), Arguments&&... arguments);
 
     Database& database_;
+    std::set<ZrString, std::less<>> names_; // of all groups: a few, however many groups there are
     std::vector<Group> undo_;
     std::vector<Group> redo_;
     Group open_;

@@ -18,7 +18,7 @@ const ZrDbLayerTableRecordData& dataOf(const ObjectEntry& layer) {
 ObjectEntry* Layers::find(std::wstring_view name) const {
     if (name.starts_with(L'*'))
         name.remove_prefix(1);
-    const auto found = table_.byName.find(ZrString(name));
+    const auto found = table_.byName.find(name);
     return found == table_.byName.end() || found->second->erased ? nullptr : found->second;
 }
 

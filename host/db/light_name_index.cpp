@@ -2,29 +2,33 @@
 
 #include <bit>
 #include <charconv>
+#include <string_view>
 
 namespace quor::db {
 
 namespace {
 
 constexpr std::size_t kWordBits = 64;
+constexpr std::size_t kLongestNumber = 6; // "-32768"
 
 // The number behind the prefix, when the rest of the name is written as a number is.
 std::optional<std::int16_t> numberBehind(const ZrString& prefix, const ZrString& name) {
     if (name.size() == prefix.size() || !startsWithFolded(name, prefix))
         return std::nullopt;
     const std::wstring_view digits = std::wstring_view(name).substr(prefix.size());
-    std::array<char, 6> text{}; // "-32768"
+    std::array<char, kLongestNumber> text{};
     if (digits.size() > text.size())
         return std::nullopt;
     for (std::size_t i = 0; i < digits.size(); ++i)
         text[i] = digits[i] > 0 && digits[i] < 0x80 ? static_cast<char>(digits[i]) : '?';
     std::int16_t number = 0;
-    const char* const end = text.data() + digits.size();
-    const auto [stopped, error] = std::from_chars(text.data(), end, number);
-    if (error != std::errc() || stopped != end || std::to_wstring(number) != digits)
+    const std::string_view typed(text.data(), digits.size());
+    const auto [stopped, error] = std::from_chars(typed.begin(), typed.end(), number);
+    if (error != std::errc() || stopped != typed.end())
         return std::nullopt;
-    return number;
+    std::array<char, kLongestNumber> usual{};
+    const char* const end = std::to_chars(usual.data(), usual.data() + usual.size(), number).ptr;
+    return typed == std::string_view(usual.data(), end) ? std::optional(number) : std::nullopt;
 }
 
 } // namespace

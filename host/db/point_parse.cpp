@@ -1,8 +1,8 @@
 // Points as people type them.
 #include "host/db/point_parse.h"
 
+#include <array>
 #include <cmath>
-#include <vector>
 
 #include "host/db/units_parse.h"
 
@@ -17,26 +17,34 @@ bool takePrefix(std::wstring_view& text, wchar_t mark) {
     return true;
 }
 
-// The parts between the separators, empty ones included. Stops after four: no form has as many.
-std::vector<std::wstring_view> split(std::wstring_view text, wchar_t separator) {
-    std::vector<std::wstring_view> parts;
-    std::size_t begin = 0;
-    while (parts.size() < 4) {
-        const std::size_t end = text.find(separator, begin);
-        parts.push_back(text.substr(begin, end - begin));
-        if (end == std::wstring_view::npos)
-            break;
-        begin = end + 1;
+// The parts of a text between separators, empty ones included. Stops after four: no form has as many.
+class Parts {
+public:
+    Parts(std::wstring_view text, wchar_t separator) {
+        std::size_t begin = 0;
+        while (size_ < parts_.size()) {
+            const std::size_t end = text.find(separator, begin);
+            parts_[size_++] = text.substr(begin, end - begin);
+            if (end == std::wstring_view::npos)
+                break;
+            begin = end + 1;
+        }
     }
-    return parts;
-}
+
+    [[nodiscard]] std::size_t size() const { return size_; }
+    std::wstring_view operator[](std::size_t i) const { return parts_[i]; }
+
+private:
+    std::array<std::wstring_view, 4> parts_;
+    std::size_t size_ = 0;
+};
 
 std::optional<double> length(std::wstring_view text, const PointContext& context) {
     return parseLength(text, -1, context.settings);
 }
 
 // x,y or x,y,z
-std::optional<ZrGeVector3d> cartesian(const std::vector<std::wstring_view>& parts, const PointContext& context) {
+std::optional<ZrGeVector3d> cartesian(const Parts& parts, const PointContext& context) {
     const auto x = length(parts[0], context);
     const auto y = length(parts[1], context);
     const auto z = parts.size() == 3 ? length(parts[2], context) : 0.0;
@@ -46,8 +54,7 @@ std::optional<ZrGeVector3d> cartesian(const std::vector<std::wstring_view>& part
 }
 
 // d<a, with z when it is given
-std::optional<ZrGeVector3d> cylindrical(const std::vector<std::wstring_view>& polar, std::optional<double> z,
-                                        const PointContext& context) {
+std::optional<ZrGeVector3d> cylindrical(const Parts& polar, std::optional<double> z, const PointContext& context) {
     const auto distance = length(polar[0], context);
     const auto angle = parseAngle(polar[1], -1, context.settings);
     if (!distance || !angle || !z)
@@ -56,7 +63,7 @@ std::optional<ZrGeVector3d> cylindrical(const std::vector<std::wstring_view>& po
 }
 
 // d<a<b. The angle up from the plane has no base and no direction, only a unit.
-std::optional<ZrGeVector3d> spherical(const std::vector<std::wstring_view>& polar, const PointContext& context) {
+std::optional<ZrGeVector3d> spherical(const Parts& polar, const PointContext& context) {
     UnitSettings upward = context.settings;
     upward.angleBase = 0;
     upward.clockwise = false;
@@ -70,8 +77,8 @@ std::optional<ZrGeVector3d> spherical(const std::vector<std::wstring_view>& pola
 }
 
 std::optional<ZrGeVector3d> coordinates(std::wstring_view text, const PointContext& context) {
-    const auto parts = split(text, L',');
-    const auto polar = split(parts[0], L'<');
+    const Parts parts(text, L',');
+    const Parts polar(parts[0], L'<');
     if (polar.size() == 1) {
         const bool known = parts.size() == 2 || (parts.size() == 3 && context.allowZ);
         return known ? cartesian(parts, context) : std::nullopt;

@@ -120,6 +120,7 @@ Block& Structure::addBlock(ObjectEntry* record, const ZrString& name) {
     block.name = name;
     const auto begins = [&](std::wstring_view space) { return startsWithFolded(name, space); };
     block.isLayout = begins(kModelSpace) || begins(kPaperSpace);
+    block.byType[file_.typeNumber("LIGHT")];
     byRecord_.emplace(record, &block);
     byName_.try_emplace(name, &block);
     if (record->handle != 0)
@@ -128,7 +129,7 @@ Block& Structure::addBlock(ObjectEntry* record, const ZrString& name) {
 }
 
 Block* Structure::findBlock(std::wstring_view name) const {
-    const auto found = byName_.find(ZrString(name));
+    const auto found = byName_.find(name);
     return found == byName_.end() ? nullptr : found->second;
 }
 
@@ -194,7 +195,7 @@ std::size_t Structure::addEntity(Block& block, std::size_t record, std::size_t e
     while (next < end && isPartOfEntity(file_.typeName(file_.record(next).type)))
         ++next;
     entry.recordCount = static_cast<std::uint32_t>(next - record);
-    block.entities.push_back(&entry);
+    addToLists(block, entry);
     return next;
 }
 
@@ -255,6 +256,10 @@ const std::vector<ObjectEntry*>& Structure::entitiesOf(Block& block, dxf::NameId
 
 void Structure::append(Block& block, ObjectEntry& entity) {
     entity.owner = block.record;
+    addToLists(block, entity);
+}
+
+void Structure::addToLists(Block& block, ObjectEntry& entity) {
     block.entities.push_back(&entity);
     if (const auto found = block.byType.find(entity.type); found != block.byType.end())
         found->second.push_back(&entity);
@@ -262,7 +267,7 @@ void Structure::append(Block& block, ObjectEntry& entity) {
 
 ObjectEntry* Structure::activeViewport() {
     SymbolTable& viewports = table("VPORT");
-    const auto found = viewports.byName.find(ZrString(L"*Active"));
+    const auto found = viewports.byName.find(std::wstring_view(L"*Active"));
     return found == viewports.byName.end() ? nullptr : found->second;
 }
 

@@ -8,6 +8,7 @@
 #include "host/sys/case_fold.h"
 #include "sdk/sys/string.h"
 
+#include <map>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -33,8 +34,9 @@ struct Block {
     std::vector<ObjectEntry*> entities; // in drawing order, erased ones too
     // Where new entities go in the file; 0: at the end of the ENTITIES section.
     std::uint64_t insertAt = 0;
-    // Entities of one type, made when first asked for.
-    std::unordered_map<dxf::NameId, std::vector<ObjectEntry*>> byType;
+    // Entities of one type: of lights from the start, so that the first light of a large drawing does not wait for a
+    // walk through it; of others when first asked for.
+    std::map<dxf::NameId, std::vector<ObjectEntry*>> byType;
     std::unique_ptr<LightNameIndex> lightNames;
 };
 
@@ -87,6 +89,7 @@ private:
     void addTableRecord(SymbolTable& table, std::size_t record);
     // Adds an entity with the records that belong to it (vertices, attributes); the index behind the last of them.
     std::size_t addEntity(Block& block, std::size_t record, std::size_t end);
+    static void addToLists(Block& block, ObjectEntry& entity);
     Block& addBlock(ObjectEntry* record, const ZrString& name);
     [[nodiscard]] Block* findBlock(std::wstring_view name) const;
     Block& blockForRecord(const dxf::Record& record);

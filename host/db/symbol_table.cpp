@@ -38,7 +38,7 @@ ZrRxClass* ZrDbSymbolTable::desc() {
     return &description;
 }
 
-Quor::ErrorStatus ZrDbSymbolTable::getIdAt(const ZrString& name, ZrDbObjectId& id) const {
+Quor::ErrorStatus ZrDbSymbolTable::getIdAt(std::wstring_view name, ZrDbObjectId& id) const {
     const quor::db::SymbolTable* table = tableOf(*this);
     if (table == nullptr)
         return Quor::eKeyNotFound;
@@ -51,7 +51,7 @@ Quor::ErrorStatus ZrDbSymbolTable::getIdAt(const ZrString& name, ZrDbObjectId& i
     return Quor::eOk;
 }
 
-bool ZrDbSymbolTable::has(const ZrString& name) const {
+bool ZrDbSymbolTable::has(std::wstring_view name) const {
     ZrDbObjectId id;
     return getIdAt(name, id) == Quor::eOk;
 }

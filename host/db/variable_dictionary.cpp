@@ -32,7 +32,7 @@ const ObjectEntry* VariableDictionary::dictionary() const {
     return found != nullptr && found->isInFile() ? found : nullptr;
 }
 
-const dxf::Record* VariableDictionary::recordOf(const ZrString& name) const {
+const dxf::Record* VariableDictionary::recordOf(std::wstring_view name) const {
     const ObjectEntry* variables = dictionary();
     if (variables == nullptr)
         return nullptr;
@@ -40,15 +40,16 @@ const dxf::Record* VariableDictionary::recordOf(const ZrString& name) const {
     return found != nullptr && found->isInFile() ? &file_.record(found->record) : nullptr;
 }
 
-std::optional<ZrString> VariableDictionary::get(const ZrString& name) const {
+std::optional<ZrString> VariableDictionary::get(std::wstring_view name) const {
     if (const auto found = set_.find(name); found != set_.end())
         return found->second.value;
-    const auto [read, isNew] = read_.try_emplace(name);
+    if (const auto read = read_.find(name); read != read_.end())
+        return read->second;
+    std::optional<ZrString>& read = read_[ZrString(name)];
     dxf::Tag tag;
-    if (isNew)
-        if (const dxf::Record* record = recordOf(name); record != nullptr && file_.findTag(*record, 1, tag))
-            read->second = file_.text(tag);
-    return read->second;
+    if (const dxf::Record* record = recordOf(name); record != nullptr && file_.findTag(*record, 1, tag))
+        read = file_.text(tag);
+    return read;
 }
 
 std::optional<ZrString> VariableDictionary::set(const ZrString& name, std::optional<ZrString> value) {

@@ -13,7 +13,7 @@ public:
     VariableDictionary(DrawingFile& file, ObjectTable& objects, Structure& structure)
         : file_(file), objects_(objects), structure_(structure) {}
 
-    [[nodiscard]] std::optional<ZrString> get(const ZrString& name) const;
+    [[nodiscard]] std::optional<ZrString> get(std::wstring_view name) const;
     // Sets a variable (nothing: as the file has it) and answers what was set before.
     std::optional<ZrString> set(const ZrString& name, std::optional<ZrString> value);
 
@@ -22,9 +22,10 @@ public:
         ZrString value;
         std::uint64_t newHandle = 0;
     };
-    [[nodiscard]] const std::map<ZrString, Set>& allSet() const { return set_; }
+    using AllSet = std::map<ZrString, Set, std::less<>>;
+    [[nodiscard]] const AllSet& allSet() const { return set_; }
     // The record of a variable in the file, or null.
-    [[nodiscard]] const dxf::Record* recordOf(const ZrString& name) const;
+    [[nodiscard]] const dxf::Record* recordOf(std::wstring_view name) const;
     // The dictionary in the file, or null; and the handle that a new one gets, taken when a variable was set.
     [[nodiscard]] const ObjectEntry* dictionary() const;
     [[nodiscard]] std::uint64_t newDictionaryHandle() const { return newDictionaryHandle_; }
@@ -42,9 +43,9 @@ private:
     DrawingFile& file_;
     ObjectTable& objects_;
     Structure& structure_;
-    std::map<ZrString, Set> set_;
-    mutable std::map<ZrString, std::optional<ZrString>> read_; // what was looked up in the file before
-    std::map<ZrString, std::uint64_t> handles_;                // given out before, so that redo gives the same again
+    AllSet set_;
+    mutable std::map<ZrString, std::optional<ZrString>, std::less<>> read_; // what was looked up in the file before
+    std::map<ZrString, std::uint64_t> handles_; // given out before, so that redo gives the same again
     std::uint64_t newDictionaryHandle_ = 0;
     std::uint64_t newRootHandle_ = 0;
 };

@@ -51,10 +51,10 @@ Outcome Asking::run() {
             return std::move(*outcome);
 }
 
-std::optional<Outcome> Asking::read(const Answer& answer) {
+std::optional<Outcome> Asking::read(Answer answer) {
     switch (answer.kind) {
     case Answer::Kind::Text:
-        return readText(answer.text);
+        return readText(std::move(answer.text));
     case Answer::Kind::Point:
         if (rules_.wanted == Wanted::Point || rules_.wanted == Wanted::Distance || rules_.wanted == Wanted::Angle)
             return accept(drawing_.worldToUcs(answer.point));
@@ -77,14 +77,14 @@ std::optional<Outcome> Asking::read(const Answer& answer) {
     return std::nullopt;
 }
 
-std::optional<Outcome> Asking::readText(const ZrString& typed) {
+std::optional<Outcome> Asking::readText(ZrString typed) {
     if (const Text* const problem = whyNoText(typed)) {
         say(*problem);
         return std::nullopt;
     }
     if (ranTransparently(typed))
         return std::nullopt;
-    Reading reading = readAnswer(typed, rules_, drawing_);
+    Reading reading = readAnswer(std::move(typed), rules_, drawing_);
     if (const auto* refusal = std::get_if<Refusal>(&reading)) {
         printText(refusal->message);
         return std::nullopt;

@@ -48,8 +48,8 @@ public:
 
 private:
     [[nodiscard]] Answer askOnce();
-    [[nodiscard]] std::optional<Outcome> read(const Answer& answer);
-    [[nodiscard]] std::optional<Outcome> readText(const ZrString& typed);
+    [[nodiscard]] std::optional<Outcome> read(Answer answer);
+    [[nodiscard]] std::optional<Outcome> readText(ZrString typed);
     [[nodiscard]] Outcome accept(Reading reading);
     [[nodiscard]] bool ranTransparently(const ZrString& typed);
 

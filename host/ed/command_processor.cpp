@@ -69,7 +69,7 @@ CommandProcessor::Call CommandProcessor::resolve(const CommandWord& word) const 
     if (const Command* command = session_.commands().find(word))
         return {command, {}};
     if (!word.hostOnly && session_.variables().has(word.name))
-        return {session_.commands().find({kSetVariable, false, true, false}), word.name};
+        return {session_.commands().find({kSetVariable, false, true, false}), ZrString(word.name)};
     return {};
 }
 

@@ -1,36 +1,25 @@
 #include "host/ed/command_table.h"
 
-#include "host/sys/case_fold.h"
-
 #include <algorithm>
 #include <utility>
 
 namespace quor::ed {
 
-namespace {
-
-using Index = std::multimap<ZrString, const Command*>;
-
-void forget(Index& index, const ZrString& name, const Command* command) {
-    const auto [first, last] = index.equal_range(foldCase(name));
-    for (auto at = first; at != last; ++at)
-        if (at->second == command) {
-            index.erase(at);
-            return;
-        }
+void CommandTable::forget(Index& index, std::wstring_view name, const Command* command) {
+    if (const auto found = index.find(name); found != index.end())
+        std::erase(found->second, command);
 }
 
 // The command that was added last hides the ones before it.
-const Command* latest(const Index& index, const ZrString& folded, bool hostOnly) {
-    const auto [first, last] = index.equal_range(folded);
-    const Command* found = nullptr;
-    for (auto at = first; at != last; ++at)
-        if (!hostOnly || at->second->isHost)
-            found = at->second;
-    return found;
+const Command* CommandTable::latest(const Index& index, std::wstring_view name, bool hostOnly) {
+    const auto found = index.find(name);
+    if (found == index.end())
+        return nullptr;
+    const auto& commands = found->second;
+    const auto last = std::find_if(commands.rbegin(), commands.rend(),
+                                   [&](const Command* command) { return !hostOnly || command->isHost; });
+    return last == commands.rend() ? nullptr : *last;
 }
-
-} // namespace
 
 CommandWord parseCommandWord(std::wstring_view typed) {
     CommandWord word;
@@ -56,8 +45,8 @@ bool CommandTable::add(Command command) {
     if (command.localName.empty())
         command.localName = command.globalName;
     const Command* added = commands_.emplace_back(std::make_unique<Command>(std::move(command))).get();
-    byGlobalName_.emplace(foldCase(added->globalName), added);
-    byLocalName_.emplace(foldCase(added->localName), added);
+    byGlobalName_[added->globalName].push_back(added);
+    byLocalName_[added->localName].push_back(added);
     return true;
 }
 
@@ -92,17 +81,16 @@ void CommandTable::removeGroup(const ZrString& group) {
 }
 
 bool CommandTable::addAlias(const ZrString& alias, const ZrString& globalName) {
-    return !alias.empty() && aliases_.emplace(foldCase(alias), foldCase(globalName)).second;
+    return !alias.empty() && aliases_.emplace(alias, globalName).second;
 }
 
 const Command* CommandTable::find(const CommandWord& word) const {
-    const ZrString folded = foldCase(word.name);
     if (!word.globalOnly)
-        if (const Command* local = latest(byLocalName_, folded, word.hostOnly))
+        if (const Command* local = latest(byLocalName_, word.name, word.hostOnly))
             return local;
-    if (const Command* global = latest(byGlobalName_, folded, word.hostOnly))
+    if (const Command* global = latest(byGlobalName_, word.name, word.hostOnly))
         return global;
-    const auto alias = aliases_.find(folded);
+    const auto alias = aliases_.find(word.name);
     return alias == aliases_.end() ? nullptr : latest(byGlobalName_, alias->second, word.hostOnly);
 }
 
@@ -116,10 +104,9 @@ std::vector<const Command*> CommandTable::all() const {
 }
 
 std::vector<ZrString> CommandTable::aliasesOf(const ZrString& globalName) const {
-    const ZrString folded = foldCase(globalName);
     std::vector<ZrString> result;
     for (const auto& [alias, name] : aliases_)
-        if (name == folded)
+        if (equalFolded(name, globalName))
             result.push_back(foldCase(alias));
     return result;
 }

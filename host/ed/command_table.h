@@ -1,11 +1,13 @@
 // The commands that can be typed: by global name, local name and alias.
 #pragma once
 
+#include "host/sys/case_fold.h"
 #include "sdk/sys/string.h"
 
 #include <functional>
 #include <map>
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 namespace quor::ed {
@@ -27,12 +29,12 @@ inline constexpr int kNoRepeat = 4;    // Enter at the command prompt does not r
 
 // How a typed command word was spelled.
 struct CommandWord {
-    ZrString name;
+    std::wstring_view name;
     bool transparent = false; // a leading "'"
     bool hostOnly = false;    // a leading "."
     bool globalOnly = false;  // a leading "_"
 };
-// Takes the marks off the front ("'", ".", "_" in any order).
+// Takes the marks off the front ("'", ".", "_" in any order). Its name is a part of what was typed.
 [[nodiscard]] CommandWord parseCommandWord(std::wstring_view typed);
 
 class CommandTable {
@@ -53,10 +55,16 @@ public:
     [[nodiscard]] std::vector<ZrString> aliasesOf(const ZrString& globalName) const;
 
 private:
+    // The commands of each name, the latest last.
+    using Index = std::unordered_map<ZrString, std::vector<const Command*>, FoldedHash, FoldedEqual>;
+
+    static void forget(Index& index, std::wstring_view name, const Command* command);
+    [[nodiscard]] static const Command* latest(const Index& index, std::wstring_view name, bool hostOnly);
+
     std::vector<std::unique_ptr<Command>> commands_;
-    std::multimap<ZrString, const Command*> byGlobalName_; // folded
-    std::multimap<ZrString, const Command*> byLocalName_;  // folded
-    std::map<ZrString, ZrString> aliases_;                 // folded alias -> folded global name
+    Index byGlobalName_;
+    Index byLocalName_;
+    std::map<ZrString, ZrString, FoldedLess> aliases_; // alias -> global name
 };
 
 } // namespace quor::ed

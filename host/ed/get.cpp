@@ -25,10 +25,7 @@ public:
         rules_.flags = armed_.flags;
         rules_.low = low;
         rules_.high = high;
-        if (armed_.keywords.empty())
-            return;
-        keywords_ = cachedKeywords(armed_.keywords);
-        rules_.keywords = keywords_.get();
+        rules_.keywords = armed_.keywords.get();
     }
 
     [[nodiscard]] int flags() const { return rules_.flags; }
@@ -45,14 +42,12 @@ public:
         if (std::holds_alternative<Broken>(outcome))
             return RTERROR;
         reading = std::get<Reading>(std::move(outcome));
-        const ZrString* word = nullptr;
         if (const auto* keyword = std::get_if<KeywordAnswer>(&reading))
-            word = &keyword->word;
-        else if (const auto* other = std::get_if<TextAnswer>(&reading))
-            word = &other->text;
-        if (word == nullptr)
+            state().lastKeyword = keyword->word;
+        else if (auto* other = std::get_if<TextAnswer>(&reading))
+            state().lastKeyword = std::move(other->text);
+        else
             return RTNORM;
-        state().lastKeyword = *word;
         return RTKWORD;
     }
 
@@ -60,7 +55,6 @@ private:
     static InputState& state() { return Session::current().inputState(); }
 
     InputState::Armed armed_;
-    std::shared_ptr<const KeywordList> keywords_;
     Rules rules_;
 };
 
@@ -139,7 +133,7 @@ int getPoint(const ZrGePoint3d* base, const wchar_t* prompt, ZrGePoint3d& point)
 int zredInitGet(int flags, const wchar_t* keywords) {
     InputState& state = Session::current().inputState();
     state.flags = flags;
-    state.keywords = textOf(keywords);
+    state.keywords = keywords == nullptr || *keywords == L'\0' ? nullptr : cachedKeywords(keywords);
     return RTNORM;
 }
 
@@ -161,10 +155,7 @@ int zredGetKword(const wchar_t* prompt, ZrString& answer) {
     const GetCall call(Wanted::Keyword);
     Reading reading;
     const int result = call.finish(call.asking(prompt).run(), reading);
-    if (result != RTKWORD)
-        return result;
-    answer = Session::current().inputState().lastKeyword;
-    return RTNORM;
+    return result == RTKWORD ? zredGetInput(answer) : result;
 }
 
 int zredGetInt(const wchar_t* prompt, int& value) { return getInteger(prompt, INT_MIN, INT_MAX, value); }

@@ -2,6 +2,7 @@
 
 #include "host/sys/case_fold.h"
 
+#include <algorithm>
 #include <functional>
 #include <unordered_map>
 
@@ -23,22 +24,33 @@ std::vector<std::wstring_view> splitWords(std::wstring_view text) {
 }
 
 // The ranks, best first.
-using Rank = bool (*)(const KeywordSpelling& spelling, std::wstring_view foldedAnswer);
+using Rank = bool (*)(const KeywordSpelling& spelling, std::wstring_view answer);
 constexpr Rank kRanks[] = {
-    [](const KeywordSpelling& spelling, std::wstring_view answer) { return spelling.folded == answer; },
-    [](const KeywordSpelling& spelling, std::wstring_view answer) { return spelling.capitals == answer; },
+    [](const KeywordSpelling& spelling, std::wstring_view answer) { return equalFolded(spelling.word, answer); },
+    [](const KeywordSpelling& spelling, std::wstring_view answer) { return equalFolded(spelling.capitals, answer); },
     [](const KeywordSpelling& spelling, std::wstring_view answer) {
-        return spelling.shortest > 0 && answer.size() >= spelling.shortest &&
-               std::wstring_view(spelling.folded).substr(0, answer.size()) == answer;
+        return spelling.shortest > 0 && answer.size() >= spelling.shortest && startsWithFolded(spelling.word, answer);
     },
+};
+
+// The lists of a program differ in length, or in letters here and there; the rest is not worth a look at each question.
+struct ListHash {
+    using is_transparent = void;
+    std::size_t operator()(std::wstring_view list) const noexcept {
+        constexpr std::size_t kLooks = 8;
+        std::size_t hash = list.size();
+        for (std::size_t i = 0; i < list.size(); i += 1 + list.size() / kLooks)
+            hash = hash * 31 + static_cast<std::size_t>(list[i]);
+        return hash;
+    }
 };
 
 } // namespace
 
-KeywordSpelling::KeywordSpelling(std::wstring_view text) : word(text), folded(foldCase(text)) {
+KeywordSpelling::KeywordSpelling(std::wstring_view text) : word(text) {
     for (std::size_t i = 0; i < text.size(); ++i)
         if (isCapital(text[i])) {
-            capitals += foldChar(text[i]);
+            capitals += text[i];
             shortest = i + 1;
         }
 }
@@ -64,35 +76,25 @@ const ZrString* KeywordList::match(std::wstring_view answer) const {
         answer.remove_prefix(1);
     if (answer.empty())
         return nullptr;
-    const ZrString folded = foldCase(answer);
     const std::vector<KeywordSpelling>& spellings = asGlobal ? globals_ : locals_;
     for (const Rank matches : kRanks)
         for (std::size_t i = 0; i < spellings.size(); ++i)
-            if (matches(spellings[i], folded))
+            if (matches(spellings[i], answer))
                 return &globals_[i].word;
     return nullptr;
 }
 
 std::vector<ZrString> KeywordList::abbreviations() const {
     std::vector<ZrString> result;
-    for (const KeywordSpelling& local : locals_) {
-        ZrString capitals;
-        for (const wchar_t c : local.word)
-            if (isCapital(c))
-                capitals += c;
-        result.push_back(capitals.empty() ? local.word : capitals);
-    }
+    for (const KeywordSpelling& local : locals_)
+        result.push_back(local.capitals.empty() ? local.word : local.capitals);
     return result;
 }
 
 std::shared_ptr<const KeywordList> cachedKeywords(std::wstring_view text) {
-    struct Hash {
-        using is_transparent = void;
-        std::size_t operator()(std::wstring_view key) const { return std::hash<std::wstring_view>()(key); }
-    };
     // A program asks with a few dozen lists; texts made on the fly must not let the cache grow without end.
     constexpr std::size_t kMost = 256;
-    static std::unordered_map<ZrString, std::shared_ptr<const KeywordList>, Hash, std::equal_to<>> cache;
+    static std::unordered_map<ZrString, std::shared_ptr<const KeywordList>, ListHash, std::equal_to<>> cache;
     if (const auto known = cache.find(text); known != cache.end())
         return known->second;
     if (cache.size() >= kMost)

@@ -16,8 +16,7 @@ struct KeywordSpelling {
     explicit KeywordSpelling(std::wstring_view word);
 
     ZrString word;
-    ZrString folded;
-    ZrString capitals;        // its capital letters, folded
+    ZrString capitals;        // its capital letters
     std::size_t shortest = 0; // length of the shortest beginning that holds all its capital letters; 0: it has none
 };
 

@@ -120,7 +120,6 @@ Reading readValue(const ZrString& typed, const Rules& rules, const DrawingRules&
     case Wanted::Point:
         return readPoint(typed, rules, drawing);
     case Wanted::Text:
-        return TextAnswer{typed};
     case Wanted::Keyword:
         break;
     }
@@ -145,9 +144,9 @@ Refusal wrongKind(const Rules& rules) {
     return refuse(hasKeywords ? both.withKeywords : both.plain);
 }
 
-Reading readAnswer(const ZrString& typed, const Rules& rules, const DrawingRules& drawing) {
+Reading readAnswer(ZrString typed, const Rules& rules, const DrawingRules& drawing) {
     if (rules.wanted == Wanted::Text)
-        return TextAnswer{typed};
+        return TextAnswer{std::move(typed)};
     if (rules.keywords != nullptr)
         if (const ZrString* word = rules.keywords->match(typed))
             return KeywordAnswer{*word};
@@ -157,7 +156,7 @@ Reading readAnswer(const ZrString& typed, const Rules& rules, const DrawingRules
     const bool asksNumber = rules.wanted != Wanted::Keyword && rules.wanted != Wanted::Point;
     const bool isNumber = asksNumber && parseReal(typed, drawing).has_value();
     if (isNoValue && (rules.flags & RSG_OTHER) != 0 && !isNumber)
-        return TextAnswer{typed};
+        return TextAnswer{std::move(typed)};
     return value;
 }
 

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <optional>
+#include <string_view>
 #include <variant>
 
 namespace quor::ed {
@@ -32,7 +33,7 @@ struct DrawingRules {
 };
 
 struct KeywordAnswer {
-    ZrString word;
+    std::wstring_view word; // of the question's keyword list
 };
 struct TextAnswer {
     ZrString text;
@@ -43,7 +44,7 @@ struct Refusal {
 // Numbers: whole, real, a distance; an angle in radians. Points: UCS.
 using Reading = std::variant<long long, double, ZrGePoint3d, KeywordAnswer, TextAnswer, Refusal>;
 
-[[nodiscard]] Reading readAnswer(const ZrString& typed, const Rules& rules, const DrawingRules& drawing);
+[[nodiscard]] Reading readAnswer(ZrString typed, const Rules& rules, const DrawingRules& drawing);
 // Whether a value that did not come as text (a distance or an angle between two points) is allowed; else the refusal.
 [[nodiscard]] std::optional<Refusal> checkNumber(double value, int flags);
 // What is said to an answer of the wrong kind (Enter where it is none, a picked point where a keyword is asked).

@@ -129,7 +129,7 @@ private:
             return pickAt(*point);
         if (const auto* text = std::get_if<TextAnswer>(&reading))
             return pickDirectHandle(text->text);
-        const ZrString& word = std::get<KeywordAnswer>(reading).word;
+        const std::wstring_view word = std::get<KeywordAnswer>(reading).word;
         const Row* const row =
             std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& r) { return word == r.word; });
         return (this->*row->act)();
@@ -144,8 +144,8 @@ private:
     }
 
     bool pickLast() {
-        const ZrDbObjectIdArray all = entitiesOfCurrentSpace(document_);
-        return take(all.empty() ? all : ZrDbObjectIdArray{all.back()});
+        const ZrDbObjectId last = document_.drawing().lastEntity(document_.database()->currentSpaceId());
+        return take(last.isNull() ? ZrDbObjectIdArray() : ZrDbObjectIdArray{last});
     }
     bool pickPrevious() {
         ZrDbObjectIdArray found;

@@ -53,7 +53,7 @@ constexpr FoldRange foldRanges[] = {
     {0xA7B3, 0xA7B3, 928, 1},    {0xA7B4, 0xA7C2, 1, 2},      {0xA7C4, 0xA7C4, -48, 1},    {0xA7C5, 0xA7C5, -42307, 1},
     {0xA7C6, 0xA7C6, -35384, 1}, {0xA7C7, 0xA7C9, 1, 2},      {0xFF21, 0xFF3A, 32, 1}};
 
-constexpr wchar_t foldAscii(wchar_t c) { return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c + 32) : c; }
+} // namespace
 
 wchar_t foldWide(wchar_t c) {
     if (c < 0 || c > 0xFFFF)
@@ -68,10 +68,6 @@ wchar_t foldWide(wchar_t c) {
         return c;
     return static_cast<wchar_t>(c + range.delta);
 }
-
-} // namespace
-
-wchar_t foldChar(wchar_t c) { return c >= 0 && c < 0x80 ? foldAscii(c) : foldWide(c); }
 
 std::wstring foldCase(std::wstring_view text) {
     std::wstring folded(text);

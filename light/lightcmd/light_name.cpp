@@ -2,6 +2,9 @@
 
 namespace quor::light {
 
-ZrString defaultLightName(const ZrString& prefix, std::int16_t number) { return prefix + std::to_wstring(number); }
+ZrString defaultLightName(const ZrString& prefix, std::int16_t number) {
+    const std::string digits = std::to_string(number);
+    return prefix + ZrString(digits.begin(), digits.end());
+}
 
 } // namespace quor::light

@@ -27,8 +27,8 @@ public:
     [[nodiscard]] ZrRxClass* isA() const override { return desc(); }
 
     // eKeyNotFound when there is no record of that name that is not erased.
-    Quor::ErrorStatus getIdAt(const ZrString& name, ZrDbObjectId& id) const;
-    [[nodiscard]] bool has(const ZrString& name) const;
+    Quor::ErrorStatus getIdAt(std::wstring_view name, ZrDbObjectId& id) const;
+    [[nodiscard]] bool has(std::wstring_view name) const;
     // The records in the order of the drawing, erased ones left out.
     [[nodiscard]] std::vector<ZrDbObjectId> recordIds() const;
 
