@@ -3,8 +3,8 @@
 #include "console/options.h"
 #include "console/run_console.h"
 #include "console/signals.h"
+#include "host/sys/language_choice.h"
 #include "host/sys/settings_store.h"
-#include "host/sys/system_variables.h"
 #include "host/sys/utf8.h"
 #include "host/texts/console.h"
 
@@ -41,8 +41,8 @@ Streams ownStreams() {
 }
 
 Language usualLanguage() {
-    return SettingsStore().get(sys::kLanguageSection, sys::kLanguageKey) == L"en" ? Language::English
-                                                                                  : Language::Chinese;
+    SettingsStore settings;
+    return sys::languageOf(settings) == L"en" ? Language::English : Language::Chinese;
 }
 
 int run(std::span<const char* const> arguments) {

@@ -10,6 +10,7 @@
 #include "host/ed/input_state.h"
 #include "host/ed/support_files.h"
 #include "host/rx/module_loader.h"
+#include "host/sys/language_choice.h"
 #include "host/sys/problem_report.h"
 #include "host/sys/program_folder.h"
 #include "host/sys/resource_library.h"
@@ -26,17 +27,12 @@ namespace {
 
 Session* running = nullptr;
 
-// A text of the user's own that names no known language counts as none.
-ZrString usableLanguage(const ZrString& wanted) { return wanted == L"en" ? wanted : ZrString(L"zh"); }
-
 SessionOptions completed(SessionOptions options, SettingsStore& settings) {
     if (options.resourceFolder.empty())
         options.resourceFolder = sys::programFolder().parent_path() / "share" / "quor";
     if (options.moduleFolders.empty())
         options.moduleFolders.push_back(sys::defaultModuleFolder());
-    if (options.language.empty())
-        options.language = settings.get(sys::kLanguageSection, sys::kLanguageKey).value_or(L"zh");
-    options.language = usableLanguage(options.language);
+    options.language = options.language.empty() ? sys::languageOf(settings) : sys::languageOf(options.language);
     return options;
 }
 

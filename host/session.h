@@ -31,7 +31,7 @@ struct SessionOptions {
     std::filesystem::path settingsFile;               // empty: the user's own
     std::filesystem::path resourceFolder;             // language packs, colour books; empty: beside the program
     std::vector<std::filesystem::path> moduleFolders; // empty: beside the program
-    ZrString language;                                // "zh", "en"; empty: the user's setting, else "zh"
+    ZrString language;                                // "zh", "en", "auto"; empty: the user's setting, else "zh"
 };
 
 class Session {

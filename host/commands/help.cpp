@@ -8,6 +8,7 @@
 #include "host/sys/system_variables.h"
 #include "host/sys/text_width.h"
 #include "host/texts/commands.h"
+#include "host/texts/variables.h"
 
 #include <algorithm>
 #include <utility>
@@ -92,10 +93,18 @@ void showModuleCommand(const ed::Command& command) {
     printText(ZrString(L"\n") + command.globalName + L"\n" + indented(page) + L"\n");
 }
 
+void showVariable(const ZrString& name) {
+    say(texts::kHelpVariable, name);
+    const auto* note =
+        std::ranges::find_if(texts::variableNotes, [&](const auto& row) { return equalFolded(row.name, name); });
+    if (note != std::end(texts::variableNotes))
+        printText(L"\n" + indented(note->note.get()) + L"\n");
+}
+
 int showCommand(Session& session, const ZrString& name) {
     const ed::Command* command = session.commands().find(ed::parseCommandWord(name));
     if (command == nullptr && session.variables().has(name)) {
-        say(texts::kHelpVariable, name);
+        showVariable(name);
         return RTNORM;
     }
     if (command == nullptr)

@@ -27,7 +27,8 @@ inline constexpr Text kHelp{LR"(用法: quorc [选项]... [图形]
 如何运行
   -k, --keep-going        命令失败后继续执行脚本
       --quiet             除错误外不显示任何内容
-      --lang zh|en        界面语言(默认: 用户设置 LANGUAGE，否则为中文)
+      --lang zh|en        界面语言；默认为系统变量 LANGUAGE 所设: zh、en，或 auto(依照
+                          LC_ALL、LC_MESSAGES、LANG)；没有设置时为中文
       --module 文件       加载模块(可重复)；默认加载程序旁的 light
   -h, --help              显示本帮助
       --version           显示版本
@@ -75,7 +76,8 @@ The drawing
 How to run
   -k, --keep-going        go on with a script after a command has failed
       --quiet             show nothing but errors
-      --lang zh|en        language (default: the user's setting LANGUAGE, else Chinese)
+      --lang zh|en        language; by default what the system variable LANGUAGE was set to: zh, en or
+                          auto (as LC_ALL, LC_MESSAGES, LANG say); Chinese when it was not set
       --module FILE       load a module (repeatable); default: light, beside the program
   -h, --help              show this help
       --version           show the version

@@ -30,4 +30,19 @@ inline constexpr Text variableNotKept{
     L"The new value of system variable %s counts from the next start on, but it was not "
     L"kept: the user's settings cannot be written."};
 
+// What HELP tells of a variable beside its name.
+struct VariableNote {
+    const wchar_t* name;
+    Text note;
+};
+inline constexpr VariableNote variableNotes[] = {
+    {L"LANGUAGE",
+     {L"zh 为中文，en 为英文，auto 依照环境变量: LC_ALL、LC_MESSAGES、LANG 中\n"
+      L"第一个有值的以 en 开头时为英文，否则为中文。\n"
+      L"新值从下次启动起有效；启动时的 --lang zh 或 --lang en 只用于那一次。",
+      L"zh is Chinese, en is English, auto follows the environment: English when the first of LC_ALL,\n"
+      L"LC_MESSAGES and LANG that has a value begins with en, else Chinese.\n"
+      L"A new value takes effect at the next start; --lang zh and --lang en hold for one run."}},
+};
+
 } // namespace quor::texts

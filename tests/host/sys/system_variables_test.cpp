@@ -142,11 +142,13 @@ TEST_F(Variables, CurrentLayerHasToExistAndNotToBeHidden) {
     EXPECT_EQ(text(L"CLAYER"), L"Lamps");
 }
 
-TEST_F(Variables, LanguageIsOneOfTwo) {
+TEST_F(Variables, LanguageIsOneOfTwoOrThatOfTheEnvironment) {
     EXPECT_EQ(text(L"LANGUAGE"), L"en");
-    EXPECT_EQ(refusal(L"LANGUAGE", L"fr"), L"System variable LANGUAGE takes one of: zh/en.");
+    EXPECT_EQ(refusal(L"LANGUAGE", L"fr"), L"System variable LANGUAGE takes one of: zh/en/auto.");
     EXPECT_EQ(variables().setFromText(L"LANGUAGE", L"zh"), SetResult::Ok);
     EXPECT_EQ(text(L"LANGUAGE"), L"zh");
+    EXPECT_EQ(variables().setFromText(L"LANGUAGE", L"auto"), SetResult::Ok);
+    EXPECT_EQ(text(L"LANGUAGE"), L"auto");
 }
 
 TEST_F(Variables, UserVariableIsKeptInTheSettings) {
