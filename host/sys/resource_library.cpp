@@ -103,6 +103,12 @@ ZwResourceHandle ResourceLibrary::load(std::wstring_view name) {
     return module.get();
 }
 
+ZwResourceHandle ResourceLibrary::commandLibrary() {
+    if (!commandLibrary_)
+        commandLibrary_ = load(L"quorcmdres");
+    return *commandLibrary_;
+}
+
 std::unique_ptr<ResourceModule> ResourceLibrary::readModule(std::wstring_view name) {
     if (!isPlainName(name) || !isPlainName(language_))
         return nullptr;

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -58,6 +59,8 @@ public:
 
     // Null when the language has no such module, or it cannot be read. A name is a plain file name without extension.
     [[nodiscard]] ZwResourceHandle load(std::wstring_view name);
+    // The module of the host's command library, which is looked for once.
+    [[nodiscard]] ZwResourceHandle commandLibrary();
     // How many texts were taken out; see zwCheckResourceTexts().
     int check(ZwResourceHandle module, std::span<const ZwResourceText> builtIn);
 
@@ -73,6 +76,7 @@ private:
     std::filesystem::path folder_;
     ZrString language_;
     std::map<ZrString, std::unique_ptr<ResourceModule>, std::less<>> modules_; // null: looked for and not there
+    std::optional<ZwResourceHandle> commandLibrary_;
     std::vector<ResourceProblem> problems_;
 };
 

@@ -8,7 +8,7 @@ namespace quor::light {
 
 namespace {
 
-constexpr int textBufferSize = 1000;
+constexpr std::size_t longestText = 999;
 
 // Loaded together with the module, before the host sends it any message, and kept for the life of the process.
 const ZwResourceHandle keywordModule = zwLoadResourceModule(L"quorkwlres");
@@ -38,13 +38,13 @@ ZwResourceHandle moduleOf(TextSource source) {
 
 } // namespace
 
-LoadedText::LoadedText(const Text& text) : builtIn_(text.builtIn) {
-    const ZwResourceHandle module = moduleOf(text.source);
-    if (module == nullptr)
+LoadedText::LoadedText(const Text& text) : whole_(text.builtIn) {
+    const ZrString* const fromModule = zwFindResourceText(moduleOf(text.source), text.number);
+    if (fromModule == nullptr || fromModule->empty())
         return;
-    wchar_t buffer[textBufferSize];
-    if (const int length = LoadStringW(module, text.number, buffer, textBufferSize); length > 0)
-        fromModule_.assign(buffer, static_cast<std::size_t>(length));
+    whole_ = fromModule->c_str();
+    if (fromModule->size() > longestText)
+        cut_ = fromModule->substr(0, longestText);
 }
 
 void printText(const Text& text) { zrutPrintf(L"%s", LoadedText(text).c_str()); }

@@ -7,18 +7,18 @@
 
 namespace quor::light {
 
-// A text as it is shown: that of the resource module, or the built-in one when the module has none. Without a resource
-// module it costs nothing: the built-in text is referred to, not copied.
+// A text as it is shown: that of the resource module, or the built-in one when the module has none or an empty one. It
+// is referred to, not copied, except when it is cut: no text has more than 999 characters.
 class LoadedText {
 public:
     explicit LoadedText(const Text& text);
 
-    [[nodiscard]] const wchar_t* c_str() const { return fromModule_.empty() ? builtIn_ : fromModule_.c_str(); }
+    [[nodiscard]] const wchar_t* c_str() const { return cut_.empty() ? whole_ : cut_.c_str(); }
     [[nodiscard]] ZrString str() const { return c_str(); }
 
 private:
-    const wchar_t* builtIn_;
-    ZrString fromModule_;
+    const wchar_t* whole_;
+    ZrString cut_;
 };
 
 // Prints a text on the command line as it stands.

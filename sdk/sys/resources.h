@@ -19,6 +19,9 @@ using ZwResourceHandle = const quor::sys::ResourceModule*;
 // Copies text `number` into `buffer` (at most `size` - 1 characters, always terminated) and answers its length;
 // 0 when the handle is null or the module has no such text.
 int LoadStringW(ZwResourceHandle module, unsigned number, wchar_t* buffer, int size);
+// The same text where it lies, for programs that show it often: it stays there as long as the module does, unless
+// zwCheckResourceTexts takes it out. Null when the handle is null or the module has no such text.
+[[nodiscard]] const ZrString* zwFindResourceText(ZwResourceHandle module, unsigned number);
 
 // A text that is built into a program, beside its number in the resource modules.
 struct ZwResourceText {

@@ -1,5 +1,6 @@
-#include "light/res/load_text.h"
 #include "light/res/text_table.h"
+
+#include "sdk/sys/string.h"
 
 #include <algorithm>
 #include <cwchar>
@@ -69,18 +70,6 @@ TEST(TextTable, KeywordListsAndLocalNamesAreReadFromTheKeywordModule) {
 TEST(TextTable, TheListOfCharactersThatNamesMayNotHoldStandsBehindThirteenBlanks) {
     EXPECT_STREQ(texts.nameHasInvalidCharacters.builtIn,
                  L"名称中的字符无效。\n以下字符在光源名称中无效:\n             <>/\\\"':;?*|,=`");
-}
-
-TEST(LoadedText, WithoutAResourceModuleTheBuiltInTextIsReferredTo) {
-    const LoadedText loaded(texts.pointOptions);
-
-    EXPECT_STREQ(loaded.c_str(), texts.pointOptions.builtIn);
-}
-
-TEST(LoadedText, ATextThatIsBuiltInEmptyIsEmpty) {
-    const LoadedText loaded(texts.paletteTypeColumn);
-
-    EXPECT_EQ(loaded.str(), L"");
 }
 
 } // namespace
