@@ -45,6 +45,8 @@ const Row kCommands[] = {
     {L"SELECT",     commands::select, kWithDrawing, 0},
     {L"ERASE",      erase,          kWithDrawing, 0, {L"E"}},
     {L"LIST",       list,           kWithDrawing, 0, {L"LI", L"LS"}},
+    {L"LIGHTTABLE", lightTable,     kWithDrawing, 0},
+    {L"-LIGHTTABLE", lightTableAsFile, kWithDrawing, 0},
     {L"LINE",       line,           kWithDrawing, 0, {L"L"}},
     {L"3DFACE",     face,           kWithDrawing, 0, {L"3F"}},
     {L"IESINFO",    iesInfo,        kAnytime,     kNoUndo},

@@ -27,6 +27,8 @@ int redo(Session& session);
 int select(Session& session);
 int erase(Session& session);
 int list(Session& session);
+int lightTable(Session& session);
+int lightTableAsFile(Session& session);
 int line(Session& session);
 int face(Session& session);
 

@@ -17,7 +17,8 @@ namespace quor::commands {
 namespace {
 
 constexpr double kMostInFull = 1e15; // beyond it the digits of a length are no longer its own
-constexpr int kScientific = 1;       // as in LUNITS
+constexpr int kOfTheDrawing = -1;
+constexpr int kScientific = 1; // as in LUNITS
 constexpr int kDecimal = 2;
 constexpr int kFirstWithFeet = 3; // engineering
 constexpr int kLastWithFeet = 4;  // architectural
@@ -28,15 +29,26 @@ constexpr const wchar_t* kUnitSymbols[] = {L"",    L"in", L"ft", L"mi", L"mm", L
                                            L"mil", L"yd", L"Å",  L"nm", L"µm", L"dm", L"dam", L"hm", L"Gm",
                                            L"au",  L"ly", L"pc", L"ft", L"in", L"yd", L"mi"};
 
-ZrString unitSymbol() {
-    const sys::SystemVariables& variables = Session::current().variables();
-    const short format = variables.number(L"LUNITS");
-    const auto unit = static_cast<std::size_t>(variables.number(L"INSUNITS"));
-    const bool showsFeet = format >= kFirstWithFeet && format <= kLastWithFeet;
-    return showsFeet || unit >= std::size(kUnitSymbols) ? L"" : kUnitSymbols[unit];
+ZrString inFormat(double value, int format) {
+    if (!std::isfinite(value))
+        return kNoLength;
+    ZrString text;
+    zrdbRToS(value, std::abs(value) > kMostInFull ? kScientific : format, -1, text);
+    return text;
 }
 
 } // namespace
+
+ZrString drawingUnit() {
+    const auto unit = static_cast<std::size_t>(Session::current().variables().number(L"INSUNITS"));
+    return unit < std::size(kUnitSymbols) ? kUnitSymbols[unit] : L"";
+}
+
+ZrString shownUnit() {
+    const short format = Session::current().variables().number(L"LUNITS");
+    const bool showsFeet = format >= kFirstWithFeet && format <= kLastWithFeet;
+    return showsFeet ? ZrString() : drawingUnit();
+}
 
 ZrString Listing::text() const {
     int width = 0;
@@ -50,16 +62,12 @@ ZrString Listing::text() const {
     return result;
 }
 
-ZrString lengthText(double length) {
-    if (!std::isfinite(length))
-        return kNoLength;
-    ZrString text;
-    zrdbRToS(length, std::abs(length) > kMostInFull ? kScientific : -1, -1, text);
-    return text;
-}
+ZrString lengthText(double length) { return inFormat(length, kOfTheDrawing); }
+
+ZrString decimalText(double value) { return inFormat(value, kDecimal); }
 
 ZrString measureText(double length) {
-    const ZrString unit = unitSymbol();
+    const ZrString unit = shownUnit();
     return unit.empty() ? lengthText(length) : lengthText(length) + L" " + unit;
 }
 
@@ -79,12 +87,7 @@ ZrString vectorText(const ZrGeVector3d& world) {
 
 ZrString directionText(const ZrGeVector3d& world) {
     const ZrGeVector3d vector = zrdbWcs2Ucs(world);
-    const auto decimal = [](double value) {
-        ZrString text;
-        zrdbRToS(value, kDecimal, -1, text);
-        return text;
-    };
-    return L"X=" + decimal(vector.x) + L"  Y=" + decimal(vector.y) + L"  Z=" + decimal(vector.z);
+    return L"X=" + decimalText(vector.x) + L"  Y=" + decimalText(vector.y) + L"  Z=" + decimalText(vector.z);
 }
 
 // "%.8g" may give "-0", which is no number that people write.

@@ -33,6 +33,10 @@ private:
     std::vector<ZrString> lines_;
 };
 
+// The symbol of the drawing's unit of length; empty where it has none.
+[[nodiscard]] ZrString drawingUnit();
+// The same as it stands behind lengths: empty also where the format shows feet and inches.
+[[nodiscard]] ZrString shownUnit();
 // A length in the drawing's units and precision, a huge one with an exponent; a dash for what no number can hold.
 [[nodiscard]] ZrString lengthText(double length);
 // The same with the drawing's unit behind it, where it has one and the format does not show feet and inches.
@@ -44,6 +48,8 @@ private:
 [[nodiscard]] ZrString vectorText(const ZrGeVector3d& world);
 // A direction has no unit: its components are plain numbers in every unit format.
 [[nodiscard]] ZrString directionText(const ZrGeVector3d& world);
+// A number that is no length, in the drawing's precision; a huge one with an exponent.
+[[nodiscard]] ZrString decimalText(double value);
 // As few digits as tell it, at most eight.
 [[nodiscard]] ZrString numberText(double value);
 [[nodiscard]] ZrString degreesText(double radians);

@@ -100,6 +100,34 @@ constexpr HelpPage kPages[] = {
      {L"选择对象，与 SELECT 相同。",
       L"Select objects as in SELECT."},
      L"LIST ALL "},
+    {L"LIGHTTABLE", kObjects,
+     {L"以表格列出图形中的光源。",
+      L"Lists the lights of the drawing as tables."},
+     {L"选择光源，与 SELECT 相同；直接按 Enter 列出模型空间和所有布局中的全部光源。已经选好的对象直接列出，其中不是光源的只计数。\n"
+      L"分四个表: 光源、位置和目标、强度、颜色和阴影。坐标以当前 UCS 表示；名称过长时截短；没有任何内容的列不显示，“-”表示该光源没有此值。\n"
+      L"平行光没有位置，只有方向。LIGHTINGUNITS 为 0 时只有强度因子起作用，不显示 cd、lm 和照度。",
+      L"Select lights as in SELECT; Enter alone lists all lights of model space and of all layouts. What is selected already is "
+      L"listed at once; objects that are no lights are counted.\n"
+      L"There are four tables: lights, position and target, intensity, colour and shadows. Coordinates are those of the current "
+      L"UCS; long names are cut; a column with nothing in it is left out, \"-\" means that the light has no such value.\n"
+      L"A distant light has no position, only a direction. With LIGHTINGUNITS 0 only the intensity factor counts: cd, lm and "
+      L"illuminance are not shown."},
+     L"LIGHTTABLE "},
+    {L"-LIGHTTABLE", kObjects,
+     {L"把光源写入 CSV 或 JSON 文件，或以表格列出。",
+      L"Writes the lights into a CSV or JSON file, or lists them."},
+     {L"格式: 表格(T) 与 LIGHTTABLE 相同；CSV(C) 和 JSON(J) 写入文件，内容完整，字段名与语言无关，坐标为世界坐标。\n"
+      L"文件名: 可含空格；Enter 为图形所在文件夹中与图形同名的文件；没有扩展名时加上 .csv 或 .json。替换已有文件之前会询问。\n"
+      L"选择光源，与 LIGHTTABLE 相同。\n"
+      L"CSV 为 UTF-8，各列以逗号分隔。以 =、+、- 或 @ 开头的文字照原样写入；用电子表格打开时，请将各列作为文本导入。",
+      L"Format: Table is LIGHTTABLE; Csv and Json write a file, in full, with field names that are the same in every language "
+      L"and world coordinates.\n"
+      L"File name: may hold blanks; Enter takes the drawing's name and folder; .csv or .json is added to a name without "
+      L"extension. Asks before it replaces a file.\n"
+      L"Select lights as in LIGHTTABLE.\n"
+      L"CSV is UTF-8 with commas. A text that begins with =, +, - or @ stands as it is; import the columns as text when you open "
+      L"the file in a spreadsheet."},
+     L"-LIGHTTABLE T "},
     {L"IESINFO", kObjects,
      {L"说明光域网文件 (.ies) 的内容，或不能使用它的原因。",
       L"Tells what a photometric web file (.ies) holds, or why it cannot be used."},

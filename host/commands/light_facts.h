@@ -1,0 +1,57 @@
+// A light as the tables of lights tell of it: what counts for its kind, and nothing of what does not.
+#pragma once
+
+#include "sdk/db/light.h"
+#include "sdk/gi/photometric_intensity.h"
+
+#include <optional>
+
+namespace quor::commands {
+
+enum class LightKind { Point, TargetPoint, Spot, FreeSpot, Web, FreeWeb, Distant };
+
+// What the photometric values of a drawing depend on.
+struct PhotometricUnits {
+    int lightingUnits = lux;       // LIGHTINGUNITS
+    double unitsPerMillimetre = 1; // drawing units
+};
+
+struct LightFacts {
+    ZrDbHandle handle;
+    ZrString name;
+    LightKind kind = LightKind::Point;
+    ZrString layout; // of the sheet that it is on; empty: model space
+    ZrString layer;
+    bool on = true;
+
+    // World coordinates, drawing units. A distant light is nowhere; a free light has no target.
+    std::optional<ZrGePoint3d> position;
+    std::optional<ZrGePoint3d> target;
+    // Of length 1; none for point lights, which shine all around.
+    std::optional<ZrGeVector3d> direction;
+    // Full angles of spot lights in degrees.
+    std::optional<double> hotspot;
+    std::optional<double> falloff;
+
+    double factor = 1;
+    // The intensity in the unit that it is given in is the number that the drawing has; the others are converted.
+    // Parallel light has no flux and no illuminance at a distance. Without lighting units an illuminance has no unit,
+    // and nothing is converted to it or from it.
+    PhysicalIntensityMethod method = PhysicalIntensityMethod::kPeakIntensity;
+    std::optional<double> candela;
+    std::optional<double> lumen;
+    std::optional<double> illuminance;
+    double illuminanceDistance = 1;
+    int lightingUnits = lux; // of the drawing
+
+    std::optional<LampColorPreset> lampPreset; // one of the two
+    std::optional<double> lampKelvin;
+    ZrCmColor color;
+    ZrString webFile;
+    ZrGiShadowParameters shadows;
+};
+
+[[nodiscard]] LightKind kindOf(const ZrDbLight& light);
+[[nodiscard]] LightFacts factsOf(const ZrDbLight& light, const ZrString& layout, const PhotometricUnits& units);
+
+} // namespace quor::commands

@@ -1,0 +1,50 @@
+// A table of texts for a terminal: every column as wide as its widest text. A column without any text is left out;
+// where only some rows have one, a dash stands for it.
+#pragma once
+
+#include "sdk/sys/string.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace quor::commands {
+
+enum class Align { Left, Right };
+
+class TextTable {
+public:
+    // `gap`: the blanks before it.
+    void addColumn(const ZrString& heading, Align align, int gap = 2);
+    // Rows are filled cell by cell. Control characters in a text are spelled out.
+    void addCell(const ZrString& text);
+
+    [[nodiscard]] std::size_t rows() const { return columns_.empty() ? 0 : columns_.front().ends.size(); }
+    // A line each, its end included.
+    [[nodiscard]] ZrString heading() const;
+    [[nodiscard]] ZrString row(std::size_t index) const;
+
+private:
+    // The texts of a column stand in one string: most are too short to be worth memory of their own.
+    struct Column {
+        ZrString heading;
+        Align align = Align::Left;
+        int gap = 2;
+        int width = 0;
+        bool isUsed = false;
+        ZrString texts;
+        std::vector<std::size_t> ends;
+
+        [[nodiscard]] std::wstring_view text(std::size_t row) const;
+    };
+
+    template <class TextOf>
+    [[nodiscard]] ZrString line(TextOf textOf) const;
+
+    std::vector<Column> columns_;
+    std::size_t next_ = 0; // column of the next cell
+};
+
+// The beginning of a long text, "…" behind it, together no wider than `columns`.
+[[nodiscard]] ZrString cutToColumns(const ZrString& text, int columns);
+
+} // namespace quor::commands

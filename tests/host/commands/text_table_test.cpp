@@ -1,0 +1,99 @@
+#include "host/commands/text_table.h"
+
+#include <gtest/gtest.h>
+
+namespace quor::commands {
+
+namespace {
+
+class TheTable : public testing::Test {
+protected:
+    TheTable() {
+        table.addColumn(L"Name", Align::Left);
+        table.addColumn(L"cd", Align::Right);
+    }
+    void add(const ZrString& name, const ZrString& candela) {
+        table.addCell(name);
+        table.addCell(candela);
+    }
+
+    TextTable table;
+};
+
+TEST_F(TheTable, IsAsWideAsItsWidestTexts) {
+    add(L"a", L"1500.0000");
+    add(L"hall lamp", L"2.0000");
+
+    EXPECT_EQ(table.heading(), L"  Name              cd\n");
+    EXPECT_EQ(table.row(0), L"  a          1500.0000\n");
+    EXPECT_EQ(table.row(1), L"  hall lamp     2.0000\n");
+}
+
+TEST_F(TheTable, IsAsWideAsItsHeadingsAtLeast) {
+    add(L"a", L"1");
+
+    EXPECT_EQ(table.heading(), L"  Name  cd\n");
+    EXPECT_EQ(table.row(0), L"  a      1\n");
+}
+
+TEST_F(TheTable, CountsChineseCharactersAsTwoColumns) {
+    add(L"吊灯", L"1");
+    add(L"abcdef", L"2");
+
+    EXPECT_EQ(table.row(0), L"  吊灯     1\n");
+    EXPECT_EQ(table.row(1), L"  abcdef   2\n");
+}
+
+TEST_F(TheTable, HasNoBlanksAtTheEndOfALine) {
+    TextTable names;
+    names.addColumn(L"cd", Align::Right);
+    names.addColumn(L"Name", Align::Left);
+    names.addCell(L"1");
+    names.addCell(L"a");
+    names.addCell(L"2");
+    names.addCell(L"longer");
+
+    EXPECT_EQ(names.row(0), L"   1  a\n");
+    EXPECT_EQ(names.heading(), L"  cd  Name\n");
+}
+
+TEST_F(TheTable, ShowsADashForWhatARowHasNot) {
+    add(L"a", L"");
+    add(L"b", L"2000");
+
+    EXPECT_EQ(table.row(0), L"  a        -\n");
+}
+
+TEST_F(TheTable, LeavesOutAColumnWithoutAnyText) {
+    add(L"a", L"");
+    add(L"b", L"");
+
+    EXPECT_EQ(table.heading(), L"  Name\n");
+    EXPECT_EQ(table.row(1), L"  b\n");
+}
+
+TEST_F(TheTable, SpellsControlCharactersOut) {
+    add(L"a\x1B[2J", L"1");
+
+    EXPECT_EQ(table.row(0), L"  a^[[2J   1\n");
+}
+
+TEST(CutToColumns, KeepsWhatFits) {
+    EXPECT_EQ(cutToColumns(L"", 4), L"");
+    EXPECT_EQ(cutToColumns(L"abcd", 4), L"abcd");
+    EXPECT_EQ(cutToColumns(L"吊灯", 4), L"吊灯");
+}
+
+TEST(CutToColumns, ShowsThatSomethingIsMissing) {
+    EXPECT_EQ(cutToColumns(L"abcde", 4), L"abc…");
+    EXPECT_EQ(cutToColumns(L"吊灯台灯", 6), L"吊灯…");
+    EXPECT_EQ(cutToColumns(L"吊灯台灯", 7), L"吊灯台…");
+}
+
+TEST(CutToColumns, CutsANameOf255Characters) {
+    EXPECT_EQ(cutToColumns(ZrString(255, L'x'), 24), ZrString(23, L'x') + L"…");
+}
+
+} // namespace
+
+} // namespace quor::commands
