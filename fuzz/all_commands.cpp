@@ -1,0 +1,173 @@
+// Any answers at all commands, typed and from scripts, in either language: every command must end, Esc must lead back
+// to the command prompt, no control character may be shown, and every drawing must still save and open with all that it
+// held. What is typed stays in a scratch folder, so no command is left out.
+#include "fuzz/support/answer_maker.h"
+#include "fuzz/support/drawing_state.h"
+#include "fuzz/support/fuzzed_front_end.h"
+#include "fuzz/support/scratch.h"
+#include "host/document.h"
+#include "host/ed/command_processor.h"
+#include "host/rx/module_loader.h"
+#include "host/session.h"
+#include "host/sys/utf8.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace quor;
+
+// Longer ones find nothing that a short one does not, and take their time.
+constexpr std::size_t kMostBytes = 1024;
+
+[[noreturn]] void fail(const std::string& what) {
+    std::fprintf(stderr, "%s\n", what.c_str());
+    std::abort();
+}
+
+void require(bool holds, const char* what) {
+    if (!holds)
+        fail(what);
+}
+
+const std::filesystem::path& moduleFile() {
+    static const std::filesystem::path file = QUOR_BUILD_DIR "/lib/quor/modules/light.so";
+    return file;
+}
+
+fuzz::Scratch& scratch() {
+    static fuzz::Scratch folder;
+    return folder;
+}
+
+void keepFiles() {
+    const std::filesystem::path source = QUOR_SOURCE_DIR;
+    const std::filesystem::path drawings = source / "tests/data/dxf";
+    scratch().keep("r12.dxf", drawings / "ez_ASCII_R12.dxf");
+    scratch().keep("old.dxf", drawings / "own/light_2000.dxf");
+    scratch().keep("binary.dxf", drawings / "own/light_2000_binary.dxf");
+    scratch().keep("lit.dxf", drawings / "own/light_2018.dxf");
+    scratch().keep("broken.dxf", drawings / "ez_layout_broken_links.dxf");
+    scratch().keep("downlight.ies", source / "resources/webs/downlight.ies");
+    scratch().keep("wall_washer.ies", source / "resources/webs/wall_washer.ies");
+    scratch().keep("tilted.ies", source / "tests/data/ies/pp_tilt_include_v19.ies");
+    scratch().keep("lights.scr", source / "resources/samples/lights.scr");
+}
+
+// What the fuzzer is told unless somebody says otherwise. Looking for leaks after each run and weighing every place
+// that a run passes take ten times as long as the run; leaks are found at the end as well.
+constexpr std::array<const char*, 3> kDefaults{"-detect_leaks=0", "-entropic=0", "-max_len=1024"};
+
+bool isGiven(const std::vector<std::string>& arguments, const std::string& flag) {
+    const std::string name = flag.substr(0, flag.find('=') + 1);
+    return std::any_of(arguments.begin(), arguments.end(), [&](const auto& given) { return given.starts_with(name); });
+}
+
+// The fuzzer looks at its folders and writes what it finds from the scratch folder too.
+void completeArguments(std::vector<std::string>& arguments) {
+    const std::string here = std::filesystem::current_path().string();
+    for (std::string& argument : arguments) {
+        const bool isPath = argument.find('/') != std::string::npos || std::filesystem::exists(argument);
+        if (!argument.starts_with("-") && !argument.starts_with("/") && isPath)
+            argument.insert(0, here + "/");
+    }
+    std::vector<std::string> defaults(kDefaults.begin(), kDefaults.end());
+    defaults.push_back("-artifact_prefix=" + here + "/");
+    for (const std::string& flag : defaults)
+        if (!isGiven(arguments, flag))
+            arguments.push_back(flag);
+}
+
+std::string bytesOf(db::Database& drawing) {
+    auto bytes = drawing.toBytes();
+    // Before this version a drawing has no place for lights: saving says so.
+    constexpr const wchar_t* kFirstWithLights = L"AC1015";
+    if (!bytes.ok() && drawing.version() >= kFirstWithLights)
+        fail("not saved: " + toUtf8(bytes.error().message));
+    return bytes.ok() ? std::move(bytes).value() : std::string();
+}
+
+void checkOpensAgain(db::Database& drawing, const std::string& bytes) {
+    auto opened = db::Database::fromBytes(bytes);
+    if (!opened.ok())
+        fail("not opened: " + toUtf8(opened.error().message));
+    db::Database& again = *opened.value();
+    const std::string changed = fuzz::difference(fuzz::stateOf(drawing), fuzz::stateOf(again));
+    if (!changed.empty())
+        fail("opened with a difference: " + changed);
+    require(bytesOf(again) == bytes, "the second save differs from the first");
+}
+
+void checkUndo(db::Database& drawing, const std::string& bytes, bool isNew) {
+    const fuzz::DrawingState state = fuzz::stateOf(drawing);
+    const std::size_t depth = drawing.journal().undoDepth();
+    while (drawing.journal().undo()) {
+    }
+    static const std::string fresh = db::Database::makeNew()->toBytes().value();
+    require(!isNew || bytesOf(drawing) == fresh, "undoing everything leaves something");
+    while (drawing.journal().undoDepth() < depth && drawing.journal().redo()) {
+    }
+    const std::string changed = fuzz::difference(state, fuzz::stateOf(drawing));
+    if (!changed.empty())
+        fail("another drawing after undoing everything and redoing it: " + changed);
+    require(bytesOf(drawing) == bytes, "another file after undoing everything and redoing it");
+}
+
+void checkDrawing(const Document& document) {
+    db::Database& drawing = document.drawing();
+    const std::string bytes = bytesOf(drawing);
+    if (bytes.empty())
+        return;
+    checkOpensAgain(drawing, bytes);
+    checkUndo(drawing, bytes, drawing.isNew() && document.path().empty());
+}
+
+void runSession(fuzz::FuzzedFrontEnd& front, std::string_view bytes) {
+    const unsigned choice = static_cast<std::uint8_t>(bytes.front());
+    Session session(front, {.settingsFile = scratch().path() / "settings.ini",
+                            .resourceFolder = QUOR_BUILD_DIR "/share/quor",
+                            .moduleFolders = {moduleFile().parent_path()},
+                            .language = (choice & 1) != 0 ? L"en" : L"zh"});
+    session.documents().newDocument();
+    require(session.modules().loadModule(fromUtf8(moduleFile().string())) == Quor::eOk, "the module is not loaded");
+    fuzz::AnswerMaker maker(bytes.substr(1), session, scratch());
+    front.answerFrom(maker, static_cast<fuzz::Ending>(choice / 2 % 3));
+    while (session.processor().step() && !session.processor().quitRequested()) {
+    }
+    require(!session.processor().isRunning(), "a command has not ended");
+    for (const auto& document : session.documents().all())
+        checkDrawing(*document);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* count, char*** values) {
+    static std::vector<std::string> arguments(*values, *values + *count);
+    completeArguments(arguments);
+    static std::vector<char*> pointers;
+    std::transform(arguments.begin(), arguments.end(), std::back_inserter(pointers),
+                   [](std::string& argument) { return argument.data(); });
+    pointers.push_back(nullptr);
+    *count = static_cast<int>(arguments.size());
+    *values = pointers.data();
+    // The fuzzer keeps writing the module's coverage counters after a session has unloaded it: it must stay mapped.
+    require(dlopen(moduleFile().c_str(), RTLD_NOW | RTLD_NODELETE) != nullptr, "no module");
+    keepFiles();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    if (size == 0)
+        return 0;
+    fuzz::FuzzedFrontEnd front;
+    runSession(front, {reinterpret_cast<const char*>(data), std::min(size, kMostBytes)});
+    scratch().empty();
+    return 0;
+}

@@ -1,0 +1,64 @@
+// Turns a fuzzer's bytes into answers to the questions that a session asks.
+//
+// A line of text is typed as it stands. A byte from 0x80 to 0xBF, which begins no UTF-8 text, is an answer that goes
+// with the question: it says of which kind, and the byte behind it which one.
+#pragma once
+
+#include "host/ed/input_stack.h"
+#include "host/front.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace quor {
+class Session;
+}
+
+namespace quor::fuzz {
+
+class Scratch;
+
+class AnswerMaker {
+public:
+    AnswerMaker(std::string_view bytes, Session& session, const Scratch& scratch)
+        : rest_(bytes), session_(session), scratch_(scratch) {}
+
+    [[nodiscard]] bool atEnd() const { return rest_.empty(); }
+    // 0 when there is none left.
+    [[nodiscard]] std::uint8_t byte();
+    // May start a script or a program that answers the questions after this one.
+    [[nodiscard]] Answer personsAnswer(const Question& question);
+    [[nodiscard]] Answer programsAnswer(const Question& question);
+
+private:
+    using Make = Answer (AnswerMaker::*)(const Question& question, unsigned choice) const;
+    static const Make kMakes[];
+
+    [[nodiscard]] std::string_view line();
+    [[nodiscard]] Answer typed(std::wstring_view text) const;
+    void startScript(unsigned choice);
+    void startProgram(unsigned choice);
+
+    [[nodiscard]] Answer fitting(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer keyword(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer phrase(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer command(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer file(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer number(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer point(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer pick(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer name(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer selection(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer setting(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer transparent(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer garbage(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer longText(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer enter(const Question& question, unsigned choice) const;
+    [[nodiscard]] Answer escape(const Question& question, unsigned choice) const;
+
+    std::string_view rest_;
+    Session& session_;
+    const Scratch& scratch_;
+};
+
+} // namespace quor::fuzz

@@ -1,0 +1,84 @@
+#include "fuzz/support/fuzzed_front_end.h"
+
+#include "host/sys/visible_text.h"
+#include "host/ui/file_dialog_text.h"
+#include "host/ui/task_dialog_text.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+
+namespace quor::fuzz {
+
+namespace {
+
+// So many questions inside each other need one Esc each, with much to spare.
+constexpr int kMostEscapes = 50;
+
+// A terminal obeys control characters; none that somebody typed or a file holds may reach it.
+void checkShown(std::wstring_view text) {
+    const bool obeyed =
+        std::any_of(text.begin(), text.end(), [](wchar_t c) { return c != L'\n' && c != L'\t' && isControl(c); });
+    if (!obeyed)
+        return;
+    std::fputs("a control character is shown\n", stderr);
+    std::abort();
+}
+
+} // namespace
+
+void FuzzedFrontEnd::answerFrom(AnswerMaker& maker, Ending ending) {
+    maker_ = &maker;
+    ending_ = ending;
+}
+
+void FuzzedFrontEnd::print(std::wstring_view text) { checkShown(text); }
+
+Answer FuzzedFrontEnd::lastAnswer(const Question& question) {
+    if (ending_ == Ending::Broken)
+        return {Answer::Kind::Broken, {}, {}};
+    if (ending_ == Ending::End || question.kind == Question::Kind::Command)
+        return {Answer::Kind::End, {}, {}};
+    if (++escapes_ <= kMostEscapes)
+        return {Answer::Kind::Cancel, {}, {}};
+    std::fputs("Esc does not lead back to the command prompt\n", stderr);
+    std::abort();
+}
+
+Answer FuzzedFrontEnd::ask(const Question& question) {
+    checkShown(question.prompt);
+    return maker_->atEnd() ? lastAnswer(question) : maker_->personsAnswer(question);
+}
+
+void FuzzedFrontEnd::echo(const Question& question, std::wstring_view) { checkShown(question.prompt); }
+
+Answer FuzzedFrontEnd::drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) {
+    const Answer answer = ask(question);
+    if (answer.kind == Answer::Kind::Point) {
+        sample({0, 0, 0});
+        sample(answer.point);
+        sample(answer.point);
+    }
+    return answer;
+}
+
+TaskDialogAnswer FuzzedFrontEnd::showTaskDialog(const CZrUiTaskDialog& dialog) {
+    const unsigned choice = maker_->byte();
+    const bool asText = (choice & 1) != 0 || maker_->atEnd();
+    if (asText)
+        return ui::askTaskDialog(
+            dialog, [this](std::wstring_view text) { print(text); },
+            [this](const Question& question) { return ask(question); });
+    TaskDialogAnswer answer;
+    answer.checked = (choice & 2) != 0;
+    const std::size_t command = choice / 4 % (dialog.commands().size() + 1);
+    if (command < dialog.commands().size())
+        answer.command = dialog.commands()[command].id;
+    return answer;
+}
+
+FileAnswer FuzzedFrontEnd::chooseFile(const FileQuestion& question) {
+    return ui::askFile(question, [this](const Question& asked) { return ask(asked); });
+}
+
+} // namespace quor::fuzz

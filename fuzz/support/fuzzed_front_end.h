@@ -1,0 +1,32 @@
+// The front end of a fuzzed session: asks the answer maker for every answer, and Esc once it has no more.
+#pragma once
+
+#include "fuzz/support/answer_maker.h"
+#include "host/front.h"
+
+namespace quor::fuzz {
+
+// What comes when the answers are used up.
+enum class Ending { Escape, End, Broken };
+
+class FuzzedFrontEnd final : public FrontEnd {
+public:
+    // The maker needs the session, which needs the front end.
+    void answerFrom(AnswerMaker& maker, Ending ending);
+
+    void print(std::wstring_view text) override;
+    Answer ask(const Question& question) override;
+    void echo(const Question& question, std::wstring_view answer) override;
+    Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) override;
+    TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) override;
+    FileAnswer chooseFile(const FileQuestion& question) override;
+
+private:
+    [[nodiscard]] Answer lastAnswer(const Question& question);
+
+    AnswerMaker* maker_ = nullptr;
+    Ending ending_ = Ending::Escape;
+    int escapes_ = 0;
+};
+
+} // namespace quor::fuzz
