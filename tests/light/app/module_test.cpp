@@ -3,7 +3,6 @@
 #include "host/sys/resource_library.h"
 #include "light/app/command_rows.h"
 #include "sdk/rx/application.h"
-#include "sdk/rx/command.h"
 #include "tests/support/test_session.h"
 
 #include <fstream>
@@ -91,18 +90,6 @@ TEST(Module, TheLocalNamesOfItsCommandsAreThoseOfTheLanguage) {
     ASSERT_NE(command, nullptr);
     EXPECT_EQ(command->globalName, L"POINTLIGHT");
     EXPECT_EQ(command, findCommand(session, L"POINTLIGHT"));
-}
-
-TEST(CommandRows, TheBuiltInLocalNameOfEachCommandIsItsGlobalName) {
-    for (const light::CommandRow& row : light::commandRows())
-        EXPECT_STREQ(row.localName.builtIn, row.globalName);
-}
-
-TEST(CommandRows, PointLightMakesItsCommandObject) {
-    const std::unique_ptr<RxCommand> command(light::commandRows().front().make());
-
-    ASSERT_NE(command, nullptr);
-    EXPECT_STREQ(command->typeName(), L"POINTLIGHTCMD");
 }
 
 // A session with a language of its own, whose resource modules are given.
