@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Compares the two languages of every text of the host: placeholders, keywords in brackets, line breaks. A name may stand
-for one text only, since all of them share a namespace.
+"""Compares the two languages of every text of the host: placeholders, keywords in brackets, line breaks. The English one
+has no Chinese characters. A name may stand for one text only, since all of them share a namespace.
 
     check_texts.py FILE_OR_FOLDER...
 
@@ -17,6 +17,7 @@ PLACEHOLDER = re.compile(r"%[-+ #0]*\d*(?:\.\d+)?(?:l|ll)?[a-zA-Z%]")
 NAME = re.compile(r"inline constexpr Text (\w+)")
 BRACKETS = re.compile(r"\[([^\]]*)\]")
 LOCAL_KEYWORD = re.compile(r"(.*)\(([^()]+)\)$")
+CHINESE = re.compile(r"[\u2e80-\u9fff\uff00-\uffef]")
 
 
 def text_of(literals):
@@ -53,7 +54,7 @@ CHECKS = (
 
 
 def problems_in(source):
-    """(line, what is wrong) for every pair whose languages differ."""
+    """(line, what is wrong) for every pair whose languages differ or are mixed."""
     for pair in PAIR.finditer(source):
         chinese, english = text_of(pair.group(1)), text_of(pair.group(2))
         line = source.count("\n", 0, pair.start()) + 1
@@ -61,13 +62,15 @@ def problems_in(source):
             a, b = measure(chinese, True), measure(english, False)
             if a != b:
                 yield line, f"{what} differ: {a} in \"{chinese}\", {b} in \"{english}\""
+        if CHINESE.search(english):
+            yield line, f"Chinese characters in the English \"{english}\""
 
 
 def self_test():
     """The checker finds what it is for."""
     wrong = [
         '{L"a %s", L"a %d"}', '{L"a %s", L"a"}', '{L"[是(Y)/否(N)]", L"[Yes/nO]"}', '{L"[是(Y)]", L"[Yes/No]"}',
-        '{L"\\na", L"a"}', '{L"a", L""}', '{L"a <b>: ", L"a: "}',
+        '{L"\\na", L"a"}', '{L"a", L""}', '{L"a <b>: ", L"a: "}', '{L"甲。", L"a。"}', '{L"甲", L"a甲"}',
     ]
     right = [
         '{L"%d 个 %s", L"%d of %s"}', '{L"[闭合(C)/放弃(U)]", L"[Close/Undo]"}', '{L"[列出(?)/三点(3P)]", L"[?/3Point]"}',
