@@ -206,21 +206,28 @@ DrawingFacts drawingFacts(Session& session) {
     return facts;
 }
 
-std::string fileOf(Session& session, const Found& found, const LightFileFormat& format, const fs::path& path) {
+// In pieces, so that a long file is not copied again and again while it grows.
+std::vector<std::string> fileOf(Session& session, const Found& found, const LightFileFormat& format,
+                                const fs::path& path) {
+    constexpr std::size_t kPiece = 1 << 20;
     Progress progress(session, fillShown(texts::kTableWriting, textOf(path.filename())), found.lights.size());
-    std::string file = format.begin(drawingFacts(session));
+    std::vector<std::string> pieces{format.begin(drawingFacts(session))};
     bool isFirst = true;
     for (const LightFacts& light : found.lights) {
-        format.append(file, light, isFirst);
+        format.append(pieces.back(), light, isFirst);
         isFirst = false;
+        if (pieces.back().size() > kPiece)
+            pieces.emplace_back();
         progress.step();
     }
-    return file + format.end;
+    pieces.back() += format.end;
+    return pieces;
 }
 
 int write(Session& session, const Found& found, const LightFileFormat& format, const fs::path& path) {
-    const std::string file = fileOf(session, found, format, path);
-    if (const auto saved = dxf::saveAtomically(path, {file}, {.keepBackup = false}); !saved) {
+    const std::vector<std::string> file = fileOf(session, found, format, path);
+    const dxf::Segments segments(file.begin(), file.end());
+    if (const auto saved = dxf::saveAtomically(path, segments, {.keepBackup = false}); !saved) {
         printText(L"\n" + visibleText(db::describe(saved.error(), textOf(path))) + L"\n");
         return RTERROR;
     }

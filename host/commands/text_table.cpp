@@ -7,10 +7,14 @@
 
 namespace quor::commands {
 
-std::wstring_view TextTable::Column::text(std::size_t row) const {
-    const std::size_t begin = row == 0 ? 0 : ends[row - 1];
-    return std::wstring_view(texts).substr(begin, ends[row] - begin);
+namespace {
+
+// Most texts are numbers; they need no second look.
+bool isPrintableAscii(const ZrString& text) {
+    return std::all_of(text.begin(), text.end(), [](wchar_t c) { return c >= L' ' && c < 0x7F; });
 }
+
+} // namespace
 
 void TextTable::addColumn(const ZrString& heading, Align align, int gap) {
     Column column;
@@ -24,35 +28,46 @@ void TextTable::addColumn(const ZrString& heading, Align align, int gap) {
 void TextTable::addCell(const ZrString& text) {
     Column& column = columns_[next_];
     next_ = (next_ + 1) % columns_.size();
-    const ZrString shown = visibleText(text);
-    column.texts += shown;
-    column.ends.push_back(column.texts.size());
-    column.width = std::max(column.width, columnsOf(shown));
-    column.isUsed = column.isUsed || !shown.empty();
+    int width = static_cast<int>(text.size());
+    if (isPrintableAscii(text)) {
+        column.texts += text;
+    } else {
+        const ZrString shown = visibleText(text);
+        width = columnsOf(shown);
+        column.texts += shown;
+    }
+    column.cells.push_back({column.texts.size(), width});
+    column.width = std::max(column.width, width);
+    column.isUsed = column.isUsed || !text.empty();
 }
 
-template <class TextOf>
-ZrString TextTable::line(TextOf textOf) const {
+template <class ShownOf>
+ZrString TextTable::line(ShownOf shownOf) const {
     ZrString result;
     for (const Column& column : columns_) {
         if (!column.isUsed)
             continue;
-        const std::wstring_view text = textOf(column);
-        result.append(static_cast<std::size_t>(column.gap), L' ');
-        result += (column.align == Align::Left ? padRight(text, column.width) : padLeft(text, column.width));
+        const Shown shown = shownOf(column);
+        const auto blanks = static_cast<std::size_t>(column.width - shown.width);
+        result.append(static_cast<std::size_t>(column.gap) + (column.align == Align::Right ? blanks : 0), L' ');
+        result += shown.text;
+        result.append(column.align == Align::Left ? blanks : 0, L' ');
     }
     result.erase(result.find_last_not_of(L' ') + 1);
-    return result + L"\n";
+    return result += L'\n';
 }
 
 ZrString TextTable::heading() const {
-    return line([](const Column& column) { return std::wstring_view(column.heading); });
+    return line([](const Column& column) { return Shown{column.heading, columnsOf(column.heading)}; });
 }
 
 ZrString TextTable::row(std::size_t index) const {
     return line([&](const Column& column) {
-        const std::wstring_view text = column.text(index);
-        return text.empty() ? std::wstring_view(L"-") : text;
+        const Cell& cell = column.cells[index];
+        const std::size_t begin = index == 0 ? 0 : column.cells[index - 1].end;
+        if (cell.end == begin)
+            return Shown{L"-", 1};
+        return Shown{std::wstring_view(column.texts).substr(begin, cell.end - begin), cell.width};
     });
 }
 

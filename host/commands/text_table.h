@@ -5,6 +5,7 @@
 #include "sdk/sys/string.h"
 
 #include <cstddef>
+#include <string_view>
 #include <vector>
 
 namespace quor::commands {
@@ -18,12 +19,17 @@ public:
     // Rows are filled cell by cell. Control characters in a text are spelled out.
     void addCell(const ZrString& text);
 
-    [[nodiscard]] std::size_t rows() const { return columns_.empty() ? 0 : columns_.front().ends.size(); }
+    [[nodiscard]] std::size_t rows() const { return columns_.empty() ? 0 : columns_.front().cells.size(); }
     // A line each, its end included.
     [[nodiscard]] ZrString heading() const;
     [[nodiscard]] ZrString row(std::size_t index) const;
 
 private:
+    // Where the text of a cell ends among those of its column, and how many columns of a terminal it takes.
+    struct Cell {
+        std::size_t end = 0;
+        int width = 0;
+    };
     // The texts of a column stand in one string: most are too short to be worth memory of their own.
     struct Column {
         ZrString heading;
@@ -32,13 +38,15 @@ private:
         int width = 0;
         bool isUsed = false;
         ZrString texts;
-        std::vector<std::size_t> ends;
-
-        [[nodiscard]] std::wstring_view text(std::size_t row) const;
+        std::vector<Cell> cells;
+    };
+    struct Shown {
+        std::wstring_view text;
+        int width;
     };
 
-    template <class TextOf>
-    [[nodiscard]] ZrString line(TextOf textOf) const;
+    template <class ShownOf>
+    [[nodiscard]] ZrString line(ShownOf shownOf) const;
 
     std::vector<Column> columns_;
     std::size_t next_ = 0; // column of the next cell
