@@ -36,6 +36,12 @@ struct VariableNote {
     Text note;
 };
 inline constexpr VariableNote variableNotes[] = {
+    {L"DEFAULTLIGHTING",
+     {L"1 为打开默认光源，0 为关闭。打开时，光源命令先问是否关闭它；脚本中不问。\n"
+      L"勾选“始终执行我的当前选择”后不再询问；要恢复询问，请从用户设置文件中删去 allowCurSelectDialog。",
+      L"1 turns default lighting on, 0 off. While it is on, light commands ask first whether to turn it off; a\n"
+      L"script is not asked. Once the box of that question is ticked nobody is, until allowCurSelectDialog is\n"
+      L"taken out of the file of user settings."}},
     {L"LANGUAGE",
      {L"zh 为中文，en 为英文，auto 依照环境变量: LC_ALL、LC_MESSAGES、LANG 中\n"
       L"第一个有值的以 en 开头时为英文，否则为中文。\n"
@@ -43,6 +49,9 @@ inline constexpr VariableNote variableNotes[] = {
       L"zh is Chinese, en is English, auto follows the environment: English when the first of LC_ALL,\n"
       L"LC_MESSAGES and LANG that has a value begins with en, else Chinese.\n"
       L"A new value takes effect at the next start; --lang zh and --lang en hold for one run."}},
+    {L"LIGHTINGUNITS",
+     {L"0 为常规: 光源命令不可用；1 为光度控制，照度单位为英尺烛光(FC)；2 为光度控制，照度单位为勒克斯(Lx)。",
+      L"0 is generic: light commands cannot be used. 1 is photometric with foot-candles (FC), 2 with lux (Lx)."}},
 };
 
 } // namespace quor::texts
