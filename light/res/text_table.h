@@ -219,7 +219,7 @@ struct TextTable {
     Text freeSpotHelp{64005, lib, L"放置一个自由聚光灯: 没有目标的聚光灯，沿当前 UCS 的 Z 轴向下照射。\n只问源位置(Enter 为 0,0,0；在世界原点时沿世界坐标系的 Z 轴照射)，然后问要更改的选项，直到按 Enter 或 X；Esc 放弃这个光源。\n聚光角(H)、照射角(F): 最亮光锥和整个光锥的角度，0 到 160 度；\n照射角不大于聚光角时，聚光角改为照射角减 1 度。\n其余选项与 POINTLIGHT 相同。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: FREESPOT 0,0,3000 F 60 H 40 X"};
     Text freeWebHelp{64006, lib, L"放置一个自由光域灯光: 没有目标，配光来自光域网文件(.ies)，沿当前 UCS 的 Z 轴向下照射。\n只问源位置(Enter 为 0,0,0；在世界原点时沿世界坐标系的 Z 轴照射)，然后问要更改的选项，直到按 Enter 或 X；Esc 放弃这个光源。\n选项与 WEBLIGHT 相同。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: FREEWEB 0,0,3000 B F\ndownlight.ies\nE X"};
     Text distantLightHelp{64007, lib, L"放置一个平行光，例如阳光: 只有方向，亮度不随距离减弱。\n先问光源来向(Enter 为 0,0,0)和光源去向(Enter 为 1,1,1)，或用矢量(V)给出世界坐标系中的方向，例如 0,-0.5,-1；\n然后问要更改的选项，直到按 Enter 或 X；Esc 放弃这个光源。\n光度控制单位下平行光可能过度曝光，所以先问是否允许；脚本中不问。\n选项与 POINTLIGHT 相同，但没有衰减，光度(P)中的强度只用 Cd。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: DISTANTLIGHT 0,0,10 0,0,0 I 0.5 X"};
-    Text lightHelp{64008, lib, L"问光源的类型，然后与该类型自己的命令一样放置光源。\n点光源(P): POINTLIGHT。聚光灯(S): SPOTLIGHT。光域网(W): WEBLIGHT。目标点光源(T): TARGETPOINT。\n自由聚光灯(F): FREESPOT。自由光域(B): FREEWEB。平行光(D): DISTANTLIGHT。\nEnter 取上一次的类型；第一次为自由聚光灯。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: LIGHT P 0,0,3000 X"};
+    Text lightHelp{64008, lib, L"问光源的类型，然后与该类型自己的命令一样放置光源。\n点光源(P): POINTLIGHT。聚光灯(S): SPOTLIGHT。光域网(W): WEBLIGHT。目标点光源(T): TARGETPOINT。\n自由聚光灯(F): FREESPOT。自由光域(B): FREEWEB。平行光(D): DISTANTLIGHT。\nEnter 取上一次的类型；第一次为自由聚光灯。默认光源打开时先问是否关闭它；脚本中不问。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: LIGHT P 0,0,3000 X"};
     // clang-format on
 };
 
