@@ -61,29 +61,22 @@ void LightNameIndex::mark(const ZrString& name, bool taken) {
 }
 
 void LightNameIndex::add(const ZrString& name) {
-    if (++counts_[name] == 1)
+    if (counts_.add(name) == 1)
         mark(name, true);
 }
 
 void LightNameIndex::remove(const ZrString& name) {
-    const auto found = counts_.find(name);
-    if (found == counts_.end() || --found->second > 0)
-        return;
-    counts_.erase(found);
-    mark(name, false);
-}
-
-std::uint32_t LightNameIndex::count(const ZrString& name) const {
-    const auto found = counts_.find(name);
-    return found == counts_.end() ? 0 : found->second;
+    if (counts_.remove(name) == 0)
+        mark(name, false);
 }
 
 std::int16_t LightNameIndex::nextFree(const ZrString& prefix, std::int16_t start) {
     const auto [found, isNew] = numbers_.try_emplace(prefix);
     if (isNew)
-        for (const auto& [name, count] : counts_)
+        counts_.forEach([&](const ZrString& name) {
             if (const auto number = numberBehind(prefix, name))
                 found->second.set(*number, true);
+        });
     return found->second.firstFreeFrom(start).value_or(start);
 }
 

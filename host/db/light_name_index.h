@@ -2,6 +2,7 @@
 // behind a prefix. What it costs does not grow with the number of lights.
 #pragma once
 
+#include "host/db/name_counts.h"
 #include "host/sys/case_fold.h"
 #include "sdk/sys/string.h"
 
@@ -16,7 +17,7 @@ class LightNameIndex {
 public:
     void add(const ZrString& name);
     void remove(const ZrString& name);
-    [[nodiscard]] std::uint32_t count(const ZrString& name) const;
+    [[nodiscard]] std::uint32_t count(const ZrString& name) const { return counts_.count(name); }
 
     // The first of start, start + 1, … (16 bits, -32768 follows 32767) with which prefix and number make a name that no
     // light has; `start` when all 65,536 are taken.
@@ -35,7 +36,7 @@ private:
 
     void mark(const ZrString& name, bool taken);
 
-    std::unordered_map<ZrString, std::uint32_t, FoldedHash, FoldedEqual> counts_;
+    NameCounts counts_;
     std::unordered_map<ZrString, NumberSet, FoldedHash, FoldedEqual> numbers_; // by prefix, of those asked for
 };
 

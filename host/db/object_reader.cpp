@@ -116,7 +116,7 @@ std::uint64_t handleInGroup(const DrawingFile& file, const dxf::Record& record, 
 ObjectEntry* extensionDictionary(Database& database, const dxf::Record& record) {
     const DrawingFile& file = database.file();
     const std::uint64_t handle = handleInGroup(file, record, "{ACAD_XDICTIONARY");
-    ObjectEntry* found = handle == 0 ? nullptr : database.objects().find(handle);
+    ObjectEntry* found = handle == 0 ? nullptr : database.objects().findObject(handle);
     const bool isDictionary = found != nullptr && found->isInFile() && file.typeName(found->type) == "DICTIONARY";
     return isDictionary ? found : nullptr;
 }

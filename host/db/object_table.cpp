@@ -2,26 +2,44 @@
 
 namespace quor::db {
 
+namespace {
+
+using Index = std::unordered_map<std::uint64_t, ObjectEntry*>;
+
+void addTo(Index& index, ObjectEntry& entry) {
+    if (entry.handle != 0)
+        index.try_emplace(entry.handle, &entry);
+}
+
+ObjectEntry* lookUp(const Index& index, std::uint64_t handle) {
+    const auto found = index.find(handle);
+    return found == index.end() ? nullptr : found->second;
+}
+
+} // namespace
+
 ObjectEntry& ObjectTable::add(std::uint64_t handle, ObjectKind kind) {
     ObjectEntry& entry = entries_.emplace_back();
     entry.database = &database_;
     entry.handle = handle;
     entry.kind = kind;
-    if (indexed_ && handle != 0)
-        byHandle_.try_emplace(handle, &entry);
+    if (kind != ObjectKind::Entity)
+        objects_.push_back(&entry);
     return entry;
 }
 
 ObjectEntry* ObjectTable::find(std::uint64_t handle) const {
-    if (!indexed_) {
+    if (indexed_ == 0)
         byHandle_.reserve(entries_.size());
-        for (const ObjectEntry& entry : entries_)
-            if (entry.handle != 0)
-                byHandle_.try_emplace(entry.handle, const_cast<ObjectEntry*>(&entry));
-        indexed_ = true;
-    }
-    const auto found = byHandle_.find(handle);
-    return found == byHandle_.end() ? nullptr : found->second;
+    for (; indexed_ < entries_.size(); ++indexed_)
+        addTo(byHandle_, const_cast<ObjectEntry&>(entries_[indexed_]));
+    return lookUp(byHandle_, handle);
+}
+
+ObjectEntry* ObjectTable::findObject(std::uint64_t handle) const {
+    for (; indexedObjects_ < objects_.size(); ++indexedObjects_)
+        addTo(objectByHandle_, *objects_[indexedObjects_]);
+    return lookUp(objectByHandle_, handle);
 }
 
 std::uint64_t ObjectTable::takeHandles(std::uint64_t count) {

@@ -16,8 +16,11 @@ public:
 
     // A new place; its address stays the same for the life of the drawing.
     ObjectEntry& add(std::uint64_t handle, ObjectKind kind);
-    // The first object with this handle, erased or not, or null. Builds its index on first use.
+    // The first object with this handle, erased or not, or null. What was added since the last call is indexed then, so
+    // that making objects costs nothing here.
     [[nodiscard]] ObjectEntry* find(std::uint64_t handle) const;
+    // The same for what is no entity: few in most drawings, so that the first search does not wait for the entities.
+    [[nodiscard]] ObjectEntry* findObject(std::uint64_t handle) const;
     [[nodiscard]] std::size_t size() const { return entries_.size(); }
 
     // Handles are given out from here on.
@@ -35,8 +38,12 @@ private:
     std::deque<ObjectEntry> entries_;
     std::vector<ObjectEntry*> touched_;
     std::uint64_t next_ = 1;
-    mutable std::unordered_map<std::uint64_t, ObjectEntry*> byHandle_;
-    mutable bool indexed_ = false;
+    using Index = std::unordered_map<std::uint64_t, ObjectEntry*>;
+    std::vector<ObjectEntry*> objects_; // those that are no entities
+    mutable Index byHandle_;
+    mutable std::size_t indexed_ = 0; // so many entries are in the index
+    mutable Index objectByHandle_;
+    mutable std::size_t indexedObjects_ = 0; // so many of objects_
 };
 
 } // namespace quor::db

@@ -19,7 +19,7 @@ ObjectEntry* dictionaryEntry(const DrawingFile& file, const ObjectTable& objects
         if (tag.code == 3)
             found = tag.asTrimmed() == name;
         else if (found && isEntryHandle(tag.code))
-            return objects.find(tag.asHandle().value_or(0));
+            return objects.findObject(tag.asHandle().value_or(0));
     }
     return nullptr;
 }

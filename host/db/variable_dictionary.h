@@ -50,7 +50,7 @@ private:
     std::uint64_t newRootHandle_ = 0;
 };
 
-// The object that a dictionary names, or null.
+// The object (no entity) that a dictionary names, or null.
 [[nodiscard]] ObjectEntry* dictionaryEntry(const DrawingFile& file, const ObjectTable& objects,
                                            const dxf::Record& dictionary, std::string_view name);
 

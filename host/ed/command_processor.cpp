@@ -135,9 +135,9 @@ Verdict CommandProcessor::runInner(const Command& command) {
         frames_.pop_back();
         throw; // the outermost command's group is taken back as a whole
     }
-    const Frame frame = std::move(frames_.back());
+    Frame frame = std::move(frames_.back());
     frames_.pop_back();
-    return judge(frame);
+    return judge(std::move(frame));
 }
 
 Verdict CommandProcessor::runOutermost(const Command& command) {
@@ -174,9 +174,9 @@ Verdict CommandProcessor::runOutermost(const Command& command) {
     if (left != nullptr && left == session_.documents().current() && left->selectionChanges == selectionChanges &&
         !left->impliedSelection.empty())
         zredSetImpliedSelection({});
-    const Frame frame = std::move(frames_.back());
+    Frame frame = std::move(frames_.back());
     frames_.pop_back();
-    const Verdict verdict = judge(frame);
+    const Verdict verdict = judge(std::move(frame));
     tellDocumentReactors(session_, [&](ZrApDocumentReactor& listener) {
         if (verdict.kind == Verdict::Kind::Done)
             listener.commandEnded(name);
@@ -186,16 +186,19 @@ Verdict CommandProcessor::runOutermost(const Command& command) {
     return verdict;
 }
 
-Verdict CommandProcessor::judge(const Frame& frame) const {
-    const int result = frame.failed ? RTERROR : frame.result.value_or(RTNORM);
+Verdict CommandProcessor::judge(Frame frame) {
     using Kind = Verdict::Kind;
-    if (frame.failed)
-        return {Kind::Failed, result, frame.name};
-    if (frame.ended)
-        return {Kind::EndOfInput, result, frame.name};
-    if (result == RTNORM || result == RTNONE)
-        return {Kind::Done, result, frame.name};
-    return {frame.escaped || result == RTCAN ? Kind::Cancelled : Kind::Failed, result, frame.name};
+    const int result = frame.failed ? RTERROR : frame.result.value_or(RTNORM);
+    const auto kind = [&] {
+        if (frame.failed)
+            return Kind::Failed;
+        if (frame.ended)
+            return Kind::EndOfInput;
+        if (result == RTNORM || result == RTNONE)
+            return Kind::Done;
+        return frame.escaped || result == RTCAN ? Kind::Cancelled : Kind::Failed;
+    };
+    return {kind(), result, std::move(frame.name)};
 }
 
 Document* CommandProcessor::stillOpen(Document* document) const {

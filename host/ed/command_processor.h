@@ -88,7 +88,7 @@ private:
     Verdict execute(const Command& command, bool byProgram, bool transparent);
     Verdict runOutermost(const Command& command);
     Verdict runInner(const Command& command);
-    [[nodiscard]] Verdict judge(const Frame& frame) const;
+    [[nodiscard]] static Verdict judge(Frame frame);
     [[nodiscard]] Document* stillOpen(Document* document) const;
 
     Session& session_;

@@ -23,15 +23,16 @@ std::vector<std::wstring_view> splitWords(std::wstring_view text) {
     return words;
 }
 
-// The ranks, best first.
-using Rank = bool (*)(const KeywordSpelling& spelling, std::wstring_view answer);
-constexpr Rank kRanks[] = {
-    [](const KeywordSpelling& spelling, std::wstring_view answer) { return equalFolded(spelling.word, answer); },
-    [](const KeywordSpelling& spelling, std::wstring_view answer) { return equalFolded(spelling.capitals, answer); },
-    [](const KeywordSpelling& spelling, std::wstring_view answer) {
-        return spelling.shortest > 0 && answer.size() >= spelling.shortest && startsWithFolded(spelling.word, answer);
-    },
-};
+// 1 is the best; kNoRank: the answer does not stand for the word.
+constexpr int kNoRank = 4;
+int rankOf(const KeywordSpelling& spelling, std::wstring_view answer) {
+    const bool begins = spelling.first == foldChar(answer.front()) && startsWithFolded(spelling.word, answer);
+    if (begins && answer.size() == spelling.word.size())
+        return 1;
+    if (answer.size() == spelling.capitals.size() && equalFolded(spelling.capitals, answer))
+        return 2;
+    return begins && spelling.shortest > 0 && answer.size() >= spelling.shortest ? 3 : kNoRank;
+}
 
 // The lists of a program differ in length, or in letters here and there; the rest is not worth a look at each question.
 struct ListHash {
@@ -47,7 +48,8 @@ struct ListHash {
 
 } // namespace
 
-KeywordSpelling::KeywordSpelling(std::wstring_view text) : word(text) {
+KeywordSpelling::KeywordSpelling(std::wstring_view text)
+    : word(text), first(text.empty() ? L'\0' : foldChar(text.front())) {
     for (std::size_t i = 0; i < text.size(); ++i)
         if (isCapital(text[i])) {
             capitals += text[i];
@@ -77,11 +79,14 @@ const ZrString* KeywordList::match(std::wstring_view answer) const {
     if (answer.empty())
         return nullptr;
     const std::vector<KeywordSpelling>& spellings = asGlobal ? globals_ : locals_;
-    for (const Rank matches : kRanks)
-        for (std::size_t i = 0; i < spellings.size(); ++i)
-            if (matches(spellings[i], answer))
-                return &globals_[i].word;
-    return nullptr;
+    const ZrString* best = nullptr;
+    int bestRank = kNoRank;
+    for (std::size_t i = 0; i < spellings.size() && bestRank > 1; ++i)
+        if (const int rank = rankOf(spellings[i], answer); rank < bestRank) {
+            best = &globals_[i].word;
+            bestRank = rank;
+        }
+    return best;
 }
 
 std::vector<ZrString> KeywordList::abbreviations() const {

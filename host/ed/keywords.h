@@ -17,6 +17,7 @@ struct KeywordSpelling {
 
     ZrString word;
     ZrString capitals;        // its capital letters
+    wchar_t first = 0;        // its first letter, folded
     std::size_t shortest = 0; // length of the shortest beginning that holds all its capital letters; 0: it has none
 };
 

@@ -9,6 +9,8 @@
 #include "sdk/db/entity.h"
 #include "sdk/sys/ads.h"
 
+#include <utility>
+
 namespace {
 
 // A space by the name of its block ("*Model_Space") or of its layout; null when there is none.
@@ -25,7 +27,50 @@ ZrDbObjectId spaceNamed(ZrDbDatabase& database, const ZrString& name) {
     return status == Quor::eOk ? id : ZrDbObjectId();
 }
 
+// The memory of a command that is gone. Without it every command would take a large block from the heap and give it
+// back, which has the heap put its small blocks in order each time.
+class SpareMemory {
+public:
+    ~SpareMemory() { ::operator delete(memory_); }
+
+    // Null when it is not large enough.
+    [[nodiscard]] void* take(std::size_t size) {
+        return size <= size_ ? (size_ = 0, std::exchange(memory_, nullptr)) : nullptr;
+    }
+    void keep(void* memory, std::size_t size) {
+        if (size > size_) {
+            std::swap(memory, memory_);
+            size_ = size;
+        }
+        ::operator delete(memory);
+    }
+
+private:
+    void* memory_ = nullptr;
+    std::size_t size_ = 0;
+};
+
+SpareMemory& spareMemory() {
+    static SpareMemory spare;
+    return spare;
+}
+
 } // namespace
+
+void* RxCommand::operator new(std::size_t size) {
+    void* const spare = spareMemory().take(size);
+    return spare != nullptr ? spare : ::operator new(size);
+}
+
+void* RxCommand::operator new(std::size_t size, const std::nothrow_t& tag) noexcept {
+    void* const spare = spareMemory().take(size);
+    return spare != nullptr ? spare : ::operator new(size, tag);
+}
+
+void RxCommand::operator delete(void* memory, std::size_t size) noexcept { spareMemory().keep(memory, size); }
+
+// The constructor threw.
+void RxCommand::operator delete(void* memory, const std::nothrow_t& /*tag*/) noexcept { ::operator delete(memory); }
 
 ZrDbObjectId RxCommand::postToDb(ZrDbEntity& entity, const wchar_t* spaceName, ZrDbDatabase* database, bool close) {
     ZrDbDatabase* target = database != nullptr ? database : zrdbWorkingDatabase();

@@ -56,7 +56,9 @@ constexpr FoldRange foldRanges[] = {
 } // namespace
 
 wchar_t foldWide(wchar_t c) {
-    if (c < 0 || c > 0xFFFF)
+    // Most of what is not Latin is Chinese, and far from all letters that have a case.
+    const bool isBetween = c > 0x2C7F && c < 0xA722;
+    if (isBetween || c < 0 || c > 0xFFFF)
         return c;
     const auto code = static_cast<std::uint32_t>(c);
     const auto* behind = std::upper_bound(std::begin(foldRanges), std::end(foldRanges), code,
@@ -80,8 +82,10 @@ bool equalFolded(std::wstring_view a, std::wstring_view b) { return a.size() == 
 bool startsWithFolded(std::wstring_view text, std::wstring_view beginning) {
     if (text.size() < beginning.size())
         return false;
-    return std::equal(beginning.begin(), beginning.end(), text.begin(),
-                      [](wchar_t x, wchar_t y) { return x == y || foldChar(x) == foldChar(y); });
+    for (std::size_t i = 0; i < beginning.size(); ++i)
+        if (text[i] != beginning[i] && foldChar(text[i]) != foldChar(beginning[i]))
+            return false;
+    return true;
 }
 
 int compareFolded(std::wstring_view a, std::wstring_view b) {

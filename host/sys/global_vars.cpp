@@ -10,7 +10,10 @@ ZrGlobalVarManager* ZrGlobalVarManager::instance() {
 int ZrGlobalVarManager::reg(int type, const wchar_t* name) {
     if (type < kString || type > kReal || name == nullptr || *name == L'\0')
         return kError;
-    return variables_.try_emplace(name, Variable{type, {}}).second ? kOk : kExists;
+    if (find(name) != nullptr)
+        return kExists;
+    variables_.emplace(name, Variable{type, {}});
+    return kOk;
 }
 
 const ZrGlobalVarManager::Variable* ZrGlobalVarManager::find(const wchar_t* name) const {

@@ -17,7 +17,18 @@
 namespace quor::sys {
 namespace {
 
-using RowIndex = std::unordered_map<std::wstring_view, const VariableRow*, FoldedHash, FoldedEqual>;
+// Names of variables differ in length or at their ends; few do not.
+struct NameHash {
+    std::size_t operator()(std::wstring_view name) const {
+        if (name.empty())
+            return 0;
+        const auto first = static_cast<std::size_t>(foldChar(name.front()));
+        const auto last = static_cast<std::size_t>(foldChar(name.back()));
+        return name.size() + 31 * first + 1009 * last;
+    }
+};
+
+using RowIndex = std::unordered_map<std::wstring_view, const VariableRow*, NameHash, FoldedEqual>;
 
 const RowIndex& rowIndex() {
     static const RowIndex index = [] {
@@ -109,8 +120,9 @@ SetResult check(const VariableRow& row, const VariableValue& value) {
 SystemVariables::SystemVariables(Session& session) : session_(session) {}
 
 const VariableRow* SystemVariables::row(std::wstring_view name) const {
-    const auto at = rowIndex().find(name);
-    return at == rowIndex().end() ? nullptr : at->second;
+    const RowIndex& index = rowIndex();
+    const auto at = index.find(name);
+    return at == index.end() ? nullptr : at->second;
 }
 
 bool SystemVariables::has(std::wstring_view name) const {

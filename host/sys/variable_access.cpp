@@ -53,7 +53,7 @@ SetResult writeDefaultLighting(Session& session, const VariableValue& value) {
 VariableValue readLightingUnits(Session& session) {
     const db::Database& database = drawing(session);
     const auto text = database.dictionaryVariable(L"LIGHTINGUNITS");
-    if (text && text->size() == 1 && *text >= L"0" && *text <= L"2")
+    if (text && text->size() == 1 && text->front() >= L'0' && text->front() <= L'2')
         return static_cast<short>(text->front() - L'0');
     return static_cast<short>(database.isNew() ? 2 : 0);
 }

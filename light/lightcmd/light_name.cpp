@@ -3,8 +3,10 @@
 namespace quor::light {
 
 ZrString defaultLightName(const ZrString& prefix, std::int16_t number) {
-    const std::string digits = std::to_string(number);
-    return prefix + ZrString(digits.begin(), digits.end());
+    ZrString name = prefix;
+    for (const char digit : std::to_string(number))
+        name += static_cast<wchar_t>(digit);
+    return name;
 }
 
 } // namespace quor::light

@@ -5,6 +5,9 @@
 #include "sdk/ed/input_point_monitor.h"
 #include "sdk/rx/error_status.h"
 
+#include <cstddef>
+#include <new>
+
 class ZrDbDatabase;
 class ZrDbEntity;
 
@@ -17,6 +20,12 @@ public:
     virtual bool finishLight() { return true; }
     // Runs the command; the answer is a result code.
     virtual int execute() = 0;
+
+    // Commands are made and deleted one after the other: the memory of the last one serves the next.
+    static void* operator new(std::size_t size);
+    static void* operator new(std::size_t size, const std::nothrow_t& tag) noexcept;
+    static void operator delete(void* memory, std::size_t size) noexcept;
+    static void operator delete(void* memory, const std::nothrow_t& tag) noexcept;
 
     // Appends an entity to a space of `database` and answers its id, null when it could not be appended.
     // `spaceName` null: the current space; `database` null: the working database. On success the entity belongs to the

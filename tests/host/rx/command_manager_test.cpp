@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <stdexcept>
 
 using quor::ed::Verdict;
@@ -122,4 +123,36 @@ TEST_F(CommandManager, CommandIsCalledByAnotherOnlyFromAScript) {
     EXPECT_FALSE(called);
     session_.runScript("ASK\n");
     EXPECT_TRUE(called);
+}
+
+namespace {
+
+struct LargeCommand : WorkingCommand {
+    char more[4096] = {};
+};
+
+} // namespace
+
+TEST(CommandMemory, TheMemoryOfTheLastCommandServesTheNext) {
+    auto command = std::make_unique<WorkingCommand>();
+    const void* const before = command.get();
+    command.reset();
+
+    command = std::make_unique<WorkingCommand>();
+
+    EXPECT_EQ(command.get(), before);
+}
+
+TEST(CommandMemory, TwoCommandsAtATimeHaveMemoryOfTheirOwn) {
+    const auto outer = std::make_unique<WorkingCommand>();
+    const auto inner = std::make_unique<WorkingCommand>();
+    EXPECT_NE(outer.get(), inner.get());
+}
+
+TEST(CommandMemory, ALargerCommandGetsEnough) {
+    const void* const spare = std::make_unique<WorkingCommand>().get();
+
+    const auto large = std::make_unique<LargeCommand>();
+
+    EXPECT_NE(static_cast<const void*>(large.get()), spare);
 }
