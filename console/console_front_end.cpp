@@ -2,6 +2,7 @@
 
 #include "host/ed/input_stack.h"
 #include "host/session.h"
+#include "host/sys/visible_text.h"
 #include "host/ui/file_dialog_text.h"
 #include "host/ui/task_dialog_text.h"
 
@@ -35,7 +36,7 @@ ZrString ConsoleFrontEnd::lastMessage() const {
         return {};
     const std::size_t lineBreak = lastText_.rfind(L'\n', last);
     const std::size_t first = lastText_.find_first_not_of(kSpace, lineBreak == ZrString::npos ? 0 : lineBreak);
-    return lastText_.substr(first, last + 1 - first);
+    return visibleText(lastText_.substr(first, last + 1 - first));
 }
 
 void ConsoleFrontEnd::print(std::wstring_view text) {

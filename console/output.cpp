@@ -1,11 +1,15 @@
 #include "console/output.h"
 
 #include "host/sys/utf8.h"
+#include "host/sys/visible_text.h"
 
 namespace quor::console {
 
 namespace {
 constexpr std::size_t kBufferSize = std::size_t{1} << 16;
+
+constexpr wchar_t kFirstVisible = 0x20;
+constexpr wchar_t kDelete = 0x7F;
 } // namespace
 
 Output::Output(ByteSink sink, bool quiet) : sink_(std::move(sink)), quiet_(quiet) {
@@ -15,8 +19,11 @@ Output::Output(ByteSink sink, bool quiet) : sink_(std::move(sink)), quiet_(quiet
 
 void Output::append(std::wstring_view text) {
     for (const wchar_t c : text) {
-        if (c > 0 && c < 0x80)
+        const bool isLayout = c == L'\n' || c == L'\t';
+        if (isLayout || (c >= kFirstVisible && c < kDelete))
             buffer_.push_back(static_cast<char>(c));
+        else if (isControl(c))
+            buffer_ += toUtf8(visibleText({&c, 1}));
         else
             appendUtf8(buffer_, c);
     }

@@ -1,4 +1,5 @@
 // Standard output as a command-line screen: texts go into a large buffer that is written where somebody waits for it.
+// Control characters in them, which somebody typed or a script or drawing holds, are spelled out: a terminal obeys them.
 #pragma once
 
 #include "host/ed/screen_text.h"

@@ -1,6 +1,7 @@
 #include "console/terminal_reader.h"
 
 #include "console/columns.h"
+#include "host/sys/visible_text.h"
 
 #include <clocale>
 #include <cstdio>
@@ -98,7 +99,7 @@ Line TerminalReader::read(const Question& question) {
     output_.print(question.prompt.substr(0, lastLine));
     output_.freshLine();
     output_.flush();
-    prompt_ = question.prompt.substr(lastLine);
+    prompt_ = visibleText(question.prompt.substr(lastLine));
     question_ = &question;
     cancelled_ = false;
 

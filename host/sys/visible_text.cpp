@@ -30,6 +30,9 @@ ZrString spelledOut(wchar_t c) {
 } // namespace
 
 bool isControl(wchar_t c) {
+    // Most of the world's letters lie between the last two ranges.
+    if (c > kControls[std::size(kControls) - 2].last && c < kControls[std::size(kControls) - 1].first)
+        return false;
     return std::any_of(std::begin(kControls), std::end(kControls),
                        [c](const Range& range) { return c >= range.first && c <= range.last; });
 }

@@ -77,5 +77,21 @@ TEST_F(OutputTest, InvalidBytesComeOutAsTheyWentIn) {
     EXPECT_EQ(screen_, "a\xFF");
 }
 
+TEST_F(OutputTest, ControlCharactersOfPromptsAndAnswersAreSpelledOut) {
+    Output output = make();
+    output.print(L"\n名称 <\x1b[31m红>: ");
+    output.answer(L"a\rb\x9b"
+                  L"c\x202e");
+    output.flush();
+    EXPECT_EQ(screen_, "名称 <^[[31m红>: a^MbU+009BcU+202E\n");
+}
+
+TEST_F(OutputTest, LineBreaksAndTabsOfTextsStay) {
+    Output output = make();
+    output.print(L"\na\tb\nc");
+    output.flush();
+    EXPECT_EQ(screen_, "a\tb\nc");
+}
+
 } // namespace
 } // namespace quor::console
