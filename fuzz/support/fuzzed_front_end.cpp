@@ -1,5 +1,6 @@
 #include "fuzz/support/fuzzed_front_end.h"
 
+#include "host/sys/utf8.h"
 #include "host/sys/visible_text.h"
 #include "host/ui/file_dialog_text.h"
 #include "host/ui/task_dialog_text.h"
@@ -16,23 +17,26 @@ namespace {
 constexpr int kMostEscapes = 50;
 
 // A terminal obeys control characters; none that somebody typed or a file holds may reach it.
-void checkShown(std::wstring_view text) {
+int checkShown(std::string_view bytes) {
+    const ZrString text = fromUtf8(bytes);
     const bool obeyed =
         std::any_of(text.begin(), text.end(), [](wchar_t c) { return c != L'\n' && c != L'\t' && isControl(c); });
     if (!obeyed)
-        return;
+        return 0;
     std::fputs("a control character is shown\n", stderr);
     std::abort();
 }
 
 } // namespace
 
+FuzzedFrontEnd::FuzzedFrontEnd() : screen_(checkShown) {}
+
 void FuzzedFrontEnd::answerFrom(AnswerMaker& maker, Ending ending) {
     maker_ = &maker;
     ending_ = ending;
 }
 
-void FuzzedFrontEnd::print(std::wstring_view text) { checkShown(text); }
+void FuzzedFrontEnd::print(std::wstring_view text) { screen_.print(text); }
 
 Answer FuzzedFrontEnd::lastAnswer(const Question& question) {
     if (ending_ == Ending::Broken)
@@ -46,11 +50,15 @@ Answer FuzzedFrontEnd::lastAnswer(const Question& question) {
 }
 
 Answer FuzzedFrontEnd::ask(const Question& question) {
-    checkShown(question.prompt);
+    screen_.print(question.prompt);
+    screen_.answered();
     return maker_->atEnd() ? lastAnswer(question) : maker_->personsAnswer(question);
 }
 
-void FuzzedFrontEnd::echo(const Question& question, std::wstring_view) { checkShown(question.prompt); }
+void FuzzedFrontEnd::echo(const Question& question, std::wstring_view answer) {
+    screen_.print(question.prompt);
+    screen_.answer(answer);
+}
 
 Answer FuzzedFrontEnd::drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) {
     const Answer answer = ask(question);

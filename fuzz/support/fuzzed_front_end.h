@@ -1,6 +1,8 @@
-// The front end of a fuzzed session: asks the answer maker for every answer, and Esc once it has no more.
+// The front end of a fuzzed session: the screen of the console, and the answer maker in place of a person; Esc, or the
+// end of the input, once it has no more.
 #pragma once
 
+#include "console/output.h"
 #include "fuzz/support/answer_maker.h"
 #include "host/front.h"
 
@@ -11,6 +13,9 @@ enum class Ending { Escape, End, Broken };
 
 class FuzzedFrontEnd final : public FrontEnd {
 public:
+    FuzzedFrontEnd();
+    ~FuzzedFrontEnd() override { screen_.flush(); }
+
     // The maker needs the session, which needs the front end.
     void answerFrom(AnswerMaker& maker, Ending ending);
 
@@ -24,6 +29,7 @@ public:
 private:
     [[nodiscard]] Answer lastAnswer(const Question& question);
 
+    console::Output screen_;
     AnswerMaker* maker_ = nullptr;
     Ending ending_ = Ending::Escape;
     int escapes_ = 0;
