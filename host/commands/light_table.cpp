@@ -231,7 +231,7 @@ int write(Session& session, const Found& found, const LightFileFormat& format, c
         printText(L"\n" + visibleText(db::describe(saved.error(), textOf(path))) + L"\n");
         return RTERROR;
     }
-    sayShown(texts::kTableWritten, found.lights.size(), textOf(path));
+    sayShown(texts::kTableWritten, textOf(path), found.lights.size());
     sayOthers(found);
     const auto formulas = std::count_if(found.lights.begin(), found.lights.end(), looksLikeFormula);
     if (format.isForSpreadsheets && formulas > 0)

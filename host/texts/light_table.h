@@ -45,7 +45,7 @@ inline constexpr Text kTableShowing{L"正在列出光源", L"Listing lights"};
 inline constexpr Text kTableWriting{L"正在写入 %s", L"Writing %s"};
 
 // Files.
-inline constexpr Text kTableWritten{L"\n已将 %d 个光源写入 %s。\n", L"\nWrote lights: %d, to %s.\n"};
+inline constexpr Text kTableWritten{L"\n已写入 %s，光源 %d 个。\n", L"\nWritten to %s; lights: %d.\n"};
 inline constexpr Text kTableFormulas{
     L"\n其中 %d 个光源有以 =、+、- 或 @ 开头的文字。用电子表格打开时，请将各列作为文本导入。\n",
     L"\nLights with a text that begins with =, +, - or @: %d. Import the columns as text when you open the file in a "
