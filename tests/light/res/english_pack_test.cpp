@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <set>
 
 namespace quor::light {
 namespace {
@@ -74,6 +75,21 @@ INSTANTIATE_TEST_SUITE_P(All, EachKeywordList, testing::ValuesIn(textsWith(L" _"
 
 class EachHelpPage : public testing::TestWithParam<Text> {
 protected:
+    // Words of four capital letters and more.
+    static std::set<ZrString> namesIn(const ZrString& text) {
+        std::set<ZrString> names;
+        ZrString word;
+        for (const wchar_t c : text + L" ") {
+            if (c >= L'A' && c <= L'Z') {
+                word += c;
+                continue;
+            }
+            if (word.size() >= 4)
+                names.insert(word);
+            word.clear();
+        }
+        return names;
+    }
     static ZrString behind(const ZrString& text, std::wstring_view label) {
         return text.substr(text.find(label) + label.size());
     }
@@ -81,6 +97,10 @@ protected:
 
 TEST_P(EachHelpPage, HasTheSameExample) {
     EXPECT_EQ(behind(english().shown(GetParam()), L"\nExample: "), behind(GetParam().builtIn, L"\n例: "));
+}
+
+TEST_P(EachHelpPage, NamesTheSameCommandsAndVariables) {
+    EXPECT_EQ(namesIn(english().shown(GetParam())), namesIn(GetParam().builtIn));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, EachHelpPage, testing::ValuesIn(textsWith(L"\n例: ")),

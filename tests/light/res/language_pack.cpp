@@ -87,6 +87,7 @@ std::vector<Option> optionsOf(const ZrString& prompt) {
 
 std::vector<ZrString> abbreviationsOf(const std::vector<Option>& options) {
     std::vector<ZrString> abbreviations;
+    abbreviations.reserve(options.size());
     for (const Option& option : options)
         abbreviations.push_back(option.abbreviation);
     return abbreviations;
