@@ -74,10 +74,11 @@ int CZrDistantLightCmd::askVector() {
     }
 }
 
-// `from` in the coordinates of the UCS, as it was answered.
+// `from` in the coordinates of the UCS, as it was answered. A light that refuses one of the points ends the command.
 int CZrDistantLightCmd::askTarget(const ZrGePoint3d& from) {
     const ZrGePoint3d source = zrdbUcs2Wcs(from);
-    m_pLight->setPosition(source);
+    if (m_pLight->setPosition(source) != Quor::eOk)
+        return RTCAN;
     const LoadedText prompt(texts.distantToPrompt);
     for (;;) {
         ZrGePoint3d to = defaultTarget;
