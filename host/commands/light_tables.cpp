@@ -21,11 +21,12 @@ struct LightColumn {
     const Text& heading;
     Align align;
     ZrString (*value)(const LightFacts&); // empty: the light has none
-    int gap = 2;                          // blanks before it
+    bool isBesideLast = false;            // the next coordinate of a point
 };
 
 // Longer ones would push everything behind them off the screen; LIST and files have them in full.
 constexpr int kMostOfName = 24;
+constexpr int kWidest = 80; // of terminals, which may be wider and are rarely less
 
 template <std::size_t N, class E>
 ZrString word(const Text (&words)[N], E value) {
@@ -86,7 +87,7 @@ ZrString sizesText(const Shadows& shadows) {
 
 using P = ZrGePoint3d;
 using V = ZrGeVector3d;
-constexpr int kNarrow = 1; // between coordinates of one point
+constexpr bool kBesideLast = true;
 constexpr Text kX{L"X", L"X"};
 constexpr Text kY{L"Y", L"Y"};
 constexpr Text kZ{L"Z", L"Z"};
@@ -109,11 +110,11 @@ const LightColumn kWhat[] = {
 const LightColumn kWhere[] = {
     kName,
     {kX, Align::Right, [](F f) { return coordinate<&P::x>(f.position); }},
-    {kY, Align::Right, [](F f) { return coordinate<&P::y>(f.position); }, kNarrow},
-    {kZ, Align::Right, [](F f) { return coordinate<&P::z>(f.position); }, kNarrow},
+    {kY, Align::Right, [](F f) { return coordinate<&P::y>(f.position); }, kBesideLast},
+    {kZ, Align::Right, [](F f) { return coordinate<&P::z>(f.position); }, kBesideLast},
     {texts::kTableTargetX, Align::Right, [](F f) { return aim<&P::x, &V::x>(f, L"(", L""); }},
-    {texts::kTableTargetY, Align::Right, [](F f) { return aim<&P::y, &V::y>(f, L"", L""); }, kNarrow},
-    {texts::kTableTargetZ, Align::Right, [](F f) { return aim<&P::z, &V::z>(f, L"", L")"); }, kNarrow},
+    {texts::kTableTargetY, Align::Right, [](F f) { return aim<&P::y, &V::y>(f, L"", L""); }, kBesideLast},
+    {texts::kTableTargetZ, Align::Right, [](F f) { return aim<&P::z, &V::z>(f, L"", L")"); }, kBesideLast},
 };
 
 const LightColumn kIntensity[] = {
@@ -136,16 +137,22 @@ void printTable(const ZrString& title, std::span<const LightColumn> columns, std
                 const std::function<void()>& printed) {
     TextTable table;
     for (const LightColumn& column : columns)
-        table.addColumn(column.heading.get(), column.align, column.gap);
+        if (column.isBesideLast)
+            table.addBesideLast(column.heading.get(), column.align);
+        else
+            table.addColumn(column.heading.get(), column.align);
     for (const LightFacts& light : lights)
         for (const LightColumn& column : columns)
             table.addCell(column.value(light));
-    printText(L"\n" + title + L"\n" + table.heading());
-    for (std::size_t row = 0; row < table.rows(); ++row) {
-        printText(table.row(row));
-        printed();
+    printText(L"\n" + title);
+    for (const TextTable::Block& block : table.blocks(kWidest)) {
+        printText(L"\n" + table.heading(block));
+        for (std::size_t row = 0; row < table.rows(); ++row) {
+            printText(table.row(block, row));
+            printed();
+        }
+        printText(L"\n\n");
     }
-    printText(L"\n\n");
 }
 
 ZrString whereTitle() {

@@ -9,6 +9,8 @@ namespace quor::commands {
 
 namespace {
 
+constexpr int kNarrowGap = 1;
+
 // Most texts are numbers; they need no second look.
 bool isPrintableAscii(const ZrString& text) {
     return std::all_of(text.begin(), text.end(), [](wchar_t c) { return c >= L' ' && c < 0x7F; });
@@ -16,11 +18,15 @@ bool isPrintableAscii(const ZrString& text) {
 
 } // namespace
 
-void TextTable::addColumn(const ZrString& heading, Align align, int gap) {
+void TextTable::addBesideLast(const ZrString& heading, Align align) {
+    addColumn(heading, align);
+    columns_.back().gap = kNarrowGap;
+}
+
+void TextTable::addColumn(const ZrString& heading, Align align) {
     Column column;
     column.heading = heading;
     column.align = align;
-    column.gap = gap;
     column.width = columnsOf(heading);
     columns_.push_back(std::move(column));
 }
@@ -41,12 +47,44 @@ void TextTable::addCell(const ZrString& text) {
     column.isUsed = column.isUsed || !text.empty();
 }
 
-template <class ShownOf>
-ZrString TextTable::line(ShownOf shownOf) const {
-    ZrString result;
-    for (const Column& column : columns_) {
-        if (!column.isUsed)
+std::vector<TextTable::Block> TextTable::groups() const {
+    std::vector<Block> groups;
+    for (std::size_t column = 0; column < columns_.size(); ++column) {
+        if (!columns_[column].isUsed)
             continue;
+        if (groups.empty() || columns_[column].gap != kNarrowGap)
+            groups.emplace_back();
+        groups.back().push_back(column);
+    }
+    return groups;
+}
+
+int TextTable::widthOf(const Block& block) const {
+    int width = 0;
+    for (const std::size_t column : block)
+        width += columns_[column].gap + columns_[column].width;
+    return width;
+}
+
+std::vector<TextTable::Block> TextTable::blocks(int width) const {
+    const std::vector<Block> all = groups();
+    if (all.empty())
+        return {};
+    std::vector<Block> blocks{all.front()};
+    for (std::size_t group = 1; group < all.size(); ++group) {
+        const bool isFull = widthOf(blocks.back()) + widthOf(all[group]) > width;
+        if (isFull && blocks.back().size() > all.front().size())
+            blocks.push_back(all.front());
+        blocks.back().insert(blocks.back().end(), all[group].begin(), all[group].end());
+    }
+    return blocks;
+}
+
+template <class ShownOf>
+ZrString TextTable::line(const Block& block, ShownOf shownOf) const {
+    ZrString result;
+    for (const std::size_t index : block) {
+        const Column& column = columns_[index];
         const Shown shown = shownOf(column);
         const auto blanks = static_cast<std::size_t>(column.width - shown.width);
         result.append(static_cast<std::size_t>(column.gap) + (column.align == Align::Right ? blanks : 0), L' ');
@@ -57,12 +95,12 @@ ZrString TextTable::line(ShownOf shownOf) const {
     return result += L'\n';
 }
 
-ZrString TextTable::heading() const {
-    return line([](const Column& column) { return Shown{column.heading, columnsOf(column.heading)}; });
+ZrString TextTable::heading(const Block& block) const {
+    return line(block, [](const Column& column) { return Shown{column.heading, columnsOf(column.heading)}; });
 }
 
-ZrString TextTable::row(std::size_t index) const {
-    return line([&](const Column& column) {
+ZrString TextTable::row(const Block& block, std::size_t index) const {
+    return line(block, [&](const Column& column) {
         const Cell& cell = column.cells[index];
         const std::size_t begin = index == 0 ? 0 : column.cells[index - 1].end;
         if (cell.end == begin)

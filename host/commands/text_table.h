@@ -14,15 +14,20 @@ enum class Align { Left, Right };
 
 class TextTable {
 public:
-    // `gap`: the blanks before it.
-    void addColumn(const ZrString& heading, Align align, int gap = 2);
+    void addColumn(const ZrString& heading, Align align);
+    // A column that belongs to the one before it: always in the same block, only one blank away.
+    void addBesideLast(const ZrString& heading, Align align);
     // Rows are filled cell by cell. Control characters in a text are spelled out.
     void addCell(const ZrString& text);
 
     [[nodiscard]] std::size_t rows() const { return columns_.empty() ? 0 : columns_.front().cells.size(); }
+    // The columns of one block.
+    using Block = std::vector<std::size_t>;
+    // As few as make every line fit into `width`, unless a column is too wide for itself.
+    [[nodiscard]] std::vector<Block> blocks(int width) const;
     // A line each, its end included.
-    [[nodiscard]] ZrString heading() const;
-    [[nodiscard]] ZrString row(std::size_t index) const;
+    [[nodiscard]] ZrString heading(const Block& block) const;
+    [[nodiscard]] ZrString row(const Block& block, std::size_t index) const;
 
 private:
     // Where the text of a cell ends among those of its column, and how many columns of a terminal it takes.
@@ -34,7 +39,7 @@ private:
     struct Column {
         ZrString heading;
         Align align = Align::Left;
-        int gap = 2;
+        int gap = 2; // blanks before it
         int width = 0;
         bool isUsed = false;
         ZrString texts;
@@ -46,7 +51,10 @@ private:
     };
 
     template <class ShownOf>
-    [[nodiscard]] ZrString line(ShownOf shownOf) const;
+    [[nodiscard]] ZrString line(const Block& block, ShownOf shownOf) const;
+    // The columns that are used, those that belong together in one group.
+    [[nodiscard]] std::vector<Block> groups() const;
+    [[nodiscard]] int widthOf(const Block& block) const;
 
     std::vector<Column> columns_;
     std::size_t next_ = 0; // column of the next cell

@@ -104,12 +104,13 @@ constexpr HelpPage kPages[] = {
      {L"以表格列出图形中的光源。",
       L"Lists the lights of the drawing as tables."},
      {L"选择光源，与 SELECT 相同；直接按 Enter 列出模型空间和所有布局中的全部光源。已经选好的对象直接列出，其中不是光源的只计数。\n"
-      L"分四个表: 光源、位置和目标、强度、颜色和阴影。坐标以当前 UCS 表示；名称过长时截短；没有任何内容的列不显示，“-”表示该光源没有此值。\n"
+      L"分四个表: 光源、位置和目标、强度、颜色和阴影。坐标以当前 UCS 表示；名称过长时截短；宽于 80 列的表分段显示；没有任何内容的列不显示，“-”表示该光源没有此值。\n"
       L"平行光没有位置，只有方向。LIGHTINGUNITS 为 0 时只有强度因子起作用，不显示 cd、lm 和照度。",
       L"Select lights as in SELECT; Enter alone lists all lights of model space and of all layouts. What is selected already is "
       L"listed at once; objects that are no lights are counted.\n"
       L"There are four tables: lights, position and target, intensity, colour and shadows. Coordinates are those of the current "
-      L"UCS; long names are cut; a column with nothing in it is left out, \"-\" means that the light has no such value.\n"
+      L"UCS; long names are cut; a table wider than 80 columns is shown in parts; a column with nothing in it is left out, \"-\" "
+      L"means that the light has no such value.\n"
       L"A distant light has no position, only a direction. With LIGHTINGUNITS 0 only the intensity factor counts: cd, lm and "
       L"illuminance are not shown."},
      L"LIGHTTABLE "},

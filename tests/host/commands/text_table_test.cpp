@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace quor::commands {
 
 namespace {
@@ -17,6 +19,10 @@ protected:
         table.addCell(candela);
     }
 
+    ZrString heading() { return table.heading(table.blocks(kWidth).front()); }
+    ZrString row(std::size_t index) { return table.row(table.blocks(kWidth).front(), index); }
+
+    static constexpr int kWidth = 80;
     TextTable table;
 };
 
@@ -24,24 +30,24 @@ TEST_F(TheTable, IsAsWideAsItsWidestTexts) {
     add(L"a", L"1500.0000");
     add(L"hall lamp", L"2.0000");
 
-    EXPECT_EQ(table.heading(), L"  Name              cd\n");
-    EXPECT_EQ(table.row(0), L"  a          1500.0000\n");
-    EXPECT_EQ(table.row(1), L"  hall lamp     2.0000\n");
+    EXPECT_EQ(heading(), L"  Name              cd\n");
+    EXPECT_EQ(row(0), L"  a          1500.0000\n");
+    EXPECT_EQ(row(1), L"  hall lamp     2.0000\n");
 }
 
 TEST_F(TheTable, IsAsWideAsItsHeadingsAtLeast) {
     add(L"a", L"1");
 
-    EXPECT_EQ(table.heading(), L"  Name  cd\n");
-    EXPECT_EQ(table.row(0), L"  a      1\n");
+    EXPECT_EQ(heading(), L"  Name  cd\n");
+    EXPECT_EQ(row(0), L"  a      1\n");
 }
 
 TEST_F(TheTable, CountsChineseCharactersAsTwoColumns) {
     add(L"吊灯", L"1");
     add(L"abcdef", L"2");
 
-    EXPECT_EQ(table.row(0), L"  吊灯     1\n");
-    EXPECT_EQ(table.row(1), L"  abcdef   2\n");
+    EXPECT_EQ(row(0), L"  吊灯     1\n");
+    EXPECT_EQ(row(1), L"  abcdef   2\n");
 }
 
 TEST_F(TheTable, HasNoBlanksAtTheEndOfALine) {
@@ -53,29 +59,73 @@ TEST_F(TheTable, HasNoBlanksAtTheEndOfALine) {
     names.addCell(L"2");
     names.addCell(L"longer");
 
-    EXPECT_EQ(names.row(0), L"   1  a\n");
-    EXPECT_EQ(names.heading(), L"  cd  Name\n");
+    EXPECT_EQ(names.row(names.blocks(80)[0], 0), L"   1  a\n");
+    EXPECT_EQ(names.heading(names.blocks(80)[0]), L"  cd  Name\n");
 }
 
 TEST_F(TheTable, ShowsADashForWhatARowHasNot) {
     add(L"a", L"");
     add(L"b", L"2000");
 
-    EXPECT_EQ(table.row(0), L"  a        -\n");
+    EXPECT_EQ(row(0), L"  a        -\n");
 }
 
 TEST_F(TheTable, LeavesOutAColumnWithoutAnyText) {
     add(L"a", L"");
     add(L"b", L"");
 
-    EXPECT_EQ(table.heading(), L"  Name\n");
-    EXPECT_EQ(table.row(1), L"  b\n");
+    EXPECT_EQ(heading(), L"  Name\n");
+    EXPECT_EQ(row(1), L"  b\n");
 }
 
 TEST_F(TheTable, SpellsControlCharactersOut) {
     add(L"a\x1B[2J", L"1");
 
-    EXPECT_EQ(table.row(0), L"  a^[[2J   1\n");
+    EXPECT_EQ(row(0), L"  a^[[2J   1\n");
+}
+
+// Columns of 6 characters each: the name, a single number, the coordinates of a point.
+class AWideTable : public testing::Test {
+protected:
+    AWideTable() {
+        table.addColumn(L"Name", Align::Left);
+        table.addColumn(L"Factor", Align::Right);
+        table.addColumn(L"X", Align::Right);
+        table.addBesideLast(L"Y", Align::Right);
+        for (const wchar_t* text : {L"lights", L"1.0000", L"2.0000", L"3.0000"})
+            table.addCell(text);
+    }
+    std::vector<ZrString> rows(int width) {
+        std::vector<ZrString> rows;
+        for (const TextTable::Block& block : table.blocks(width))
+            rows.push_back(table.row(block, 0));
+        return rows;
+    }
+
+    TextTable table;
+};
+
+TEST_F(AWideTable, IsOneBlockWhereItFits) {
+    EXPECT_EQ(rows(31), std::vector<ZrString>({L"  lights  1.0000  2.0000 3.0000\n"}));
+}
+
+TEST_F(AWideTable, IsTwoBlocksThatBothBeginWithTheName) {
+    EXPECT_EQ(rows(30), std::vector<ZrString>({L"  lights  1.0000\n", L"  lights  2.0000 3.0000\n"}));
+}
+
+TEST_F(AWideTable, KeepsWhatBelongsTogether) {
+    EXPECT_EQ(rows(16), std::vector<ZrString>({L"  lights  1.0000\n", L"  lights  2.0000 3.0000\n"}));
+}
+
+TEST_F(AWideTable, HasACompanionWithEveryNameHoweverNarrowTheTerminal) {
+    EXPECT_EQ(rows(1), std::vector<ZrString>({L"  lights  1.0000\n", L"  lights  2.0000 3.0000\n"}));
+}
+
+TEST(ATableWithoutTexts, HasNoBlocks) {
+    TextTable table;
+    table.addColumn(L"Name", Align::Left);
+
+    EXPECT_TRUE(table.blocks(80).empty());
 }
 
 TEST(CutToColumns, KeepsWhatFits) {
