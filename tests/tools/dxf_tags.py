@@ -5,6 +5,7 @@ As a program it lists them: every tag with its place (line, or byte in a binary 
 with their records, a line each. As a module it gives `read(path)`, a Drawing.
 """
 import argparse
+import re
 import signal
 import struct
 import sys
@@ -194,6 +195,11 @@ def structure(drawing):
     elif b"$DWGCODEPAGE" in header:
         page = (header[b"$DWGCODEPAGE"].first(3) or b"").decode("ascii", "replace").strip().lower()
         drawing.encoding = CODE_PAGES.get(page, page.replace("ansi_", "cp") if page.startswith("ansi_") else "cp1252")
+
+
+def text_of(raw, encoding):
+    """A text, with the escapes for what the code page of an old drawing does not have."""
+    return re.sub(r"\\U\+([0-9A-Fa-f]{4})", lambda found: chr(int(found[1], 16)), raw.decode(encoding))
 
 
 def describe(record, encoding):

@@ -10,7 +10,6 @@ import csv
 import json
 import math
 import pathlib
-import re
 import subprocess
 import sys
 import tempfile
@@ -26,6 +25,8 @@ SHAPES = {0: ("linear", "length"), 1: ("rectangle", "length width"), 2: ("disk",
 MILLIMETRES = {4: 1.0, 6: 1000.0, 2: 304.8}  # of the unit, by INSUNITS
 REFERENCE_AREA = {1: 304.8 ** 2, 2: 1000.0 ** 2}  # of a foot-candle and a lux, in square millimetres
 ILLUMINANCE_UNIT = {0: None, 1: "fc", 2: "lx"}
+NUMBERED_COLORS = {1: "#FF0000", 4: "#00FFFF", 5: "#0000FF", 7: "#FFFFFF", 30: "#FF7F00", 40: "#FFBF00", 255: "#FFFFFF"}
+TRUE_COLOR = 0xC2
 SPHERE = 4 * math.pi
 SPOT_CONE = 0.3973980687964644  # stands for the cone of every spot light
 
@@ -38,10 +39,7 @@ def run(program, *arguments):
     done = subprocess.run([program, *map(str, arguments)], stdin=subprocess.DEVNULL, capture_output=True, timeout=60)
     if done.returncode:
         raise Failure(f"exit status {done.returncode}: {done.stderr.decode()}{done.stdout.decode()}")
-
-
-def text_of(raw, encoding):
-    return re.sub(r"\\U\+([0-9A-Fa-f]{4})", lambda found: chr(int(found[1], 16)), raw.decode(encoding))
+    return done.stdout.decode()
 
 
 class Tags:
@@ -60,7 +58,7 @@ class Tags:
             raise Failure(f"a record without {subclass}")
 
     def text(self, code):
-        return next((text_of(tag.text, self.encoding) for tag in self.tags if tag.code == code), None)
+        return next((dxf_tags.text_of(tag.text, self.encoding) for tag in self.tags if tag.code == code), None)
 
     def number(self, code):
         found = self.text(code)
@@ -88,7 +86,7 @@ def kind_of(light, photometry):
 def direction(position, target):
     difference = [to - at for at, to in zip(position, target)]
     length = math.hypot(*difference)
-    return [part / length for part in difference]
+    return [part / length if length else None for part in difference]
 
 
 def geometry(kind, light):
@@ -128,12 +126,13 @@ def intensities(kind, photometry, insunits, lighting_units):
 
 
 def color_of(light):
-    """Of a true colour the components and the names; white is the only numbered colour here."""
-    true = light.text(421)
+    """Of a true colour the components and the names. AC1015 has one word in place of the number and the components."""
+    number, true = light.number(63), light.text(421)
+    if number is None:
+        word = int([tag.text for tag in light.tags if tag.code == 90][-1])
+        number, true = word & 0xFF, word & 0xFFFFFF if word >> 24 & 0xFF == TRUE_COLOR else None
     if true is None:
-        if light.whole(63) != 7:
-            raise Failure("a numbered colour other than white")
-        return {"color": "#FFFFFF", "color_index": 7, "color_name": None}
+        return {"color": NUMBERED_COLORS[int(number)], "color_index": int(number), "color_name": None}
     return {"color": f"#{int(true):06X}", "color_index": None, "color_name": light.text(431)}
 
 
@@ -162,7 +161,7 @@ def expected_light(drawing, handles, record, insunits, lighting_units):
     by_preset = photometry.whole(71) == 1
     return {
         "handle": record.first(5).decode(), "name": light.text(1), "kind": kind, "space": "Model",
-        "layer": text_of(record.first(8), drawing.encoding), "on": light.whole(290) == 1,
+        "layer": dxf_tags.text_of(record.first(8), drawing.encoding), "on": light.whole(290) == 1,
         **geometry(kind, light),
         "intensity_factor": light.number(40),
         **intensities(kind, photometry, insunits, lighting_units),
