@@ -110,7 +110,8 @@ ZrString TextTable::row(const Block& block, std::size_t index) const {
 }
 
 ZrString cutToColumns(const ZrString& text, int columns) {
-    if (columnsOf(text) <= columns)
+    constexpr int kWidest = 2; // of characters
+    if (static_cast<int>(text.size()) * kWidest <= columns || columnsOf(text) <= columns)
         return text;
     int width = 1; // of the dots
     std::size_t length = 0;
