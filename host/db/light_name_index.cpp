@@ -72,12 +72,13 @@ void LightNameIndex::remove(const ZrString& name) {
 
 std::int16_t LightNameIndex::nextFree(const ZrString& prefix, std::int16_t start) {
     const auto [found, isNew] = numbers_.try_emplace(prefix);
+    NumberSet& numbers = found->second;
     if (isNew)
         counts_.forEach([&](const ZrString& name) {
             if (const auto number = numberBehind(prefix, name))
-                found->second.set(*number, true);
+                numbers.set(*number, true);
         });
-    return found->second.firstFreeFrom(start).value_or(start);
+    return numbers.firstFreeFrom(start).value_or(start);
 }
 
 } // namespace quor::db
