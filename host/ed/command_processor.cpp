@@ -128,13 +128,26 @@ Verdict CommandProcessor::execute(const Command& command, bool byProgram, bool t
 }
 
 Verdict CommandProcessor::runInner(const Command& command) {
+    Document* const document = session_.documents().current();
+    const bool grouped = document != nullptr && (command.flags & kNoUndo) == 0;
+    if (grouped) // counts where the outermost command has no group, as UNDO
+        document->drawing().journal().begin(command.globalName);
+    const auto endGroup = [&](bool failed) {
+        if (!grouped || stillOpen(document) == nullptr)
+            return;
+        if (failed)
+            document->drawing().journal().rollback();
+        document->drawing().journal().end();
+    };
     try {
         const int result = command.run();
         frames_.back().result = frames_.back().result.value_or(result);
     } catch (...) {
         frames_.pop_back();
+        endGroup(true);
         throw; // the outermost command's group is taken back as a whole
     }
+    endGroup(false);
     Frame frame = std::move(frames_.back());
     frames_.pop_back();
     return judge(std::move(frame));
