@@ -147,6 +147,14 @@ TEST_F(DistantLightTest, TheSecondPointHasARubberBandAndNoKeyword) {
     EXPECT_TRUE(front().lastKeywords().empty());
 }
 
+TEST_F(DistantLightTest, TheRubberBandBeginsAtTheFirstPointInAnyUcs) {
+    session_.run({L"UCS", L"10,20,30", L""});
+
+    run({L"1,2,3", L"^C"});
+
+    EXPECT_EQ(front().lastBase(), ZrGePoint3d(11, 22, 33)); // of the world
+}
+
 TEST_F(DistantLightTest, ThePointsArePicked) {
     front().pick({1, 2, 3});
     front().pick({1, 2, 3});
@@ -236,6 +244,15 @@ TEST_F(DistantLightTest, AVectorTakesItsPlaceFromTheOriginOfTheWorld) {
 
     EXPECT_EQ(light()->position(), ZrGePoint3d(0, 0, 0));
     EXPECT_EQ(light()->targetLocation(), ZrGePoint3d(0, 0.6, -0.8));
+}
+
+TEST_F(DistantLightTest, TheVectorThatIsShownIsMadeAsLongAs1Too) {
+    EXPECT_EQ(run({L"V", L"", L""}), RTNORM);
+
+    const ZrGePoint3d target = light()->targetLocation();
+    EXPECT_EQ(target.x, 0);
+    EXPECT_DOUBLE_EQ(target.y, -0.0099995000374968752);
+    EXPECT_DOUBLE_EQ(target.z, 0.99995000374968752);
 }
 
 TEST_F(DistantLightTest, AVectorLeavesThePositionAlone) {
