@@ -94,39 +94,47 @@ std::string bytesOf(db::Database& drawing) {
     return bytes.ok() ? std::move(bytes).value() : std::string();
 }
 
-void checkOpensAgain(db::Database& drawing, const std::string& bytes) {
+void requireSame(const fuzz::DrawingState& before, db::Database& drawing, const char* what) {
+    const std::string changed = fuzz::difference(before, fuzz::stateOf(drawing));
+    if (!changed.empty())
+        fail(std::string(what) + ": " + changed);
+}
+
+void checkOpensAgain(const fuzz::DrawingState& state, const std::string& bytes) {
     auto opened = db::Database::fromBytes(bytes);
     if (!opened.ok())
         fail("not opened: " + toUtf8(opened.error().message));
-    db::Database& again = *opened.value();
-    const std::string changed = fuzz::difference(fuzz::stateOf(drawing), fuzz::stateOf(again));
-    if (!changed.empty())
-        fail("opened with a difference: " + changed);
-    require(bytesOf(again) == bytes, "the second save differs from the first");
+    requireSame(state, *opened.value(), "opened with a difference");
+    require(bytesOf(*opened.value()) == bytes, "the second save differs from the first");
 }
 
-void checkUndo(db::Database& drawing, const std::string& bytes, bool isNew) {
-    const fuzz::DrawingState state = fuzz::stateOf(drawing);
+// Of an untouched new drawing the bytes are `fresh`.
+void checkUndo(db::Database& drawing, const fuzz::DrawingState& state, const std::string& bytes,
+               const std::string* fresh) {
     const std::size_t depth = drawing.journal().undoDepth();
     while (drawing.journal().undo()) {
     }
-    static const std::string fresh = db::Database::makeNew()->toBytes().value();
-    require(!isNew || bytesOf(drawing) == fresh, "undoing everything leaves something");
+    require(fresh == nullptr || bytesOf(drawing) == *fresh, "undoing everything leaves something");
     while (drawing.journal().undoDepth() < depth && drawing.journal().redo()) {
     }
-    const std::string changed = fuzz::difference(state, fuzz::stateOf(drawing));
-    if (!changed.empty())
-        fail("another drawing after undoing everything and redoing it: " + changed);
+    requireSame(state, drawing, "another drawing after undoing everything and redoing it");
     require(bytesOf(drawing) == bytes, "another file after undoing everything and redoing it");
 }
 
 void checkDrawing(const Document& document) {
+    static const std::string fresh = db::Database::makeNew()->toBytes().value();
     db::Database& drawing = document.drawing();
+    const bool isNew = drawing.isNew() && document.path().empty();
     const std::string bytes = bytesOf(drawing);
+    if (drawing.journal().undoDepth() == 0) {
+        require(!isNew || bytes == fresh, "a drawing without changes has changed");
+        return; // opening and saving without a change has a target of its own
+    }
     if (bytes.empty())
         return;
-    checkOpensAgain(drawing, bytes);
-    checkUndo(drawing, bytes, drawing.isNew() && document.path().empty());
+    const fuzz::DrawingState state = fuzz::stateOf(drawing);
+    checkOpensAgain(state, bytes);
+    checkUndo(drawing, state, bytes, isNew ? &fresh : nullptr);
 }
 
 void runSession(fuzz::FuzzedFrontEnd& front, std::string_view bytes) {
