@@ -1,11 +1,12 @@
-// How often each of many names occurs, without regard to case. A table in one piece: a name that is not there, the
-// usual answer, costs one look into memory, however many names there are.
+// How often each of many names occurs, without regard to case. The names lie still; what is searched, and moves as it
+// grows, is a table of small slots in one piece: a name that is not there, the usual answer, costs one look into it.
 #pragma once
 
 #include "sdk/sys/string.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <string_view>
 #include <vector>
 
@@ -22,32 +23,41 @@ public:
     // Calls visit(name) for each name that occurs, in no order.
     template <class Visit>
     void forEach(const Visit& visit) const {
-        for (const Slot& slot : slots_)
-            if (slot.count > 0)
-                visit(slot.name);
+        for (const Counted& counted : names_)
+            if (counted.count > 0)
+                visit(counted.name);
     }
 
 private:
-    // A name lies in the slot that its hash gives, or as near behind it as there was room.
-    struct Slot {
+    struct Counted {
         ZrString name;
+        std::uint32_t count = 0; // 0: a gap
+    };
+    // Where in names_ a name lies. Its slot is the one that its hash gives, or as near behind it as there was room.
+    struct Slot {
+        static constexpr std::uint32_t kFree = 0xFFFFFFFF;
         std::uint32_t hash = 0;
-        std::uint32_t count = 0; // 0: the slot is free
+        std::uint32_t place = kFree;
+        [[nodiscard]] bool isFree() const { return place == kFree; }
     };
 
     // The slot of the name, or the free one where it would go.
     [[nodiscard]] std::size_t slotOf(std::wstring_view name, std::uint32_t hash) const;
+    [[nodiscard]] std::size_t firstSlot(std::uint32_t hash) const { return hash & (slots_.size() - 1); }
     [[nodiscard]] std::size_t next(std::size_t slot) const { return (slot + 1) & (slots_.size() - 1); }
-    // How far a slot lies behind another one, or behind the one that a hash gives.
+    // How far a slot lies behind another one.
     [[nodiscard]] std::size_t distance(std::size_t slot, std::size_t from) const {
         return (slot - from) & (slots_.size() - 1);
     }
+    // A place for a new name.
+    [[nodiscard]] std::uint32_t keep(std::wstring_view name);
     void grow();
     void clear(std::size_t slot);
 
-    std::vector<Slot> slots_{kFirstSize}; // a power of two
-    std::size_t used_ = 0;
     static constexpr std::size_t kFirstSize = 16;
+    std::vector<Slot> slots_ = std::vector<Slot>(kFirstSize); // a power of two of them
+    std::deque<Counted> names_;
+    std::vector<std::uint32_t> gaps_; // in names_
 };
 
 } // namespace quor::db

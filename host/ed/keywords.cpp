@@ -12,6 +12,8 @@ namespace {
 
 [[nodiscard]] bool isCapital(wchar_t c) { return foldChar(c) != c; }
 
+[[nodiscard]] wchar_t firstFolded(std::wstring_view text) { return text.empty() ? L'\0' : foldChar(text.front()); }
+
 std::vector<std::wstring_view> splitWords(std::wstring_view text) {
     std::vector<std::wstring_view> words;
     std::size_t at = 0;
@@ -23,13 +25,14 @@ std::vector<std::wstring_view> splitWords(std::wstring_view text) {
     return words;
 }
 
-// 1 is the best; kNoRank: the answer does not stand for the word.
+// 1 is the best; kNoRank: the answer, which begins with `first`, does not stand for the word.
 constexpr int kNoRank = 4;
-int rankOf(const KeywordSpelling& spelling, std::wstring_view answer) {
-    const bool begins = spelling.first == foldChar(answer.front()) && startsWithFolded(spelling.word, answer);
+int rankOf(const KeywordSpelling& spelling, std::wstring_view answer, wchar_t first) {
+    const bool begins = spelling.first == first && startsWithFolded(spelling.word, answer);
     if (begins && answer.size() == spelling.word.size())
         return 1;
-    if (answer.size() == spelling.capitals.size() && equalFolded(spelling.capitals, answer))
+    const bool isAsLong = answer.size() == spelling.capitals.size();
+    if (isAsLong && spelling.firstCapital == first && equalFolded(spelling.capitals, answer))
         return 2;
     return begins && spelling.shortest > 0 && answer.size() >= spelling.shortest ? 3 : kNoRank;
 }
@@ -48,13 +51,13 @@ struct ListHash {
 
 } // namespace
 
-KeywordSpelling::KeywordSpelling(std::wstring_view text)
-    : word(text), first(text.empty() ? L'\0' : foldChar(text.front())) {
+KeywordSpelling::KeywordSpelling(std::wstring_view text) : word(text), first(firstFolded(text)) {
     for (std::size_t i = 0; i < text.size(); ++i)
         if (isCapital(text[i])) {
             capitals += text[i];
             shortest = i + 1;
         }
+    firstCapital = firstFolded(capitals);
 }
 
 KeywordList::KeywordList(std::wstring_view text) {
@@ -79,10 +82,11 @@ const ZrString* KeywordList::match(std::wstring_view answer) const {
     if (answer.empty())
         return nullptr;
     const std::vector<KeywordSpelling>& spellings = asGlobal ? globals_ : locals_;
+    const wchar_t first = firstFolded(answer);
     const ZrString* best = nullptr;
     int bestRank = kNoRank;
     for (std::size_t i = 0; i < spellings.size() && bestRank > 1; ++i)
-        if (const int rank = rankOf(spellings[i], answer); rank < bestRank) {
+        if (const int rank = rankOf(spellings[i], answer, first); rank < bestRank) {
             best = &globals_[i].word;
             bestRank = rank;
         }

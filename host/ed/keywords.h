@@ -16,8 +16,10 @@ struct KeywordSpelling {
     explicit KeywordSpelling(std::wstring_view word);
 
     ZrString word;
-    ZrString capitals;        // its capital letters
-    wchar_t first = 0;        // its first letter, folded
+    ZrString capitals; // its capital letters
+    // The first letters of the two, folded, by which most words are told from an answer; 0: there is none.
+    wchar_t first = 0;
+    wchar_t firstCapital = 0;
     std::size_t shortest = 0; // length of the shortest beginning that holds all its capital letters; 0: it has none
 };
 
