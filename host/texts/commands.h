@@ -104,7 +104,7 @@ inline constexpr Text kBadLayerName{
     L"character.\n"};
 inline constexpr Text kLayerColumnName{L"名称", L"Name"};
 inline constexpr Text kLayerColumnState{L"状态", L"State"};
-inline constexpr Text kLayerColumnColor{L"颜色", L"Colour"};
+inline constexpr Text kLayerColumnColor{L"颜色", L"Color"};
 inline constexpr Text kLayerOn{L"开", L"on"};
 inline constexpr Text kLayerOff{L"关", L"off"};
 inline constexpr Text kLayerFrozen{L"冻结", L"frozen"};

@@ -108,7 +108,7 @@ constexpr HelpPage kPages[] = {
       L"平行光没有位置，只有方向。LIGHTINGUNITS 为 0 时只有强度因子起作用，不显示 cd、lm 和照度。",
       L"Select lights as in SELECT; Enter alone lists all lights of model space and of all layouts. What is selected already is "
       L"listed at once; objects that are no lights are counted.\n"
-      L"There are four tables: lights, position and target, intensity, colour and shadows. Coordinates are those of the current "
+      L"There are four tables: lights, position and target, intensity, color and shadows. Coordinates are those of the current "
       L"UCS; long names are cut; a table wider than 80 columns is shown in parts; a column with nothing in it is left out, \"-\" "
       L"means that the light has no such value.\n"
       L"A distant light has no position, only a direction. With LIGHTINGUNITS 0 only the intensity factor counts: cd, lm and "
@@ -139,10 +139,10 @@ constexpr HelpPage kPages[] = {
      L"IESINFO downlight.ies"},
     {L"COLORBOOKS", kObjects,
      {L"列出配色系统，或一个配色系统中的颜色。",
-      L"Lists the colour books or the colours of one."},
+      L"Lists the color books or the colors of one."},
      {L"配色系统名称: 可含空格；Enter 列出全部，不能使用的文件连同原因列在最后。\n"
       L"每次都会重新读取配色系统。要添加配色系统，请将 .book 文件放入用户设置旁的文件夹 colorbooks。执行其他命令时可用 'COLORBOOKS。",
-      L"Name of a colour book: may hold blanks; Enter lists all of them, and at the end the files that cannot be used, with the "
+      L"Name of a color book: may hold blanks; Enter lists all of them, and at the end the files that cannot be used, with the "
       L"reason.\nThe books are read anew each time. To add one, put a file .book into the folder colorbooks beside your "
       L"settings. 'COLORBOOKS works inside other commands."},
      L"COLORBOOKS Neutral Greys"},

@@ -18,7 +18,7 @@ inline constexpr Text kTableWhere{L"位置和目标；没有目标的光源为 (
 inline constexpr Text kTableWhereIn{L"位置和目标，单位 %s；没有目标的光源为 (方向)",
                                     L"Position and target in %s, or the (direction) of a light without target"};
 inline constexpr Text kTableIntensity{L"强度", L"Intensity"};
-inline constexpr Text kTableLook{L"颜色和阴影", L"Colour and shadows"};
+inline constexpr Text kTableLook{L"颜色和阴影", L"Color and shadows"};
 inline constexpr Text kTableFactor{L"因子", L"Factor"};
 inline constexpr Text kTableTargetX{L"目标 X", L"Target X"};
 inline constexpr Text kTableTargetY{L"目标 Y", L"Target Y"};

@@ -231,7 +231,7 @@ TEST_F(RunConsoleTest, QuietRunTellsOfABrokenColourBook) {
     command("COLORBOOKS\n");
     EXPECT_EQ(run(), kSuccess);
     EXPECT_EQ(out_, "");
-    EXPECT_EQ(err_, "quorc: " + path("colorbooks/a.book") + ": it holds no colour. It was left out.\n");
+    EXPECT_EQ(err_, "quorc: " + path("colorbooks/a.book") + ": it holds no color. It was left out.\n");
 }
 
 TEST_F(RunConsoleTest, BrokenColourBookIsToldOnTheScreenOtherwise) {
@@ -239,7 +239,7 @@ TEST_F(RunConsoleTest, BrokenColourBookIsToldOnTheScreenOtherwise) {
     write("colorbooks/a.book", "book = \"Empty\"\n");
     command("COLORBOOKS\n");
     EXPECT_EQ(run(), kSuccess);
-    EXPECT_TRUE(has(out_, path("colorbooks/a.book") + ": it holds no colour. It was left out.\n"));
+    EXPECT_TRUE(has(out_, path("colorbooks/a.book") + ": it holds no color. It was left out.\n"));
     EXPECT_EQ(err_.find("a.book"), std::string::npos);
 }
 

@@ -25,7 +25,7 @@ protected:
         host_.front().clearScreen();
         result_ = host_.run(lines).result;
         const ZrString& screen = host_.front().screen();
-        constexpr std::wstring_view question = L"Colour book <list all>: ";
+        constexpr std::wstring_view question = L"Color book <list all>: ";
         const std::size_t first = screen.find(L'\n', screen.find(question)) + 1;
         return screen.substr(first, screen.rfind(L"Command: ") - first);
     }
@@ -40,7 +40,7 @@ TEST_F(ColorBooksCommand, ListsTheBooksWithTheirCountsAndFiles) {
     write("2.book", "book = \"Inks\"\na = 1,2,3\n");
 
     EXPECT_EQ(answerTo({L"COLORBOOKS", L""}),
-              L"  Filters  2 colours  " + path("1.book") + L"\n  Inks      1 colour  " + path("2.book") + L"\n");
+              L"  Filters  2 colors  " + path("1.book") + L"\n  Inks      1 color  " + path("2.book") + L"\n");
     EXPECT_EQ(result_, RTNORM);
 }
 
@@ -48,18 +48,18 @@ TEST_F(ColorBooksCommand, ListsTheColoursOfABookInColumns) {
     write("1.book", "book = \"My Filters\"\nStraw = 255,221,135\n深红 = 140,0,26\n");
 
     EXPECT_EQ(answerTo({L"COLORBOOKS", L"MY filters"}),
-              L"My Filters  2 colours\n  Straw  255,221,135\n  深红   140,  0, 26\n");
+              L"My Filters  2 colors\n  Straw  255,221,135\n  深红   140,  0, 26\n");
     EXPECT_EQ(result_, RTNORM);
 }
 
 TEST_F(ColorBooksCommand, SaysThatThereAreNoBooks) {
-    EXPECT_EQ(answerTo({L"COLORBOOKS", L""}), L"There are no colour books.\n");
+    EXPECT_EQ(answerTo({L"COLORBOOKS", L""}), L"There are no color books.\n");
     EXPECT_EQ(result_, RTNORM);
 }
 
 TEST_F(ColorBooksCommand, SaysThatThereIsNoBookOfAName) {
     EXPECT_EQ(answerTo({L"COLORBOOKS", L"No \x1B Book"}),
-              L"There is no colour book \"No ^[ Book\". Enter at COLORBOOKS lists them.\n");
+              L"There is no color book \"No ^[ Book\". Enter at COLORBOOKS lists them.\n");
     EXPECT_EQ(result_, RTERROR);
 }
 
@@ -70,7 +70,7 @@ TEST_F(ColorBooksCommand, ListsBrokenBooksWithTheirReasonsAtTheEnd) {
     const ZrString broken = path("1.book") +
                             L", line 1: the line book = \"name\" has to come first. The whole file was "
                             L"left out.\n";
-    EXPECT_EQ(answerTo({L"COLORBOOKS", L""}), L"  Inks  1 colour  " + path("2.book") + L"\n" + broken);
+    EXPECT_EQ(answerTo({L"COLORBOOKS", L""}), L"  Inks  1 color  " + path("2.book") + L"\n" + broken);
     EXPECT_EQ(result_, RTNORM);
 }
 
@@ -80,14 +80,14 @@ TEST_F(ColorBooksCommand, TellsWhatIsWrongWithABookThatIsAskedForByItsName) {
     const ZrString answer = answerTo({L"COLORBOOKS", L"Inks"});
 
     EXPECT_NE(answer.find(path("1.book") + L", line 2"), ZrString::npos);
-    EXPECT_NE(answer.find(L"There is no colour book \"Inks\"."), ZrString::npos);
+    EXPECT_NE(answer.find(L"There is no color book \"Inks\"."), ZrString::npos);
 }
 
 TEST_F(ColorBooksCommand, LeavesWhatIsWrongToTheNextWhoAsksWhereTheBookIsFound) {
     write("1.book", "none");
     write("2.book", "book = \"Inks\"\na = 1,2,3\n");
 
-    EXPECT_EQ(answerTo({L"COLORBOOKS", L"Inks"}), L"Inks  1 colour\n  a    1,  2,  3\n");
+    EXPECT_EQ(answerTo({L"COLORBOOKS", L"Inks"}), L"Inks  1 color\n  a    1,  2,  3\n");
     EXPECT_FALSE(host_.front().shows(path("1.book")));
     (void)cm::colorBooks();
     EXPECT_TRUE(host_.front().shows(path("1.book")));
@@ -99,7 +99,7 @@ TEST_F(ColorBooksCommand, FindsABookThatWasAddedMeanwhile) {
     EnumBookNames(names, displayNames);
     write("1.book", "book = \"Inks\"\na = 1,2,3\n");
 
-    EXPECT_EQ(answerTo({L"COLORBOOKS", L"Inks"}), L"Inks  1 colour\n  a    1,  2,  3\n");
+    EXPECT_EQ(answerTo({L"COLORBOOKS", L"Inks"}), L"Inks  1 color\n  a    1,  2,  3\n");
     EnumBookNames(names, displayNames);
     EXPECT_EQ(names, std::vector<ZrString>{L"Inks"});
 }
@@ -111,8 +111,8 @@ TEST_F(ColorBooksCommand, EndsAtEsc) {
 
 TEST_F(ColorBooksCommand, WorksWithoutADrawingAndInsideAnotherCommand) {
     write("1.book", "book = \"Inks\"\na = 1,2,3\n");
-    EXPECT_EQ(answerTo({L"LINE", L"'COLORBOOKS", L"Inks", L"^C"}).substr(0, 14), L"Inks  1 colour");
-    EXPECT_EQ(answerTo({L"CLOSE", L"COLORBOOKS", L"Inks"}), L"Inks  1 colour\n  a    1,  2,  3\n");
+    EXPECT_EQ(answerTo({L"LINE", L"'COLORBOOKS", L"Inks", L"^C"}).substr(0, 13), L"Inks  1 color");
+    EXPECT_EQ(answerTo({L"CLOSE", L"COLORBOOKS", L"Inks"}), L"Inks  1 color\n  a    1,  2,  3\n");
 }
 
 } // namespace
