@@ -95,6 +95,13 @@ std::uint8_t AnswerMaker::byte() {
     return first;
 }
 
+std::optional<unsigned> AnswerMaker::choice() {
+    if (rest_.empty() || !isMark(rest_.front()))
+        return std::nullopt;
+    rest_.remove_prefix(1);
+    return byte();
+}
+
 std::string_view AnswerMaker::line() {
     const std::size_t end = rest_.find('\n');
     const std::string_view text = rest_.substr(0, end);

@@ -8,6 +8,7 @@
 #include "host/front.h"
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace quor {
@@ -24,8 +25,8 @@ public:
         : rest_(bytes), session_(session), scratch_(scratch) {}
 
     [[nodiscard]] bool atEnd() const { return rest_.empty(); }
-    // 0 when there is none left.
-    [[nodiscard]] std::uint8_t byte();
+    // The choice among what is offered without a question, when the next bytes make one.
+    [[nodiscard]] std::optional<unsigned> choice();
     // May start a script or a program that answers the questions after this one.
     [[nodiscard]] Answer personsAnswer(const Question& question);
     [[nodiscard]] Answer programsAnswer(const Question& question);
@@ -34,6 +35,8 @@ private:
     using Make = Answer (AnswerMaker::*)(const Question& question, unsigned choice) const;
     static const Make kMakes[];
 
+    // 0 when there is none left.
+    [[nodiscard]] std::uint8_t byte();
     [[nodiscard]] std::string_view line();
     [[nodiscard]] Answer typed(std::wstring_view text) const;
     void startScript(unsigned choice);

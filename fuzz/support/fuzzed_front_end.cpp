@@ -71,15 +71,14 @@ Answer FuzzedFrontEnd::drag(const Question& question, const std::function<void(c
 }
 
 TaskDialogAnswer FuzzedFrontEnd::showTaskDialog(const CZrUiTaskDialog& dialog) {
-    const unsigned choice = maker_->byte();
-    const bool asText = (choice & 1) != 0 || maker_->atEnd();
-    if (asText)
+    const std::optional<unsigned> choice = maker_->choice();
+    if (!choice)
         return ui::askTaskDialog(
             dialog, [this](std::wstring_view text) { print(text); },
             [this](const Question& question) { return ask(question); });
     TaskDialogAnswer answer;
-    answer.checked = (choice & 2) != 0;
-    const std::size_t command = choice / 4 % (dialog.commands().size() + 1);
+    answer.checked = *choice % 2 != 0;
+    const std::size_t command = *choice / 2 % (dialog.commands().size() + 1);
     if (command < dialog.commands().size())
         answer.command = dialog.commands()[command].id;
     return answer;
