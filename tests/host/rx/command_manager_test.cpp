@@ -150,7 +150,9 @@ TEST(CommandMemory, TwoCommandsAtATimeHaveMemoryOfTheirOwn) {
 }
 
 TEST(CommandMemory, ALargerCommandGetsEnough) {
-    const void* const spare = std::make_unique<WorkingCommand>().get();
+    auto command = std::make_unique<WorkingCommand>();
+    const void* const spare = command.get();
+    command.reset();
 
     const auto large = std::make_unique<LargeCommand>();
 
