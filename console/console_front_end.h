@@ -17,6 +17,7 @@ public:
     [[nodiscard]] ZrString lastMessage() const;
     void forgetMessage() { lastText_.clear(); }
 
+    [[nodiscard]] int columns() const override { return output_.columns(); }
     void print(std::wstring_view text) override;
     Answer ask(const Question& question) override;
     void echo(const Question& question, std::wstring_view answer) override;

@@ -2,6 +2,7 @@
 #include "console/exit_status.h"
 #include "console/options.h"
 #include "console/run_console.h"
+#include "console/screen_columns.h"
 #include "console/signals.h"
 #include "host/sys/language_choice.h"
 #include "host/sys/settings_store.h"
@@ -35,6 +36,8 @@ Streams ownStreams() {
     streams.out = [](std::string_view bytes) { return writeAll(STDOUT_FILENO, bytes); };
     streams.err = [](std::string_view bytes) { return writeAll(STDERR_FILENO, bytes); };
     streams.outputIsScreen = ::isatty(STDOUT_FILENO) == 1;
+    if (streams.outputIsScreen)
+        streams.columns = screenColumns;
     streams.editsLines = ::isatty(STDIN_FILENO) == 1 && streams.outputIsScreen;
     streams.showsProgress = ::isatty(STDERR_FILENO) == 1;
     return streams;

@@ -1,5 +1,6 @@
 #include "console/output.h"
 
+#include "host/front.h"
 #include "host/sys/utf8.h"
 #include "host/sys/visible_text.h"
 
@@ -12,9 +13,15 @@ constexpr wchar_t kFirstVisible = 0x20;
 constexpr wchar_t kDelete = 0x7F;
 } // namespace
 
-Output::Output(ByteSink sink, bool quiet) : sink_(std::move(sink)), quiet_(quiet) {
+Output::Output(ByteSink sink, bool quiet, ScreenColumns columns)
+    : sink_(std::move(sink)), columns_(std::move(columns)), quiet_(quiet) {
     if (!quiet_)
         buffer_.reserve(kBufferSize + kBufferSize / 4);
+}
+
+int Output::columns() const {
+    const int columns = columns_ ? columns_() : 0;
+    return columns > 0 ? columns : FrontEnd::kUsualColumns;
 }
 
 void Output::append(std::wstring_view text) {

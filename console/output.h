@@ -1,5 +1,6 @@
 // Standard output as a command-line screen: texts go into a large buffer that is written where somebody waits for it.
-// Control characters in them, which somebody typed or a script or drawing holds, are spelled out: a terminal obeys them.
+// Control characters in them, which somebody typed or a script or drawing holds, are spelled out: a terminal obeys
+// them.
 #pragma once
 
 #include "host/ed/screen_text.h"
@@ -12,11 +13,16 @@ namespace quor::console {
 
 // Takes bytes; answers 0, or the number of the system's error.
 using ByteSink = std::function<int(std::string_view)>;
+// Answers how many columns the screen has now, 0 where it does not say.
+using ScreenColumns = std::function<int()>;
 
 // After the sink's first error nothing more is written.
 class Output {
 public:
-    explicit Output(ByteSink sink, bool quiet = false);
+    explicit Output(ByteSink sink, bool quiet = false, ScreenColumns columns = {});
+
+    // How many columns a line may take: the screen's, or the usual ones where there is no screen.
+    [[nodiscard]] int columns() const;
 
     void print(std::wstring_view text);
     // What was answered to the question whose prompt was printed last, with its Enter.
@@ -41,6 +47,7 @@ private:
     void write(std::size_t count);
 
     ByteSink sink_;
+    ScreenColumns columns_;
     std::function<void()> beforeWriting_;
     std::string buffer_;
     ScreenText screen_;

@@ -35,7 +35,7 @@ ZrString moduleName(const std::string& given) {
 class Stages {
 public:
     Stages(const Options& options, const Streams& streams, SessionOptions sessionOptions)
-        : options_(options), streams_(streams), output_(streams.out, options.quiet),
+        : options_(options), streams_(streams), output_(streams.out, options.quiet, streams.columns),
           progress_(streams.showsProgress ? streams.err : ByteSink(), streams.outputIsScreen ? &output_ : nullptr,
                     streams.clock),
           front_(output_, progress_), report_(streams.err, output_, progress_),

@@ -16,6 +16,7 @@ struct Streams {
     bool editsLines = false;    // input and output are a terminal
     bool showsProgress = false; // the error output is a terminal
     bool outputIsScreen = true; // the output is a terminal, so that progress must keep out of its way
+    ScreenColumns columns;      // of the terminal that is the output; none for files and pipes
     ProgressMeter::Clock clock = std::chrono::steady_clock::now;
 };
 

@@ -6,7 +6,6 @@
 #include <clocale>
 #include <cstdio>
 #include <histedit.h>
-#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace quor::console {
@@ -14,11 +13,6 @@ namespace quor::console {
 namespace {
 
 constexpr int kRecalledLines = static_cast<int>(History::kMostLines);
-
-std::size_t screenWidth() {
-    winsize size{};
-    return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
-}
 
 // The editing library writes characters in the locale's encoding; files and pipes never depend on it.
 void useUtf8() {
@@ -139,7 +133,7 @@ unsigned char TerminalReader::completeAtCaret() {
     std::fputs("\n", stdout);
     std::fflush(stdout);
     output_.answered();
-    output_.print(inColumns(completion.candidates, screenWidth()));
+    output_.print(inColumns(completion.candidates, static_cast<std::size_t>(output_.columns())));
     output_.flush();
     return CC_REDISPLAY;
 }

@@ -66,8 +66,13 @@ struct FileAnswer {
 // Protocol of a question: print() its prompt is the front end's business inside ask(); the host prints everything else.
 class FrontEnd {
 public:
+    // What most screens show, and what is taken where there is none.
+    static constexpr int kUsualColumns = 80;
+
     virtual ~FrontEnd() = default;
 
+    // How many columns a line of text may take, for those who lay out tables; a wide character takes two.
+    [[nodiscard]] virtual int columns() const { return kUsualColumns; }
     // Prints a text as it stands. A text that begins with a line break starts on a fresh line.
     virtual void print(std::wstring_view text) = 0;
     // Shows the prompt and waits for an answer.

@@ -93,5 +93,18 @@ TEST_F(OutputTest, LineBreaksAndTabsOfTextsStay) {
     EXPECT_EQ(screen_, "a\tb\nc");
 }
 
+TEST_F(OutputTest, LinesMayBeAsWideAsTheScreenAsItIsNow) {
+    int columns = 120;
+    const Output output([](std::string_view) { return 0; }, false, [&] { return columns; });
+    EXPECT_EQ(output.columns(), 120);
+    columns = 60;
+    EXPECT_EQ(output.columns(), 60);
+}
+
+TEST_F(OutputTest, WithoutAScreenOrWithOneThatDoesNotSayLinesMayHave80Columns) {
+    EXPECT_EQ(make().columns(), 80);
+    EXPECT_EQ(Output([](std::string_view) { return 0; }, false, [] { return 0; }).columns(), 80);
+}
+
 } // namespace
 } // namespace quor::console
