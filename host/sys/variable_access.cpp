@@ -49,13 +49,11 @@ SetResult writeDefaultLighting(Session& session, const VariableValue& value) {
     return SetResult::Ok;
 }
 
-// A drawing that says nothing is photometric when it was made here, generic when it came from a file.
+// A drawing that says nothing is generic. The drawing that NEW opens says that it is photometric.
 VariableValue readLightingUnits(Session& session) {
-    const db::Database& database = drawing(session);
-    const auto text = database.dictionaryVariable(L"LIGHTINGUNITS");
-    if (text && text->size() == 1 && text->front() >= L'0' && text->front() <= L'2')
-        return static_cast<short>(text->front() - L'0');
-    return static_cast<short>(database.isNew() ? 2 : 0);
+    const auto text = drawing(session).dictionaryVariable(L"LIGHTINGUNITS");
+    const bool isKnown = text && text->size() == 1 && text->front() >= L'0' && text->front() <= L'2';
+    return static_cast<short>(isKnown ? text->front() - L'0' : 0);
 }
 
 VariableValue readAngBase(Session& session) {

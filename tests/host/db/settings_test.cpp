@@ -25,6 +25,7 @@ TEST_F(Settings, NewDrawingIsMetricOfTheNewestVersion) {
     EXPECT_EQ(database->header(L"$LUPREC"), HeaderValue(4LL));
     EXPECT_EQ(database->header(L"$AUNITS"), HeaderValue(0LL));
     EXPECT_EQ(database->header(L"$AUPREC"), HeaderValue(0LL));
+    EXPECT_EQ(database->dictionaryVariable(L"LIGHTINGUNITS"), L"2");
     EXPECT_TRUE(database->defaultLighting());
     EXPECT_TRUE(database->isModelTab());
     EXPECT_EQ(database->currentViewport(), 2);
@@ -90,14 +91,14 @@ TEST_F(Settings, VariableIsTakenBackAndRestored) {
 }
 
 TEST_F(Settings, NewDictionaryVariableIsLinkedIntoTheDictionary) {
-    EXPECT_EQ(database->dictionaryVariable(L"LIGHTINGUNITS"), std::nullopt);
-    database->setDictionaryVariable(L"LIGHTINGUNITS", L"1");
+    EXPECT_EQ(database->dictionaryVariable(L"FIELDEVAL"), std::nullopt);
+    database->setDictionaryVariable(L"FIELDEVAL", L"1");
     const std::string bytes = bytesOf(*database);
-    EXPECT_THAT(recordOf(bytes, "DICTIONARY", "5|2C"), Contains("3|LIGHTINGUNITS"));
+    EXPECT_THAT(recordOf(bytes, "DICTIONARY", "5|2C"), Contains("3|FIELDEVAL"));
     EXPECT_THAT(recordOf(bytes, "DICTIONARYVAR", "5|30"),
                 ElementsAre("0|DICTIONARYVAR", "5|30", "330|2C", "100|DictionaryVariables", "280|0", "1|1"));
-    EXPECT_THAT(recordOf(bytes, "CLASS", "1|DICTIONARYVAR"), Contains("91|2"));
-    EXPECT_EQ(parsed(bytes)->dictionaryVariable(L"LIGHTINGUNITS"), L"1");
+    EXPECT_THAT(recordOf(bytes, "CLASS", "1|DICTIONARYVAR"), Contains("91|3"));
+    EXPECT_EQ(parsed(bytes)->dictionaryVariable(L"FIELDEVAL"), L"1");
     database->journal().undo();
     EXPECT_EQ(bytesOf(*database), before);
     database->journal().redo();
