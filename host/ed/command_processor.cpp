@@ -116,6 +116,7 @@ Verdict CommandProcessor::execute(const Command& command, bool byProgram, bool t
     const bool outermost = frames_.empty();
     Frame frame;
     frame.name = command.globalName;
+    frame.isHost = command.isHost;
     // What a command starts by itself counts as started by a program.
     frame.byProgram = byProgram || (!outermost && !transparent);
     if (outermost && (command.flags & kNoRepeat) == 0)
@@ -209,7 +210,10 @@ Verdict CommandProcessor::judge(Frame frame) {
             return Kind::EndOfInput;
         if (result == RTNORM || result == RTNONE)
             return Kind::Done;
-        return frame.escaped || result == RTCAN ? Kind::Cancelled : Kind::Failed;
+        if (frame.escaped || (result == RTCAN && frame.isHost))
+            return Kind::Cancelled;
+        // Nobody cancelled it: some commands of modules end with this code whatever they did.
+        return result == RTCAN ? Kind::Done : Kind::Failed;
     };
     return {kind(), result, std::move(frame.name)};
 }

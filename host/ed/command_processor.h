@@ -19,7 +19,7 @@ namespace quor::ed {
 // How a command ended.
 struct Verdict {
     enum class Kind {
-        Done,      // RTNORM; also Esc and Enter at the command prompt
+        Done,      // RTNORM; RTCAN of a module without Esc; also Esc and Enter at the command prompt
         Cancelled, // by Esc
         Failed,    // RTERROR and the like, or an exception
         Unknown,   // no such command
@@ -71,6 +71,7 @@ public:
 private:
     struct Frame {
         ZrString name;
+        bool isHost = true;
         bool byProgram = false;
         bool failed = false;
         bool ended = false;

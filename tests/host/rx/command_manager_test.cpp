@@ -76,11 +76,20 @@ TEST_F(CommandManager, CommandObjectIsMadeRunAndDeletedOnce) {
 }
 
 TEST_F(CommandManager, ResultOfTheObjectIsTheVerdict) {
-    ASSERT_TRUE(add<CancelledCommand>(L"CANCEL1"));
     ASSERT_TRUE(add<FailingCommand>(L"FAIL1"));
-    EXPECT_EQ(session_.run({L"CANCEL1"}).kind, Verdict::Kind::Cancelled);
     EXPECT_EQ(session_.run({L"FAIL1"}).kind, Verdict::Kind::Failed);
     EXPECT_EQ(session_.run({L"FAIL1"}).result, RTERROR);
+}
+
+// There are commands that always end with the code of Esc.
+TEST_F(CommandManager, CancelThatNobodyAskedForIsNoneAndTellsNothing) {
+    ASSERT_TRUE(add<CancelledCommand>(L"CANCEL1"));
+
+    const Verdict verdict = session_.run({L"CANCEL1"});
+
+    EXPECT_EQ(verdict.kind, Verdict::Kind::Done);
+    EXPECT_EQ(verdict.result, RTCAN);
+    EXPECT_FALSE(session_.front().shows(L"*取消*"));
 }
 
 TEST_F(CommandManager, ExceptionIsAFailureWithItsReason) {
