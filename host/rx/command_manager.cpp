@@ -34,7 +34,7 @@ std::unique_ptr<RxCmdManager>& instance() {
 // The result code of the command object, made and deleted here.
 int runOnce(RxCommandFactory factory) {
     const std::unique_ptr<RxCommand> command(factory());
-    return command && command->finishLight() ? command->execute() : RTERROR;
+    return command && command->canExecute() ? command->execute() : RTERROR;
 }
 
 void reportFailure(quor::ed::CommandProcessor& processor, const ZrString& reason) {

@@ -2,6 +2,7 @@
 
 #include "light/commands/cone_angle.h"
 #include "light/commands/light_jig.h"
+#include "light/lightcmd/real_question.h"
 
 using quor::light::ask;
 using quor::light::LightOption;
@@ -70,8 +71,8 @@ bool CZrFreeSpotCmd::promptHotspot() {
 bool CZrFreeSpotCmd::promptFalloff() {
     if (m_pLight == nullptr)
         return false;
-    double falloff = m_pLight->falloffAngle();
-    if (!askConeAngle(quor::light::withAngle(texts.freeSpotFalloffPrompt, falloff), falloff))
+    double falloff = 0; // degrees
+    if (!askConeAngle(quor::light::withAngle(texts.freeSpotFalloffPrompt, m_pLight->falloffAngle()), falloff))
         return false;
     const double current = m_pLight->hotspotAngle();
     const bool isInside = toDegrees(current) < falloff - roundingOfAngles;

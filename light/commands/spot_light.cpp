@@ -2,6 +2,7 @@
 
 #include "light/commands/cone_angle.h"
 #include "light/commands/light_jig.h"
+#include "light/lightcmd/real_question.h"
 
 using quor::light::askUntilDone;
 using quor::light::LightOption;
@@ -65,8 +66,8 @@ bool CZrSpotLightCmd::promptHotspot() {
 bool CZrSpotLightCmd::promptFalloff() {
     if (m_pLight == nullptr)
         return false;
-    double falloff = m_pLight->falloffAngle();
-    const ZrString prompt = quor::light::withAngle(texts.falloffPrompt, falloff);
+    const ZrString prompt = quor::light::withAngle(texts.falloffPrompt, m_pLight->falloffAngle());
+    double falloff = 0; // degrees
     zredInitGet(RSG_NONEG, nullptr);
     if (zredGetReal(prompt.c_str(), falloff) != RTNORM)
         return true;

@@ -6,6 +6,7 @@ using quor::light::ask;
 using quor::light::LightOption;
 using quor::light::texts;
 
+// The units are photometric.
 bool CZrWebKindCmd::finishLight() {
     short units = 0;
     return checkLightingUnits(units);

@@ -5,8 +5,7 @@
 
 class CZrWebKindCmd : public CZrMultiLight {
 public:
-    // Whether LIGHTINGUNITS allows photometric lights; prints why when it does not.
-    bool finishLight() override;
+    [[nodiscard]] bool finishLight() override;
 
 protected:
     using CZrMultiLight::CZrMultiLight;

@@ -19,7 +19,10 @@ public:
     [[nodiscard]] bool filtersPoints() const override { return false; }
 
     [[nodiscard]] const wchar_t* typeName() const override = 0;
+    [[nodiscard]] bool canExecute() override { return finishLight(); }
     int execute() override;
+    // Whether the units allow a light of this kind; says why when they do not.
+    [[nodiscard]] virtual bool finishLight() { return true; }
 
     // The viewport-lighting-mode question: with the default lights on, the user's lights do not show. False when it was
     // cancelled; else `value` is what DEFAULTLIGHTING is to become once the light is kept.

@@ -3,7 +3,7 @@
 #include "light/lightcmd/multi_light.h"
 #include "light/lightcmd/real_question.h"
 #include "light/lightcmd/replies.h"
-#include "sdk/sys/ads.h"
+#include "sdk/db/units.h"
 #include "sdk/sys/case_fold.h"
 
 using quor::equalFolded;
@@ -18,8 +18,6 @@ using quor::light::withNumber;
 
 namespace {
 
-constexpr int millimetres = 4; // a value of INSUNITS
-
 // What promptFlux() answers.
 constexpr int entered = 1;
 constexpr int notEntered = -1;
@@ -30,19 +28,9 @@ void setPhotometric(ZrDbLight& light, PhysicalIntensityMethod method, double val
     light.setPhysicalIntensity(value);
 }
 
-PhotometricIntensity photometricIntensityOf(const ZrDbLight& light) {
-    short lightingUnits = 0;
-    zwutads::getVar(L"LIGHTINGUNITS", lightingUnits);
-    short insertionUnits = 0;
-    zwutads::getVar(L"INSUNITS", insertionUnits);
-    double unitsPerMillimetre = 1.0;
-    zredGetUnitsConversion(millimetres, insertionUnits, unitsPerMillimetre);
-    return {.value = light.physicalIntensity(),
-            .method = light.physicalIntensityMethod(),
-            .distance = light.illuminanceDistance(),
-            .isSpot = light.lightType() == DrawableType::kSpotLight,
-            .lightingUnits = lightingUnits,
-            .unitsPerMillimetre = unitsPerMillimetre};
+// As the drawing's units are at this moment.
+PhotometricIntensity intensityOf(const ZrDbLight& light) {
+    return quor::photometricIntensityOf(light, quor::photometricUnits());
 }
 
 // Without a unit of illuminance, in generic lighting units, the question has no text. A light at distance 0 has no
@@ -70,7 +58,7 @@ void askIlluminanceDistance(ZrDbLight& light) {
 double CZrMultiLight::convertPhotometricIntensity(int target) const {
     if (m_pLight == nullptr)
         return 0;
-    return quor::convertIntensity(photometricIntensityOf(*m_pLight), static_cast<PhysicalIntensityMethod>(target));
+    return quor::convertIntensity(intensityOf(*m_pLight), static_cast<PhysicalIntensityMethod>(target));
 }
 
 // What is neither a number nor a keyword is asked again without a word.
@@ -113,7 +101,7 @@ int CZrMultiLight::promptFlux() {
 int CZrMultiLight::promptIlluminance() {
     if (m_pLight == nullptr)
         return RTERROR;
-    const ZrString prompt = illuminancePrompt(photometricIntensityOf(*m_pLight));
+    const ZrString prompt = illuminancePrompt(intensityOf(*m_pLight));
     const LoadedText keywords(texts.illuminanceKeywords);
     for (;;) {
         ZrString reply;

@@ -27,6 +27,13 @@ inline constexpr int precisionOfDrawing = -1;
     return zrFormat(LoadedText(prompt).c_str(), {shownNumber(value, units)});
 }
 
+// A prompt with an angle, given in radians, in place of its %s, as the drawing shows angles.
+[[nodiscard]] inline ZrString withAngle(const Text& prompt, double radians) {
+    ZrString shown;
+    zrdbAngToS(radians, unitsOfDrawing, precisionOfDrawing, shown);
+    return zrFormat(LoadedText(prompt).c_str(), {shown});
+}
+
 // Asks for a number that is not negative and shows the one that is there. Answers the result code; RTNORM with the
 // number in `value`, which else stays as it was.
 [[nodiscard]] inline int askReal(const Text& prompt, double& value, int units = decimalUnits) {

@@ -15,9 +15,9 @@ class RxCommand : public ZrEdInputPointMonitor {
 public:
     // A fixed word for the kind of command, e.g. "POINTLIGHTCMD".
     [[nodiscard]] virtual const wchar_t* typeName() const = 0;
-    // Asked by the command library before it executes a command: whether the command can be used now. One that answers
-    // false has said why; it is not executed.
-    virtual bool finishLight() { return true; }
+    // Asked by the command library before it executes the command: whether the command can be used now. One that
+    // cannot has said why, and is not executed.
+    [[nodiscard]] virtual bool canExecute() { return true; }
     // Runs the command; the answer is a result code.
     virtual int execute() = 0;
 

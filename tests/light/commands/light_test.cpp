@@ -68,7 +68,7 @@ protected:
 
 TEST_F(LightTest, ItsTypeWordIsLightCmd) { EXPECT_STREQ(CZrLightCmd().typeName(), L"LightCmd"); }
 
-TEST_F(LightTest, TheCommandLibraryMayAlwaysExecuteIt) { EXPECT_TRUE(CZrLightCmd().finishLight()); }
+TEST_F(LightTest, TheCommandLibraryMayAlwaysExecuteIt) { EXPECT_TRUE(CZrLightCmd().canExecute()); }
 
 TEST_F(LightTest, ItLeavesTheCursorAlone) { EXPECT_FALSE(CZrLightCmd().filtersPoints()); }
 

@@ -19,7 +19,7 @@ public:
     const wchar_t* typeName() const override { return L"ASKEDCMD"; }
     int monitorInputPoint(const ZrEdInputPoint&) override { return 0; }
     bool filtersPoints() const override { return false; }
-    bool finishLight() override {
+    bool canExecute() override {
         story += L'a';
         return true;
     }
@@ -31,7 +31,7 @@ public:
 
 class RefusedCommand : public AskedCommand {
 public:
-    bool finishLight() override {
+    bool canExecute() override {
         story += L'a';
         return false;
     }
@@ -39,16 +39,16 @@ public:
 
 class BrokenCommand : public AskedCommand {
 public:
-    bool finishLight() override { throw std::runtime_error("units broke"); }
+    bool canExecute() override { throw std::runtime_error("units broke"); }
 };
 
-class FinishLight : public testing::Test {
+class CanExecute : public testing::Test {
 protected:
-    FinishLight() {
+    CanExecute() {
         story.clear();
         RxCmdManager::initInstance();
     }
-    ~FinishLight() override { RxCmdManager::releaseInstance(); }
+    ~CanExecute() override { RxCmdManager::releaseInstance(); }
 
     template <class Command>
     ed::Verdict run() {
@@ -61,14 +61,14 @@ protected:
     test::TestSession session_;
 };
 
-TEST_F(FinishLight, IsAskedOnceBeforeTheCommandIsExecuted) {
+TEST_F(CanExecute, IsAskedOnceBeforeTheCommandIsExecuted) {
     const ed::Verdict verdict = run<AskedCommand>();
 
     EXPECT_EQ(verdict.result, RTNORM);
     EXPECT_EQ(story, L"aed");
 }
 
-TEST_F(FinishLight, ThatAnswersFalseEndsTheCommandUnexecuted) {
+TEST_F(CanExecute, ThatAnswersFalseEndsTheCommandUnexecuted) {
     const ed::Verdict verdict = run<RefusedCommand>();
 
     EXPECT_EQ(verdict.kind, ed::Verdict::Kind::Failed);
@@ -76,7 +76,7 @@ TEST_F(FinishLight, ThatAnswersFalseEndsTheCommandUnexecuted) {
     EXPECT_EQ(story, L"ad");
 }
 
-TEST_F(FinishLight, ThatThrowsEndsTheCommandUnexecutedWithItsReason) {
+TEST_F(CanExecute, ThatThrowsEndsTheCommandUnexecutedWithItsReason) {
     const ed::Verdict verdict = run<BrokenCommand>();
 
     EXPECT_EQ(verdict.kind, ed::Verdict::Kind::Failed);
