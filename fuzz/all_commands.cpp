@@ -63,7 +63,7 @@ void keepFiles() {
 
 // What the fuzzer is told unless somebody says otherwise. Looking for leaks after each run and weighing every place
 // that a run passes take ten times as long as the run; leaks are found at the end as well.
-constexpr std::array<const char*, 3> kDefaults{"-detect_leaks=0", "-entropic=0", "-max_len=1024"};
+constexpr std::array<const char*, 4> kDefaults{"-detect_leaks=0", "-entropic=0", "-max_len=1024", "-rss_limit_mb=4096"};
 
 bool isGiven(const std::vector<std::string>& arguments, const std::string& flag) {
     const std::string name = flag.substr(0, flag.find('=') + 1);
@@ -155,6 +155,11 @@ void runSession(fuzz::FuzzedFrontEnd& front, std::string_view bytes) {
 }
 
 } // namespace
+
+// A session makes many objects: with the usual quarantine the freed ones fill the memory within minutes.
+extern "C" const char* __asan_default_options() { // NOLINT(bugprone-reserved-identifier): the sanitizer's own name
+    return "quarantine_size_mb=16";
+}
 
 extern "C" int LLVMFuzzerInitialize(int* count, char*** values) {
     static std::vector<std::string> arguments(*values, *values + *count);
