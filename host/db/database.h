@@ -105,7 +105,7 @@ public:
     // Every entity of a space that is not erased, in drawing order.
     [[nodiscard]] std::vector<ZrDbObjectId> entities(ZrDbObjectId space) const;
     // The last of them; null when there is none.
-    [[nodiscard]] ZrDbObjectId lastEntity(ZrDbObjectId space) const;
+    [[nodiscard]] ZrDbObjectId lastEntity(ZrDbObjectId space);
     // Layers in drawing order; hidden ones too.
     [[nodiscard]] std::vector<ZrDbObjectId> layerIds() const;
     // Nothing happens for an id that is no layer's of this drawing.

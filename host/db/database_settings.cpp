@@ -228,13 +228,10 @@ std::vector<ZrDbObjectId> Database::entities(ZrDbObjectId space) const {
     return ids;
 }
 
-ZrDbObjectId Database::lastEntity(ZrDbObjectId space) const {
-    const Block* block = structure_.blockOf(space.entry());
-    if (block == nullptr)
-        return {};
-    const auto last = std::find_if(block->entities.rbegin(), block->entities.rend(),
-                                   [](const ObjectEntry* entity) { return !entity->erased; });
-    return last == block->entities.rend() ? ZrDbObjectId() : ZrDbObjectId(*last);
+ZrDbObjectId Database::lastEntity(ZrDbObjectId space) {
+    Block* const block = structure_.blockOf(space.entry());
+    ObjectEntry* const last = block != nullptr ? Structure::lastEntity(*block) : nullptr;
+    return last != nullptr ? ZrDbObjectId(last) : ZrDbObjectId();
 }
 
 ZrString Database::typeName(ZrDbObjectId id) const {

@@ -146,8 +146,10 @@ void Journal::settingChanged(const ZrString& name, std::function<void()> exchang
 void Journal::setErased(ObjectEntry& entry, bool erased) {
     entry.erased = erased;
     LightNames::entityErased(entry, erased);
-    if (!erased)
-        database_.layers().cameBack(entry);
+    if (erased)
+        return;
+    database_.layers().cameBack(entry);
+    database_.structure().cameBack(entry);
 }
 
 void Journal::apply(Group& group, bool undoing) {

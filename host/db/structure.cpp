@@ -254,6 +254,23 @@ const std::vector<ObjectEntry*>& Structure::entitiesOf(Block& block, dxf::NameId
     return found->second;
 }
 
+// What was found to be erased is not looked at again, so that erasing the last one over and over stays cheap.
+ObjectEntry* Structure::lastEntity(Block& block) {
+    const auto& entities = block.entities;
+    while (block.erasedTail < entities.size()) {
+        ObjectEntry* const last = entities[entities.size() - 1 - block.erasedTail];
+        if (!last->erased)
+            return last;
+        ++block.erasedTail;
+    }
+    return nullptr;
+}
+
+void Structure::cameBack(const ObjectEntry& entry) {
+    if (Block* const block = blockOf(entry.owner); block != nullptr)
+        block->erasedTail = 0;
+}
+
 void Structure::append(Block& block, ObjectEntry& entity) {
     entity.owner = block.record;
     addToLists(block, entity);
@@ -261,6 +278,7 @@ void Structure::append(Block& block, ObjectEntry& entity) {
 
 void Structure::addToLists(Block& block, ObjectEntry& entity) {
     block.entities.push_back(&entity);
+    block.erasedTail = 0;
     if (const auto found = block.byType.find(entity.type); found != block.byType.end())
         found->second.push_back(&entity);
 }

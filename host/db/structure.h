@@ -32,6 +32,7 @@ struct Block {
     ZrString name;
     bool isLayout = false;
     std::vector<ObjectEntry*> entities; // in drawing order, erased ones too
+    std::size_t erasedTail = 0;         // so many of the last ones are known to be erased
     // Where new entities go in the file; 0: at the end of the ENTITIES section.
     std::uint64_t insertAt = 0;
     // Entities of one type: of lights from the start, so that the first light of a large drawing does not wait for a
@@ -61,7 +62,11 @@ public:
 
     // The entities of one type in drawing order.
     [[nodiscard]] const std::vector<ObjectEntry*>& entitiesOf(Block& block, dxf::NameId type);
+    // The last entity of a block that is not erased, or null.
+    [[nodiscard]] static ObjectEntry* lastEntity(Block& block);
     void append(Block& block, ObjectEntry& entity);
+    // An object that was erased is there again.
+    void cameBack(const ObjectEntry& entry);
 
     // The first dictionary of the drawing, or null.
     [[nodiscard]] ObjectEntry* rootDictionary() const { return rootDictionary_; }

@@ -56,6 +56,29 @@ TEST_F(BlockRecord, AppendedEntityIsOpenForWriteAndHasItsPlace) {
     EXPECT_EQ(line->setEndPoint({2, 0, 0}), Quor::eNotOpenForWrite);
 }
 
+TEST_F(BlockRecord, TheLastEntityIsTheLastOneThatIsNotErased) {
+    EXPECT_TRUE(database->lastEntity(model).isNull());
+    const ZrDbObjectId first = addLine(*database);
+    const ZrDbObjectId second = addLine(*database);
+    EXPECT_EQ(database->lastEntity(model), second);
+    erase(second);
+    EXPECT_EQ(database->lastEntity(model), first);
+    erase(first);
+    EXPECT_TRUE(database->lastEntity(model).isNull());
+    const ZrDbObjectId third = addLine(*database);
+    EXPECT_EQ(database->lastEntity(model), third);
+}
+
+TEST_F(BlockRecord, TheLastEntityIsFoundAgainWhenItComesBack) {
+    database->journal().begin(L"LINE");
+    const ZrDbObjectId line = addLine(*database);
+    database->journal().end();
+    database->journal().undo();
+    EXPECT_TRUE(database->lastEntity(model).isNull());
+    database->journal().redo();
+    EXPECT_EQ(database->lastEntity(model), line);
+}
+
 TEST_F(BlockRecord, HandlesGoOnFromTheSeedAndFindTheirObjects) {
     const ZrDbObjectId line = addLine(*database);
     const ZrDbObjectId light = addLight(*database);
