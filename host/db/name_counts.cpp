@@ -6,7 +6,11 @@ namespace quor::db {
 
 namespace {
 
-std::uint32_t hashOf(std::wstring_view name) { return static_cast<std::uint32_t>(hashFolded(name)); }
+// The upper half of a product holds a bit of everything: names that were chosen to share the low bits part here.
+std::uint32_t hashOf(std::wstring_view name) {
+    constexpr std::uint64_t goldenRatio = 0x9E3779B97F4A7C15;
+    return static_cast<std::uint32_t>((hashFolded(name) * goldenRatio) >> 32);
+}
 
 } // namespace
 
