@@ -1,5 +1,6 @@
 #include "host/sys/language_choice.h"
 
+#include "host/sys/case_fold.h"
 #include "host/sys/settings_store.h"
 #include "host/sys/system_variables.h"
 
@@ -28,9 +29,9 @@ ZrString languageOfEnvironment(const Environment& environment) {
 } // namespace
 
 ZrString languageOf(std::wstring_view choice, const Environment& environment) {
-    if (choice == kOfTheEnvironment)
+    if (equalFolded(choice, kOfTheEnvironment))
         return languageOfEnvironment(environment);
-    return choice == kEnglish ? kEnglish : kChinese;
+    return equalFolded(choice, kEnglish) ? kEnglish : kChinese;
 }
 
 ZrString languageOf(std::wstring_view choice) {

@@ -94,25 +94,24 @@ bool isWithinBounds(const VariableRow& row, const VariableValue& value) {
     return number >= row.low && number <= row.high;
 }
 
-bool isChoice(const VariableRow& row, const VariableValue& value) {
+// The choice that is meant, spelled as the row has it; nothing when there is no such choice.
+std::optional<VariableValue> chosen(const VariableRow& row, const VariableValue& value) {
     const auto* text = std::get_if<ZrString>(&value);
     if (row.choices == nullptr || text == nullptr)
-        return true;
+        return value;
     for (std::wstring_view rest = row.choices; !rest.empty();) {
-        const std::size_t end = std::min(rest.find(L'/'), rest.size());
-        if (rest.substr(0, end) == *text)
-            return true;
-        rest.remove_prefix(std::min(end + 1, rest.size()));
+        const std::wstring_view choice = rest.substr(0, rest.find(L'/'));
+        if (equalFolded(choice, *text))
+            return ZrString(choice);
+        rest.remove_prefix(std::min(choice.size() + 1, rest.size()));
     }
-    return false;
+    return std::nullopt;
 }
 
 SetResult check(const VariableRow& row, const VariableValue& value) {
     if (value.index() != static_cast<std::size_t>(row.type))
         return SetResult::WrongType;
-    if (!isFinite(value) || !isWithinBounds(row, value))
-        return SetResult::OutOfRange;
-    return isChoice(row, value) ? SetResult::Ok : SetResult::NotInList;
+    return isFinite(value) && isWithinBounds(row, value) ? SetResult::Ok : SetResult::OutOfRange;
 }
 
 } // namespace
@@ -148,7 +147,7 @@ std::optional<VariableValue> SystemVariables::get(std::wstring_view name) const 
     return at == process_.end() ? row->initial : at->second;
 }
 
-SetResult SystemVariables::set(std::wstring_view name, const VariableValue& value) {
+SetResult SystemVariables::set(std::wstring_view name, const VariableValue& given) {
     const VariableRow* row = this->row(name);
     if (row == nullptr)
         return has(name) ? SetResult::ReadOnly : SetResult::Unknown;
@@ -157,20 +156,26 @@ SetResult SystemVariables::set(std::wstring_view name, const VariableValue& valu
     const Document* document = session_.documents().current();
     if (livesInDrawing(row->home) && document == nullptr)
         return SetResult::NoDrawing;
-    if (const auto* whole = std::get_if<short>(&value); whole != nullptr && row->type == VariableType::Real)
+    if (const auto* whole = std::get_if<short>(&given); whole != nullptr && row->type == VariableType::Real)
         return set(name, static_cast<double>(*whole));
-    if (const SetResult checked = check(*row, value); checked != SetResult::Ok)
+    if (const SetResult checked = check(*row, given); checked != SetResult::Ok)
         return checked;
-    if (row->write != nullptr)
-        return row->write(session_, value);
-    if (row->home == VariableHome::Header)
-        document->drawing().setHeader(headerName(*row), row->headerCode, toHeader(value));
-    else if (row->home == VariableHome::Dictionary)
-        document->drawing().setDictionaryVariable(row->name, toText(value));
-    else if (row->home == VariableHome::User)
-        return toUser(*row, value);
+    const std::optional<VariableValue> value = chosen(*row, given);
+    return value ? write(*row, *value) : SetResult::NotInList;
+}
+
+SetResult SystemVariables::write(const VariableRow& row, const VariableValue& value) {
+    if (row.write != nullptr)
+        return row.write(session_, value);
+    const Document* document = session_.documents().current();
+    if (row.home == VariableHome::Header)
+        document->drawing().setHeader(headerName(row), row.headerCode, toHeader(value));
+    else if (row.home == VariableHome::Dictionary)
+        document->drawing().setDictionaryVariable(row.name, toText(value));
+    else if (row.home == VariableHome::User)
+        return toUser(row, value);
     else
-        process_[row->name] = value;
+        process_[row.name] = value;
     return SetResult::Ok;
 }
 

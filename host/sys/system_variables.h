@@ -100,6 +100,8 @@ public:
     [[nodiscard]] ZrGlobalVarManager& globals() { return globals_; }
 
 private:
+    // A value that was checked, where the variable lives.
+    SetResult write(const VariableRow& row, const VariableValue& value);
     [[nodiscard]] VariableValue fromUser(const VariableRow& row) const;
     SetResult toUser(const VariableRow& row, const VariableValue& value);
 

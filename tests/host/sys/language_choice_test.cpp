@@ -36,7 +36,11 @@ TEST(LanguageChoice, ALanguageIsItselfWhateverTheEnvironment) {
 TEST(LanguageChoice, WhatIsNoLanguageIsChineseWhateverTheEnvironment) {
     EXPECT_EQ(languageOf(L"", english), L"zh");
     EXPECT_EQ(languageOf(L"fr", english), L"zh");
-    EXPECT_EQ(languageOf(L"AUTO", english), L"zh");
+}
+
+TEST(LanguageChoice, IsTakenWithoutRegardToCase) {
+    EXPECT_EQ(languageOf(L"Auto", english), L"en");
+    EXPECT_EQ(languageOf(L"EN", [](const char*) { return "zh_CN.UTF-8"; }), L"en");
 }
 
 TEST(LanguageChoice, AutomaticIsChineseInAnEmptyEnvironment) { EXPECT_EQ(automatic({}), L"zh"); }
