@@ -1,5 +1,8 @@
 #include "sdk/gi/photometric_intensity.h"
 
+#include "sdk/db/units.h"
+#include "sdk/sys/ads.h"
+
 #include <numbers>
 
 namespace quor {
@@ -21,9 +24,7 @@ double referenceArea(int lightingUnits) {
     return lightingUnits == footCandles ? squareMillimetresPerSquareFoot : squareMillimetresPerSquareMetre;
 }
 
-bool measuresIlluminance(const PhotometricIntensity& intensity) {
-    return intensity.lightingUnits == footCandles || intensity.lightingUnits == lux;
-}
+constexpr int millimetres = 4; // a value of INSUNITS
 
 double squareMillimetresPerSquareUnit(const PhotometricIntensity& intensity) {
     return square(1 / intensity.unitsPerMillimetre);
@@ -33,13 +34,13 @@ double solidAngle(const PhotometricIntensity& intensity) { return intensity.isSp
 
 double candelaOfIlluminance(const PhotometricIntensity& intensity) {
     double value = intensity.value;
-    if (measuresIlluminance(intensity))
+    if (isPhotometric(intensity.lightingUnits))
         value = value / referenceArea(intensity.lightingUnits) * square(intensity.distance);
     return value * squareMillimetresPerSquareUnit(intensity);
 }
 
 double illuminanceOfCandela(double candela, const PhotometricIntensity& intensity) {
-    if (measuresIlluminance(intensity))
+    if (isPhotometric(intensity.lightingUnits))
         candela = candela * referenceArea(intensity.lightingUnits) / square(intensity.distance);
     return candela / squareMillimetresPerSquareUnit(intensity);
 }
@@ -57,6 +58,25 @@ double candelaOf(const PhotometricIntensity& intensity) {
 }
 
 } // namespace
+
+PhotometricUnits photometricUnits() {
+    short lightingUnits = 0;
+    zwutads::getVar(L"LIGHTINGUNITS", lightingUnits);
+    short insertionUnits = 0;
+    zwutads::getVar(L"INSUNITS", insertionUnits);
+    PhotometricUnits units{.lightingUnits = lightingUnits};
+    zredGetUnitsConversion(millimetres, insertionUnits, units.unitsPerMillimetre);
+    return units;
+}
+
+PhotometricIntensity photometricIntensityOf(const ZrDbLight& light, const PhotometricUnits& units) {
+    return {.value = light.physicalIntensity(),
+            .method = light.physicalIntensityMethod(),
+            .distance = light.illuminanceDistance(),
+            .isSpot = light.lightType() == DrawableType::kSpotLight,
+            .lightingUnits = units.lightingUnits,
+            .unitsPerMillimetre = units.unitsPerMillimetre};
+}
 
 double convertIntensity(const PhotometricIntensity& intensity, PhysicalIntensityMethod target) {
     const double candela = candelaOf(intensity);

@@ -1,5 +1,8 @@
 #include "sdk/gi/photometric_intensity.h"
 
+#include "host/sys/system_variables.h"
+#include "tests/support/test_session.h"
+
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -144,6 +147,57 @@ TEST(ConvertIntensity, AtDistanceZeroThereIsNoIlluminance) {
 
 TEST(ConvertIntensity, AnIlluminanceAtDistanceZeroIsNoIntensity) {
     EXPECT_EQ(convertIntensity({.value = 375, .method = kIlluminance, .distance = 0}, kPeakIntensity), 0);
+}
+
+TEST(PhotometricUnits, AreThoseOfTheCurrentDrawing) {
+    test::TestSession host;
+    ASSERT_EQ(host.session().variables().set(L"LIGHTINGUNITS", short{1}), sys::SetResult::Ok);
+    ASSERT_EQ(host.session().variables().set(L"INSUNITS", short{6}), sys::SetResult::Ok);
+
+    const PhotometricUnits units = photometricUnits();
+
+    EXPECT_EQ(units.lightingUnits, footCandles);
+    EXPECT_DOUBLE_EQ(units.unitsPerMillimetre, metres);
+}
+
+TEST(PhotometricUnits, OfAUnitlessDrawingAreMillimetres) {
+    test::TestSession host;
+    ASSERT_EQ(host.session().variables().set(L"INSUNITS", short{0}), sys::SetResult::Ok);
+
+    EXPECT_EQ(photometricUnits().unitsPerMillimetre, 1);
+}
+
+TEST(PhotometricUnits, HaveAUnitOfIlluminanceUnlessTheyAreGeneric) {
+    EXPECT_FALSE(isPhotometric(generic));
+    EXPECT_TRUE(isPhotometric(footCandles));
+    EXPECT_TRUE(isPhotometric(lux));
+    EXPECT_FALSE(isPhotometric(3));
+}
+
+TEST(PhotometricIntensityOf, ALightIsWhatTheLightHolds) {
+    ZrDbLight light;
+    light.setPhysicalIntensityMethod(kFlux);
+    light.setPhysicalIntensity(1000);
+    light.setIlluminanceDistance(3);
+
+    const PhotometricIntensity intensity = photometricIntensityOf(light, {footCandles, feet});
+
+    EXPECT_EQ(intensity.value, 1000);
+    EXPECT_EQ(intensity.method, kFlux);
+    EXPECT_EQ(intensity.distance, 3);
+    EXPECT_EQ(intensity.lightingUnits, footCandles);
+    EXPECT_EQ(intensity.unitsPerMillimetre, feet);
+}
+
+TEST(PhotometricIntensityOf, ALightHasTheConeOfASpotAsASpotOnly) {
+    ZrDbLight light;
+    EXPECT_FALSE(photometricIntensityOf(light, {}).isSpot);
+
+    light.setLightType(DrawableType::kSpotLight);
+    EXPECT_TRUE(photometricIntensityOf(light, {}).isSpot);
+
+    light.setLightType(DrawableType::kWebLight);
+    EXPECT_FALSE(photometricIntensityOf(light, {}).isSpot);
 }
 
 } // namespace
