@@ -162,7 +162,10 @@ Outcome checkTarget(const fs::path& target, struct stat& old, bool& exists) {
     return {};
 }
 
-Outcome writeTemporary(const fs::path& target, const struct stat* old, const Segments& segments, Temporary& temporary) {
+// Writes the contents; false with errno.
+using Write = std::function<bool(int fd)>;
+
+Outcome writeTemporary(const fs::path& target, const struct stat* old, const Write& write, Temporary& temporary) {
     constexpr mode_t kNewFile = 0666;
     int fd = -1;
     const bool made = makeTemporary(target, temporary, [&fd](const fs::path& path) {
@@ -183,7 +186,7 @@ Outcome writeTemporary(const fs::path& target, const struct stat* old, const Seg
         }
     }
     const WithoutSizeSignal quiet;
-    if (!reserve(file.get(), totalSize(segments)) || !writeAll(file.get(), segments)) {
+    if (!write(file.get())) {
         return failure(SaveStep::Write, target);
     }
     if (::fdatasync(file.get()) != 0 || !file.close()) {
@@ -252,18 +255,7 @@ void syncFolder(const fs::path& folder) {
     }
 }
 
-} // namespace
-
-fs::path backupPath(const fs::path& path) {
-    fs::path backup = path;
-    backup.replace_extension(".bak");
-    if (backup == path) {
-        backup += ".bak";
-    }
-    return backup;
-}
-
-Outcome saveAtomically(const fs::path& path, const Segments& segments, const SaveOptions& options) {
+Outcome save(const fs::path& path, const Write& write, const SaveOptions& options) {
     const auto target = resolved(path);
     if (!target) {
         return failure(SaveStep::Target, path);
@@ -277,7 +269,7 @@ Outcome saveAtomically(const fs::path& path, const Segments& segments, const Sav
         return checked;
     }
     Temporary temporary;
-    if (auto written = writeTemporary(*target, exists ? &old : nullptr, segments, temporary); !written) {
+    if (auto written = writeTemporary(*target, exists ? &old : nullptr, write, temporary); !written) {
         return written;
     }
     if (auto placed = putInPlace(*target, temporary, exists && options.keepBackup); !placed) {
@@ -285,6 +277,33 @@ Outcome saveAtomically(const fs::path& path, const Segments& segments, const Sav
     }
     syncFolder(folderOf(*target));
     return {};
+}
+
+} // namespace
+
+fs::path backupPath(const fs::path& path) {
+    fs::path backup = path;
+    backup.replace_extension(".bak");
+    if (backup == path) {
+        backup += ".bak";
+    }
+    return backup;
+}
+
+Outcome saveAtomically(const fs::path& path, const Segments& segments, const SaveOptions& options) {
+    const auto write = [&](int fd) { return reserve(fd, totalSize(segments)) && writeAll(fd, segments); };
+    return save(path, write, options);
+}
+
+Outcome savePiecesAtomically(const fs::path& path, const std::function<std::string_view()>& next,
+                             const SaveOptions& options) {
+    const auto write = [&](int fd) {
+        for (std::string_view piece = next(); !piece.empty(); piece = next())
+            if (!writeAll(fd, {piece}))
+                return false;
+        return true;
+    };
+    return save(path, write, options);
 }
 
 } // namespace quor::dxf

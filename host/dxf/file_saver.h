@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 
 namespace quor::dxf {
 
@@ -34,6 +35,12 @@ struct SaveOptions {
 // permissions.
 [[nodiscard]] Result<void, SaveError> saveAtomically(const std::filesystem::path& path, const Segments& segments,
                                                      const SaveOptions& options = {});
+
+// The same for a file that is longer than it should take memory: `next` gives it piece by piece, each valid until the
+// next one; an empty one is the end. What it throws leaves everything as it was.
+[[nodiscard]] Result<void, SaveError> savePiecesAtomically(const std::filesystem::path& path,
+                                                           const std::function<std::string_view()>& next,
+                                                           const SaveOptions& options = {});
 
 // Where the previous version of path goes: "a/plan.dxf" to "a/plan.bak".
 [[nodiscard]] std::filesystem::path backupPath(const std::filesystem::path& path);

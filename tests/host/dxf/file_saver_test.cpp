@@ -4,9 +4,12 @@
 #include "tests/host/dxf/scratch_folder.h"
 
 #include <cerrno>
+#include <functional>
 #include <gtest/gtest.h>
+#include <stdexcept>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <vector>
 
 namespace quor::dxf {
 namespace {
@@ -192,6 +195,41 @@ TEST(BackupPath, TakesThePlaceOfTheExtension) {
     EXPECT_EQ(backupPath("a.b/plan"), "a.b/plan.bak");
     EXPECT_EQ(backupPath("plan.v2.dxf"), "plan.v2.bak");
     EXPECT_EQ(backupPath("plan.bak"), "plan.bak.bak");
+}
+
+// Gives the pieces one after the other, then the end.
+std::function<std::string_view()> source(std::vector<std::string_view> pieces) {
+    return [pieces = std::move(pieces), next = std::size_t{0}]() mutable {
+        return next < pieces.size() ? pieces[next++] : std::string_view();
+    };
+}
+
+TEST(SavePiecesAtomically, WritesThemInOrder) {
+    const ScratchFolder folder;
+    EXPECT_TRUE(savePiecesAtomically(folder / "lights.csv", source({"ab", "c", "def"})).ok());
+    EXPECT_EQ(contentOf(folder / "lights.csv"), "abcdef");
+    EXPECT_EQ(folder.fileCount(), 1U);
+}
+
+TEST(SavePiecesAtomically, LeavesTheOldFileOnAFullDisk) {
+    const ScratchFolder folder;
+    put(folder / "lights.csv", "old");
+    const std::string large(5000, 'x');
+    const TinyDisk disk(8000);
+    const auto result = savePiecesAtomically(folder / "lights.csv", source({large, large}), {.keepBackup = false});
+    ASSERT_FALSE(result.ok());
+    EXPECT_EQ(result.error().step, SaveStep::Write);
+    EXPECT_EQ(contentOf(folder / "lights.csv"), "old");
+    EXPECT_EQ(folder.fileCount(), 1U);
+}
+
+TEST(SavePiecesAtomically, LeavesTheOldFileWhenTheSourceThrows) {
+    const ScratchFolder folder;
+    put(folder / "lights.csv", "old");
+    const auto broken = []() -> std::string_view { throw std::runtime_error("no more"); };
+    EXPECT_THROW(static_cast<void>(savePiecesAtomically(folder / "lights.csv", broken)), std::runtime_error);
+    EXPECT_EQ(contentOf(folder / "lights.csv"), "old");
+    EXPECT_EQ(folder.fileCount(), 1U);
 }
 
 } // namespace
