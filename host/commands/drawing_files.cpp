@@ -1,6 +1,7 @@
 #include "host/commands/drawing_files.h"
 
 #include "host/commands/ask.h"
+#include "host/commands/save_place.h"
 #include "host/db/versions.h"
 #include "host/session.h"
 #include "host/texts/files.h"
@@ -56,29 +57,11 @@ bool isReadableFile(const fs::path& path) {
     return true;
 }
 
-// Says why nothing can be saved there; true when it can.
-bool isPlaceToSave(Session& session, const Document& document, const fs::path& path) {
-    std::error_code error;
-    if (fs::is_directory(path, error)) {
-        sayShown(texts::kIsFolder, textOf(path));
-        return false;
-    }
-    if (fs::exists(path, error) && !fs::is_regular_file(path, error)) {
-        sayShown(texts::kNoRegularFile, textOf(path));
-        return false;
-    }
-    const fs::path folder = path.parent_path();
-    if (!folder.empty() && !fs::is_directory(folder, error)) {
-        sayShown(texts::kNoSuchFolder, textOf(folder));
-        return false;
-    }
-    const Document* other = openDocument(session, path);
-    if (other != nullptr && other != &document) {
-        sayShown(texts::kOpenElsewhere, textOf(path));
-        return false;
-    }
-    return true;
-}
+constexpr PlaceTexts kPlaceOfADrawing{.isFolder = texts::kIsFolder,
+                                      .noRegularFile = texts::kNoRegularFile,
+                                      .noSuchFolder = texts::kNoSuchFolder,
+                                      .isOpenDrawing = texts::kOpenElsewhere,
+                                      .notReplaced = texts::kNotReplaced};
 
 } // namespace
 
@@ -111,12 +94,11 @@ int openPath(Session& session, const fs::path& file, bool recover) {
     return RTNORM;
 }
 
-fs::path withExtension(fs::path path) {
+fs::path withExtension(fs::path path, const char* extension) {
     std::error_code error;
     const bool isOther = fs::exists(path, error) && !fs::is_regular_file(path, error);
-    if (!path.has_extension() && !isOther)
-        path += ".dxf";
-    return path;
+    const bool hasNone = !path.has_extension() || path.extension() == ".";
+    return hasNone && !isOther ? path.replace_extension(extension) : path;
 }
 
 int askSavePath(Session& session, const Document& document, fs::path& path) {
@@ -124,16 +106,7 @@ int askSavePath(Session& session, const Document& document, fs::path& path) {
     if (!answer || answer->empty())
         return RTCAN;
     path = withExtension(absolutePath(pathFromText(*answer)));
-    if (!isPlaceToSave(session, document, path))
-        return RTERROR;
-    std::error_code error;
-    const bool own = !document.path().empty() && sameFile(path, document.path());
-    if (own || !fs::exists(path, error))
-        return RTNORM;
-    const std::optional<bool> replace = askYesNo(fillShown(texts::kAskReplace, textOf(path)), false);
-    if (!replace)
-        return RTCAN;
-    return *replace ? RTNORM : failWith(texts::kNotReplaced, textOf(path));
+    return checkPlace(session, path, &document, kPlaceOfADrawing);
 }
 
 int saveTo(Document& document, const fs::path& path) {

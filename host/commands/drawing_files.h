@@ -14,8 +14,9 @@ namespace quor::commands {
 // Opens a drawing and makes it current; one that is open already becomes current. RTNORM or RTERROR.
 int openPath(Session& session, const std::filesystem::path& file, bool recover);
 
-// The path with ".dxf" behind a name that has no extension. A folder or a device stays what it is.
-[[nodiscard]] std::filesystem::path withExtension(std::filesystem::path path);
+// The path with the extension behind a name that has none; a dot at the end is none. A folder or a device stays what it
+// is.
+[[nodiscard]] std::filesystem::path withExtension(std::filesystem::path path, const char* extension = ".dxf");
 // Asks where to save. A name without extension gets ".dxf". Asks before it replaces a file other than the drawing's
 // own. RTNORM with a path, RTCAN for Esc or Enter, RTERROR after a message for a file that is to be kept and a place
 // where nothing can be saved.

@@ -45,6 +45,13 @@ TEST_F(FileCommands, ANameWithoutExtensionGetsOne) {
     EXPECT_FALSE(fs::exists(file("plan")));
 }
 
+TEST_F(FileCommands, ADotAtTheEndOfANameIsNoExtension) {
+    host.run({L"SAVE", text("plan.")});
+
+    EXPECT_TRUE(fs::exists(file("plan.dxf")));
+    EXPECT_FALSE(fs::exists(file("plan.")));
+}
+
 TEST_F(FileCommands, SavingTakesTheModifiedMarkAway) {
     drawLine();
     ASSERT_TRUE(host.document().isModified());

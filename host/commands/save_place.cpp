@@ -1,0 +1,32 @@
+#include "host/commands/save_place.h"
+
+#include "host/commands/ask.h"
+#include "host/commands/drawing_files.h"
+#include "host/session.h"
+#include "host/texts/files.h"
+
+namespace quor::commands {
+
+namespace fs = std::filesystem;
+
+int checkPlace(Session& session, const fs::path& path, const Document* own, const PlaceTexts& place) {
+    std::error_code error;
+    if (fs::is_directory(path, error))
+        return failWith(place.isFolder, textOf(path));
+    if (fs::exists(path, error) && !fs::is_regular_file(path, error))
+        return failWith(place.noRegularFile, textOf(path));
+    const fs::path folder = path.parent_path();
+    if (!folder.empty() && !fs::is_directory(folder, error))
+        return failWith(place.noSuchFolder, textOf(folder));
+    const Document* open = openDocument(session, path);
+    if (open != nullptr && open != own)
+        return failWith(place.isOpenDrawing, textOf(path));
+    if (open != nullptr || !fs::exists(path, error))
+        return RTNORM;
+    const std::optional<bool> replace = askYesNo(fillShown(texts::kAskReplace, textOf(path)), false);
+    if (!replace)
+        return RTCAN;
+    return *replace ? RTNORM : failWith(place.notReplaced, textOf(path));
+}
+
+} // namespace quor::commands
