@@ -1,7 +1,8 @@
 #include "host/commands/light_facts.h"
 
+#include "host/commands/listing.h"
+
 #include <cmath>
-#include <numbers>
 
 namespace quor::commands {
 
@@ -9,10 +10,7 @@ namespace {
 
 using enum PhysicalIntensityMethod;
 
-double degrees(double radians) { return radians * 180 / std::numbers::pi; }
-
 bool shinesAllAround(LightKind kind) { return kind == LightKind::Point || kind == LightKind::TargetPoint; }
-bool isSpot(LightKind kind) { return kind == LightKind::Spot || kind == LightKind::FreeSpot; }
 
 std::optional<ZrGeVector3d> directionOf(const ZrDbLight& light, LightKind kind) {
     const ZrGeVector3d direction = light.lightDirection();
@@ -23,8 +21,7 @@ std::optional<ZrGeVector3d> directionOf(const ZrDbLight& light, LightKind kind) 
 
 // Whether the unit of the drawing's illuminances is needed and not known.
 bool lacksUnit(const PhotometricIntensity& intensity, PhysicalIntensityMethod wanted) {
-    const bool isKnown = intensity.lightingUnits == footCandles || intensity.lightingUnits == lux;
-    return !isKnown && (intensity.method == kIlluminance || wanted == kIlluminance);
+    return !isPhotometric(intensity.lightingUnits) && (intensity.method == kIlluminance || wanted == kIlluminance);
 }
 
 std::optional<double> intensityIn(PhysicalIntensityMethod wanted, const PhotometricIntensity& intensity,
@@ -44,25 +41,20 @@ void addGeometry(const ZrDbLight& light, LightFacts& facts) {
             facts.target = light.targetLocation();
     }
     facts.direction = directionOf(light, facts.kind);
-    if (isSpot(facts.kind)) {
-        facts.hotspot = degrees(light.hotspotAngle());
-        facts.falloff = degrees(light.falloffAngle());
+    if (facts.kind == LightKind::Spot || facts.kind == LightKind::FreeSpot) {
+        facts.hotspot = inDegrees(light.hotspotAngle());
+        facts.falloff = inDegrees(light.falloffAngle());
     }
 }
 
 void addPhotometry(const ZrDbLight& light, const PhotometricUnits& units, LightFacts& facts) {
-    const PhotometricIntensity intensity{.value = light.physicalIntensity(),
-                                         .method = light.physicalIntensityMethod(),
-                                         .distance = light.illuminanceDistance(),
-                                         .isSpot = isSpot(facts.kind),
-                                         .lightingUnits = units.lightingUnits,
-                                         .unitsPerMillimetre = units.unitsPerMillimetre};
+    const PhotometricIntensity intensity = photometricIntensityOf(light, units);
     facts.method = intensity.method;
     facts.candela = intensityIn(kPeakIntensity, intensity, facts.kind);
     facts.lumen = intensityIn(kFlux, intensity, facts.kind);
     facts.illuminance = intensityIn(kIlluminance, intensity, facts.kind);
-    facts.illuminanceDistance = intensity.distance;
-    facts.lightingUnits = units.lightingUnits;
+    if (facts.kind != LightKind::Distant || facts.illuminance)
+        facts.illuminanceDistance = intensity.distance;
     if (light.lampColorType() == LampColorType::kPreset)
         facts.lampPreset = light.lampColorPreset();
     else
@@ -70,6 +62,12 @@ void addPhotometry(const ZrDbLight& light, const PhotometricUnits& units, LightF
 }
 
 } // namespace
+
+const wchar_t* illuminanceUnit(int lightingUnits) {
+    if (lightingUnits == footCandles)
+        return L"fc";
+    return lightingUnits == lux ? L"lx" : L"";
+}
 
 LightKind kindOf(const ZrDbLight& light) {
     switch (light.lightType()) {

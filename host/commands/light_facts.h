@@ -9,12 +9,7 @@
 namespace quor::commands {
 
 enum class LightKind { Point, TargetPoint, Spot, FreeSpot, Web, FreeWeb, Distant };
-
-// What the photometric values of a drawing depend on.
-struct PhotometricUnits {
-    int lightingUnits = lux;       // LIGHTINGUNITS
-    double unitsPerMillimetre = 1; // drawing units
-};
+inline constexpr std::size_t kLightKinds = 7;
 
 struct LightFacts {
     ZrDbHandle handle;
@@ -41,8 +36,7 @@ struct LightFacts {
     std::optional<double> candela;
     std::optional<double> lumen;
     std::optional<double> illuminance;
-    double illuminanceDistance = 1;
-    int lightingUnits = lux; // of the drawing
+    std::optional<double> illuminanceDistance; // of a light that could have an illuminance
 
     std::optional<LampColorPreset> lampPreset; // one of the two
     std::optional<double> lampKelvin;
@@ -50,6 +44,9 @@ struct LightFacts {
     ZrString webFile;
     ZrGiShadowParameters shadows;
 };
+
+// The symbol of the unit of illuminance by LIGHTINGUNITS; empty where it has none.
+[[nodiscard]] const wchar_t* illuminanceUnit(int lightingUnits);
 
 [[nodiscard]] LightKind kindOf(const ZrDbLight& light);
 [[nodiscard]] LightFacts factsOf(const ZrDbLight& light, const ZrString& layout, const PhotometricUnits& units);

@@ -54,16 +54,14 @@ FieldValue colorName(const ZrCmColor& color) {
     return color.bookName().empty() ? color.colorName() : color.bookName() + L"$" + color.colorName();
 }
 
-FieldValue illuminanceUnit(F light) {
-    if (!light.illuminance || (light.lightingUnits != footCandles && light.lightingUnits != lux))
-        return {};
-    return ZrString(light.lightingUnits == footCandles ? L"fc" : L"lx");
+FieldValue unitOfIlluminance(F light, int lightingUnits) {
+    return light.illuminance ? text(illuminanceUnit(lightingUnits)) : FieldValue();
 }
 
 bool isMapped(F light) { return light.shadows.shadowsOn() && light.shadows.shadowType() == Shadows::kShadowMaps; }
 bool isSampled(F light) { return light.shadows.shadowsOn() && light.shadows.shadowType() == Shadows::kAreaSampled; }
 
-FieldValue shadows(F light) {
+FieldValue shadows(F light, int) {
     return light.shadows.shadowsOn() ? word(kShadows, light.shadows.shadowType()) : FieldValue(ZrString(L"off"));
 }
 
@@ -83,49 +81,57 @@ using V = ZrGeVector3d;
 
 // clang-format off
 constexpr LightField kFields[] = {
-    {"handle",               [](F f) -> FieldValue { return zrFormat(L"%X", {f.handle.value()}); }},
-    {"name",                 [](F f) -> FieldValue { return f.name; }},
-    {"kind",                 [](F f) { return word(kKinds, f.kind); }},
-    {"space",                [](F f) -> FieldValue { return f.layout.empty() ? ZrString(L"Model") : f.layout; }},
-    {"layer",                [](F f) -> FieldValue { return f.layer; }},
-    {"on",                   [](F f) -> FieldValue { return f.on; }},
-    {"position_x",           [](F f) { return part(f.position, &P::x); }},
-    {"position_y",           [](F f) { return part(f.position, &P::y); }},
-    {"position_z",           [](F f) { return part(f.position, &P::z); }},
-    {"target_x",             [](F f) { return part(f.target, &P::x); }},
-    {"target_y",             [](F f) { return part(f.target, &P::y); }},
-    {"target_z",             [](F f) { return part(f.target, &P::z); }},
-    {"direction_x",          [](F f) { return part(f.direction, &V::x); }},
-    {"direction_y",          [](F f) { return part(f.direction, &V::y); }},
-    {"direction_z",          [](F f) { return part(f.direction, &V::z); }},
-    {"hotspot_degrees",      [](F f) { return number(f.hotspot); }},
-    {"falloff_degrees",      [](F f) { return number(f.falloff); }},
-    {"intensity_factor",     [](F f) -> FieldValue { return f.factor; }},
-    {"given_as",             [](F f) { return word(kMethods, f.method); }},
-    {"candela",              [](F f) { return number(f.candela); }},
-    {"lumen",                [](F f) { return number(f.lumen); }},
-    {"illuminance",          [](F f) { return number(f.illuminance); }},
-    {"illuminance_unit",     illuminanceUnit},
-    {"illuminance_distance", [](F f) -> FieldValue { return f.illuminanceDistance; }},
-    {"lamp_preset",          [](F f) { return f.lampPreset ? word(kPresets, *f.lampPreset) : FieldValue(); }},
-    {"lamp_kelvin",          [](F f) { return number(f.lampKelvin); }},
-    {"color",                [](F f) { return colorText(f.color); }},
-    {"color_index",          [](F f) { return f.color.isByACI() ? whole(f.color.colorIndex()) : FieldValue(); }},
-    {"color_name",           [](F f) { return colorName(f.color); }},
-    {"web_file",             [](F f) { return text(f.webFile); }},
+    {"handle",               [](F f, int) -> FieldValue { return zrFormat(L"%X", {f.handle.value()}); }},
+    {"name",                 [](F f, int) -> FieldValue { return f.name; }},
+    {"kind",                 [](F f, int) { return word(kKinds, f.kind); }},
+    {"space",                [](F f, int) -> FieldValue { return f.layout.empty() ? ZrString(L"Model") : f.layout; }},
+    {"layer",                [](F f, int) -> FieldValue { return f.layer; }},
+    {"on",                   [](F f, int) -> FieldValue { return f.on; }},
+    {"position_x",           [](F f, int) { return part(f.position, &P::x); }},
+    {"position_y",           [](F f, int) { return part(f.position, &P::y); }},
+    {"position_z",           [](F f, int) { return part(f.position, &P::z); }},
+    {"target_x",             [](F f, int) { return part(f.target, &P::x); }},
+    {"target_y",             [](F f, int) { return part(f.target, &P::y); }},
+    {"target_z",             [](F f, int) { return part(f.target, &P::z); }},
+    {"direction_x",          [](F f, int) { return part(f.direction, &V::x); }},
+    {"direction_y",          [](F f, int) { return part(f.direction, &V::y); }},
+    {"direction_z",          [](F f, int) { return part(f.direction, &V::z); }},
+    {"hotspot_degrees",      [](F f, int) { return number(f.hotspot); }},
+    {"falloff_degrees",      [](F f, int) { return number(f.falloff); }},
+    {"intensity_factor",     [](F f, int) -> FieldValue { return f.factor; }},
+    {"given_as",             [](F f, int) { return word(kMethods, f.method); }},
+    {"candela",              [](F f, int) { return number(f.candela); }},
+    {"lumen",                [](F f, int) { return number(f.lumen); }},
+    {"illuminance",          [](F f, int) { return number(f.illuminance); }},
+    {"illuminance_unit",     unitOfIlluminance},
+    {"illuminance_distance", [](F f, int) { return number(f.illuminanceDistance); }},
+    {"lamp_preset",          [](F f, int) { return f.lampPreset ? word(kPresets, *f.lampPreset) : FieldValue(); }},
+    {"lamp_kelvin",          [](F f, int) { return number(f.lampKelvin); }},
+    {"color",                [](F f, int) { return colorText(f.color); }},
+    {"color_index",          [](F f, int) { return f.color.isByACI() ? whole(f.color.colorIndex()) : FieldValue(); }},
+    {"color_name",           [](F f, int) { return colorName(f.color); }},
+    {"web_file",             [](F f, int) { return text(f.webFile); }},
     {"shadows",              shadows},
-    {"shadow_map_size",      [](F f) { return isMapped(f) ? whole(f.shadows.shadowMapSize()) : FieldValue(); }},
-    {"shadow_softness",      [](F f) { return isMapped(f) ? whole(f.shadows.shadowMapSoftness()) : FieldValue(); }},
-    {"shadow_samples",       [](F f) { return isSampled(f) ? whole(f.shadows.shadowSamples()) : FieldValue(); }},
-    {"shadow_shape",         [](F f) { return isSampled(f) ? word(kShapes, f.shadows.extendedLightShape()) : FieldValue(); }},
-    {"shadow_shape_length",  [](F f) { return hasLength(f) ? FieldValue(f.shadows.extendedLightLength()) : FieldValue(); }},
-    {"shadow_shape_width",   [](F f) { return hasWidth(f) ? FieldValue(f.shadows.extendedLightWidth()) : FieldValue(); }},
-    {"shadow_shape_radius",  [](F f) { return hasRadius(f) ? FieldValue(f.shadows.extendedLightRadius()) : FieldValue(); }},
+    {"shadow_map_size",      [](F f, int) { return isMapped(f) ? whole(f.shadows.shadowMapSize()) : FieldValue(); }},
+    {"shadow_softness",      [](F f, int) { return isMapped(f) ? whole(f.shadows.shadowMapSoftness()) : FieldValue(); }},
+    {"shadow_samples",       [](F f, int) { return isSampled(f) ? whole(f.shadows.shadowSamples()) : FieldValue(); }},
+    {"shadow_shape",         [](F f, int) { return isSampled(f) ? word(kShapes, f.shadows.extendedLightShape()) : FieldValue(); }},
+    {"shadow_shape_length",  [](F f, int) { return hasLength(f) ? FieldValue(f.shadows.extendedLightLength()) : FieldValue(); }},
+    {"shadow_shape_width",   [](F f, int) { return hasWidth(f) ? FieldValue(f.shadows.extendedLightWidth()) : FieldValue(); }},
+    {"shadow_shape_radius",  [](F f, int) { return hasRadius(f) ? FieldValue(f.shadows.extendedLightRadius()) : FieldValue(); }},
 };
 // clang-format on
 
 } // namespace
 
 std::span<const LightField> lightFields() { return kFields; }
+
+FieldValues fieldsOf(const LightFacts& light, int lightingUnits) {
+    FieldValues values;
+    values.reserve(std::size(kFields));
+    for (const LightField& field : kFields)
+        values.push_back(field.value(light, lightingUnits));
+    return values;
+}
 
 } // namespace quor::commands

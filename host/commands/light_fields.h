@@ -8,6 +8,7 @@
 #include <span>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace quor::commands {
 
@@ -16,9 +17,13 @@ using FieldValue = std::variant<std::monostate, bool, std::int64_t, double, ZrSt
 
 struct LightField {
     std::string_view name;
-    FieldValue (*value)(const LightFacts&);
+    FieldValue (*value)(const LightFacts&, int lightingUnits); // LIGHTINGUNITS
 };
 
 [[nodiscard]] std::span<const LightField> lightFields();
+
+// The values of a light, a field each.
+using FieldValues = std::vector<FieldValue>;
+[[nodiscard]] FieldValues fieldsOf(const LightFacts& light, int lightingUnits);
 
 } // namespace quor::commands

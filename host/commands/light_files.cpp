@@ -80,33 +80,32 @@ std::string beginCsv(const DrawingFacts&) {
     return row + "\r\n";
 }
 
-void appendCsv(std::string& file, const LightFacts& light, bool) {
+void appendCsv(std::string& file, std::span<const FieldValue> light, bool) {
     const ValueWriter writer{file, appendCsvText, ""};
     const char* separator = "";
-    for (const LightField& field : lightFields()) {
+    for (const FieldValue& value : light) {
         file += separator;
-        std::visit(writer, field.value(light));
+        std::visit(writer, value);
         separator = ",";
     }
     file += "\r\n";
 }
 
-const char* illuminanceUnit(int lightingUnits) {
-    if (lightingUnits == footCandles)
-        return "\"fc\"";
-    return lightingUnits == lux ? "\"lx\"" : "null";
+// A text, or null where there is none.
+void appendJsonTextOrNull(std::string& out, const ZrString& text) {
+    if (text.empty())
+        out += "null";
+    else
+        appendJsonText(out, text);
 }
 
 std::string beginJson(const DrawingFacts& drawing) {
     std::string out = "{\n  \"drawing\": ";
     appendJsonText(out, drawing.name);
     out += ",\n  \"units\": {\"length\": ";
-    if (drawing.lengthUnit.empty())
-        out += "null";
-    else
-        appendJsonText(out, drawing.lengthUnit);
+    appendJsonTextOrNull(out, drawing.lengthUnit);
     out += ", \"illuminance\": ";
-    out += illuminanceUnit(drawing.lightingUnits);
+    appendJsonTextOrNull(out, illuminanceUnit(drawing.lightingUnits));
     out += ", \"insunits\": ";
     appendNumber(out, std::int64_t{drawing.insertionUnits});
     out += ", \"lightingunits\": ";
@@ -114,13 +113,14 @@ std::string beginJson(const DrawingFacts& drawing) {
     return out + "},\n  \"lights\": [";
 }
 
-void appendJson(std::string& file, const LightFacts& light, bool isFirst) {
+void appendJson(std::string& file, std::span<const FieldValue> light, bool isFirst) {
     const ValueWriter writer{file, appendJsonText, "null"};
     file += isFirst ? "\n    {" : ",\n    {";
     const char* separator = "\"";
-    for (const LightField& field : lightFields()) {
-        ((file += separator) += field.name) += "\": ";
-        std::visit(writer, field.value(light));
+    const auto fields = lightFields();
+    for (std::size_t field = 0; field < fields.size(); ++field) {
+        ((file += separator) += fields[field].name) += "\": ";
+        std::visit(writer, light[field]);
         separator = ", \"";
     }
     file += '}';
@@ -131,18 +131,19 @@ constexpr LightFileFormat kFormats[] = {
     {L"Json", ".json", beginJson, appendJson, "\n  ]\n}\n", false},
 };
 
-bool beginsFormula(const ZrString& text) {
-    constexpr std::wstring_view kFormulas = L"=+-@";
-    return !text.empty() && kFormulas.find(text.front()) != std::wstring_view::npos;
+// What begins a formula, at once or behind what a spreadsheet skips.
+bool beginsFormula(const FieldValue& value) {
+    constexpr std::wstring_view kFormulas = L"=+-@\t\r";
+    const auto* text = std::get_if<ZrString>(&value);
+    return text != nullptr && !text->empty() && kFormulas.find(text->front()) != std::wstring_view::npos;
 }
 
 } // namespace
 
 std::span<const LightFileFormat> lightFileFormats() { return kFormats; }
 
-bool looksLikeFormula(const LightFacts& light) {
-    return beginsFormula(light.name) || beginsFormula(light.layout) || beginsFormula(light.layer) ||
-           beginsFormula(light.webFile) || beginsFormula(light.color.bookName());
+bool looksLikeFormula(std::span<const FieldValue> light) {
+    return std::any_of(light.begin(), light.end(), beginsFormula);
 }
 
 } // namespace quor::commands

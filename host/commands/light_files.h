@@ -25,14 +25,14 @@ struct LightFileFormat {
     const wchar_t* keyword;
     const char* extension;
     std::string (*begin)(const DrawingFacts&);
-    void (*append)(std::string& file, const LightFacts& light, bool isFirst);
+    void (*append)(std::string& file, std::span<const FieldValue> light, bool isFirst);
     const char* end;
     bool isForSpreadsheets;
 };
 
 [[nodiscard]] std::span<const LightFileFormat> lightFileFormats();
 
-// Whether a spreadsheet would take a text of the light (its name, its layer, …) for a formula.
-[[nodiscard]] bool looksLikeFormula(const LightFacts& light);
+// Whether a spreadsheet would take a text among the fields of the light (its name, its layer, …) for a formula.
+[[nodiscard]] bool looksLikeFormula(std::span<const FieldValue> light);
 
 } // namespace quor::commands

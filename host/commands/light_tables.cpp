@@ -1,28 +1,36 @@
 #include "host/commands/light_tables.h"
 
 #include "host/commands/listing.h"
-#include "host/commands/text_table.h"
 #include "host/texts/light_table.h"
 #include "host/texts/list.h"
 #include "sdk/db/database.h"
 #include "sdk/ed/print.h"
 
-#include <array>
 #include <iterator>
+#include <span>
 
 namespace quor::commands {
 
 namespace {
 
-using F = const LightFacts&;
-using Shadows = ZrGiShadowParameters;
+bool always(int) { return true; }
+bool inLux(int lightingUnits) { return lightingUnits == lux; }
+bool inFootCandles(int lightingUnits) { return lightingUnits == footCandles; }
+
+} // namespace
 
 struct LightColumn {
     const Text& heading;
     Align align;
     ZrString (*value)(const LightFacts&); // empty: the light has none
     bool isBesideLast = false;            // the next coordinate of a point
+    bool (*isShown)(int lightingUnits) = always;
 };
+
+namespace {
+
+using F = const LightFacts&;
+using Shadows = ZrGiShadowParameters;
 
 // Longer ones would push everything behind them off the screen; LIST and files have them in full.
 constexpr int kMostOfName = 24;
@@ -39,20 +47,9 @@ ZrString shortName(const ZrString& name) { return cutToColumns(visibleText(name)
 // Of a path only the name; paths of other systems have backslashes.
 ZrString fileName(const ZrString& path) { return shortName(path.substr(path.find_last_of(L"/\\") + 1)); }
 
-bool isPhotometric(F light) { return light.lightingUnits == footCandles || light.lightingUnits == lux; }
-
-// In generic lighting the photometric values have no effect.
-ZrString photometric(F light, const std::optional<double>& value) {
-    return value && isPhotometric(light) ? decimalText(*value) : ZrString();
-}
-
-ZrString illuminanceIn(F light, int lightingUnits) {
-    return light.lightingUnits == lightingUnits ? photometric(light, light.illuminance) : ZrString();
-}
+ZrString number(const std::optional<double>& value) { return value ? decimalText(*value) : ZrString(); }
 
 ZrString lampText(F light) {
-    if (!isPhotometric(light))
-        return {};
     return light.lampPreset ? word(texts::kLampPresets, *light.lampPreset) : numberText(*light.lampKelvin) + L" K";
 }
 
@@ -88,6 +85,7 @@ ZrString sizesText(const Shadows& shadows) {
 using P = ZrGePoint3d;
 using V = ZrGeVector3d;
 constexpr bool kBesideLast = true;
+constexpr bool kApart = false;
 constexpr Text kX{L"X", L"X"};
 constexpr Text kY{L"Y", L"Y"};
 constexpr Text kZ{L"Z", L"Z"};
@@ -120,64 +118,94 @@ const LightColumn kWhere[] = {
 const LightColumn kIntensity[] = {
     kName,
     {texts::kTableFactor, Align::Right, [](F f) { return decimalText(f.factor); }},
-    {kCandela, Align::Right, [](F f) { return photometric(f, f.candela); }},
-    {kLumen, Align::Right, [](F f) { return photometric(f, f.lumen); }},
-    {kLux, Align::Right, [](F f) { return illuminanceIn(f, lux); }},
-    {kFootCandles, Align::Right, [](F f) { return illuminanceIn(f, footCandles); }},
+    {kCandela, Align::Right, [](F f) { return number(f.candela); }, kApart, isPhotometric},
+    {kLumen, Align::Right, [](F f) { return number(f.lumen); }, kApart, isPhotometric},
+    {kLux, Align::Right, [](F f) { return number(f.illuminance); }, kApart, inLux},
+    {kFootCandles, Align::Right, [](F f) { return number(f.illuminance); }, kApart, inFootCandles},
 };
 
 const LightColumn kLook[] = {
     kName,
-    {texts::kLightLamp, Align::Left, lampText},
+    {texts::kLightLamp, Align::Left, lampText, kApart, isPhotometric},
     {texts::kLightColor, Align::Left, [](F f) { return cutToColumns(colorText(f.color), kMostOfName); }},
     {texts::kLightShadows, Align::Left, [](F f) { return shadowsInWords(f.shadows); }},
 };
-
-void printTable(const ZrString& title, std::span<const LightColumn> columns, std::span<const LightFacts> lights,
-                const std::function<void()>& printed) {
-    TextTable table;
-    for (const LightColumn& column : columns)
-        if (column.isBesideLast)
-            table.addBesideLast(column.heading.get(), column.align);
-        else
-            table.addColumn(column.heading.get(), column.align);
-    for (const LightFacts& light : lights)
-        for (const LightColumn& column : columns)
-            table.addCell(column.value(light));
-    printText(L"\n" + title);
-    for (const TextTable::Block& block : table.blocks(kWidest)) {
-        printText(L"\n" + table.heading(block));
-        for (std::size_t row = 0; row < table.rows(); ++row) {
-            printText(table.row(block, row));
-            printed();
-        }
-        printText(L"\n\n");
-    }
-}
 
 ZrString whereTitle() {
     const ZrString unit = shownUnit();
     return unit.empty() ? ZrString(texts::kTableWhere.get()) : fill(texts::kTableWhereIn, unit);
 }
 
-} // namespace
-
-void printLightTables(std::span<const LightFacts> lights, const std::function<void()>& printed) {
-    printTable(texts::kTableWhat.get(), kWhat, lights, printed);
-    printTable(whereTitle(), kWhere, lights, printed);
-    printTable(texts::kTableIntensity.get(), kIntensity, lights, printed);
-    printTable(texts::kTableLook.get(), kLook, lights, printed);
+template <const Text& Title>
+ZrString titleOf() {
+    return Title.get();
 }
 
-ZrString kindCounts(std::span<const LightFacts> lights) {
-    std::array<std::size_t, std::size(texts::kTableKinds)> counts{};
-    for (const LightFacts& light : lights)
-        ++counts[static_cast<std::size_t>(light.kind)];
+struct TableRow {
+    ZrString (*title)();
+    std::span<const LightColumn> columns;
+};
+
+const TableRow kTables[] = {{titleOf<texts::kTableWhat>, kWhat},
+                            {whereTitle, kWhere},
+                            {titleOf<texts::kTableIntensity>, kIntensity},
+                            {titleOf<texts::kTableLook>, kLook}};
+
+void printTable(const TextTable& table, const std::function<void()>& printed) {
+    for (const TextTable::Block& block : table.blocks(kWidest)) {
+        printText(L"\n" + table.heading(block));
+        table.forEachRow(block, [&](const ZrString& row) {
+            printText(row);
+            printed();
+        });
+        printText(L"\n\n");
+    }
+}
+
+} // namespace
+
+LightTables::LightTables(int lightingUnits) {
+    for (const TableRow& row : kTables) {
+        Table& table = tables_.emplace_back(Table{row.title(), {}, {}});
+        for (const LightColumn& column : row.columns) {
+            if (!column.isShown(lightingUnits))
+                continue;
+            table.columns.push_back(&column);
+            if (column.isBesideLast)
+                table.texts.addBesideLast(column.heading.get(), column.align);
+            else
+                table.texts.addColumn(column.heading.get(), column.align);
+        }
+    }
+}
+
+void LightTables::add(const LightFacts& light) {
+    ++counts_[static_cast<std::size_t>(light.kind)];
+    for (Table& table : tables_)
+        for (const LightColumn* column : table.columns)
+            table.texts.addCell(column->value(light));
+}
+
+std::size_t LightTables::lines() const {
+    std::size_t lines = 0;
+    for (const Table& table : tables_)
+        lines += table.texts.blocks(kWidest).size() * table.texts.rows();
+    return lines;
+}
+
+void LightTables::print(const std::function<void()>& printed) const {
+    for (const Table& table : tables_) {
+        printText(L"\n" + table.title);
+        printTable(table.texts, printed);
+    }
+}
+
+ZrString LightTables::kindCounts() const {
     ZrString text;
-    for (std::size_t kind = 0; kind < counts.size(); ++kind)
-        if (counts[kind] > 0)
+    for (std::size_t kind = 0; kind < counts_.size(); ++kind)
+        if (counts_[kind] > 0)
             text += (text.empty() ? L"" : texts::kTableComma.get()) +
-                    fill(texts::kTableKindCount, texts::kTableKinds[kind].get(), counts[kind]);
+                    fill(texts::kTableKindCount, texts::kTableKinds[kind].get(), counts_[kind]);
     return text;
 }
 

@@ -4,20 +4,44 @@
 #pragma once
 
 #include "host/commands/light_facts.h"
+#include "host/commands/text_table.h"
 
+#include <array>
 #include <cstddef>
 #include <functional>
-#include <span>
+#include <vector>
 
 namespace quor::commands {
 
-inline constexpr std::size_t kLightTables = 4;
+struct LightColumn;
 
-// `printed`: told of each row that was printed.
-void printLightTables(std::span<const LightFacts> lights, const std::function<void()>& printed);
+// Lights are added one after the other; only their texts are kept.
+class LightTables {
+public:
+    // LIGHTINGUNITS: in generic lighting photometric values have no effect and are left out.
+    explicit LightTables(int lightingUnits);
 
-// How many there are of each kind that there is: "point 4, spot 2".
-[[nodiscard]] ZrString kindCounts(std::span<const LightFacts> lights);
+    void add(const LightFacts& light);
+    // How many were added.
+    [[nodiscard]] std::size_t count() const { return tables_.front().texts.rows(); }
+
+    // Of all four together, each the row of a light in a block of columns.
+    [[nodiscard]] std::size_t lines() const;
+    // `printed`: told of each line.
+    void print(const std::function<void()>& printed) const;
+    // How many lights there are of each kind that there is: "point 4, spot 2".
+    [[nodiscard]] ZrString kindCounts() const;
+
+private:
+    struct Table {
+        ZrString title;
+        std::vector<const LightColumn*> columns;
+        TextTable texts;
+    };
+
+    std::vector<Table> tables_;
+    std::array<std::size_t, kLightKinds> counts_{};
+};
 
 // The words for the shadows of a light.
 [[nodiscard]] ZrString shadowsInWords(const ZrGiShadowParameters& shadows);

@@ -1,10 +1,10 @@
 // LIST of lights: one table of rows, each with its label, its value and the lights that it says something about.
+#include "host/commands/light_facts.h"
 #include "host/commands/list_kinds.h"
 #include "host/commands/web_listing.h"
 #include "host/session.h"
 #include "host/sys/system_variables.h"
 #include "host/texts/list.h"
-#include "sdk/db/light.h"
 
 #include <cstddef>
 
@@ -20,8 +20,6 @@ struct LightRow {
     Value value;
     Applies applies;
 };
-
-constexpr short kAmericanUnits = 1;
 
 template <std::size_t N, class E>
 ZrString word(const Text (&words)[N], E value) {
@@ -55,10 +53,11 @@ ZrString shadowText(const ZrDbLight& light) {
     return shadows.shadowsOn() ? kind : ZrString(texts::kOff.get()) + L" (" + kind + L")";
 }
 
+// An illuminance of generic lighting has no unit.
 ZrString intensityText(const ZrDbLight& light) {
-    const bool american = Session::current().variables().number(L"LIGHTINGUNITS") == kAmericanUnits;
+    const ZrString unit = illuminanceUnit(Session::current().variables().number(L"LIGHTINGUNITS"));
     const Text& text = texts::kIntensityMethods[static_cast<std::size_t>(light.physicalIntensityMethod())];
-    return fill(text, numberText(light.physicalIntensity()), american ? L"fc" : L"lx");
+    return fill(text, numberText(light.physicalIntensity()), unit.empty() ? unit : L" " + unit);
 }
 
 bool always(const ZrDbLight&) { return true; }

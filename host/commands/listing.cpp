@@ -1,5 +1,6 @@
 #include "host/commands/listing.h"
 
+#include "host/db/data.h"
 #include "host/session.h"
 #include "host/sys/case_fold.h"
 #include "host/sys/system_variables.h"
@@ -10,7 +11,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace quor::commands {
 
@@ -93,7 +93,8 @@ ZrString directionText(const ZrGeVector3d& world) {
 // "%.8g" may give "-0", which is no number that people write.
 ZrString numberText(double value) { return zrFormat(L"%.8g", {value == 0 ? 0.0 : value}); }
 
-ZrString degreesText(double radians) { return numberText(radians * 180 / std::numbers::pi) + L"°"; }
+double inDegrees(double radians) { return radians / db::kDegree; }
+ZrString degreesText(double radians) { return numberText(inDegrees(radians)) + L"°"; }
 
 ZrString colorText(const ZrCmColor& color) {
     if (color.isByLayer())

@@ -52,6 +52,7 @@ private:
 [[nodiscard]] ZrString decimalText(double value);
 // As few digits as tell it, at most eight.
 [[nodiscard]] ZrString numberText(double value);
+[[nodiscard]] double inDegrees(double radians);
 [[nodiscard]] ZrString degreesText(double radians);
 [[nodiscard]] ZrString colorText(const ZrCmColor& color);
 // The same with the components of a colour that is shown by the name of a colour book.

@@ -1,15 +1,18 @@
 #include "host/commands/text_table.h"
 
 #include "host/sys/text_width.h"
+#include "host/sys/utf8.h"
 #include "host/sys/visible_text.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace quor::commands {
 
 namespace {
 
 constexpr int kNarrowGap = 1;
+constexpr char kEnd = 0; // of a cell; no text holds one, for it is a control character
 
 // Most texts are numbers; they need no second look.
 bool isPrintableAscii(const ZrString& text) {
@@ -32,17 +35,16 @@ void TextTable::addColumn(const ZrString& heading, Align align) {
 }
 
 void TextTable::addCell(const ZrString& text) {
-    Column& column = columns_[next_];
-    next_ = (next_ + 1) % columns_.size();
+    Column& column = columns_[cells_++ % columns_.size()];
     int width = static_cast<int>(text.size());
     if (isPrintableAscii(text)) {
-        column.texts += text;
+        texts_.append(text.begin(), text.end());
     } else {
         const ZrString shown = visibleText(text);
         width = columnsOf(shown);
-        column.texts += shown;
+        texts_ += toUtf8(shown);
     }
-    column.cells.push_back({column.texts.size(), width});
+    texts_ += kEnd;
     column.width = std::max(column.width, width);
     column.isUsed = column.isUsed || !text.empty();
 }
@@ -80,15 +82,14 @@ std::vector<TextTable::Block> TextTable::blocks(int width) const {
     return blocks;
 }
 
-template <class ShownOf>
-ZrString TextTable::line(const Block& block, ShownOf shownOf) const {
+ZrString TextTable::line(const Block& block, const std::vector<ZrString>& texts) const {
     ZrString result;
+    auto text = texts.begin();
     for (const std::size_t index : block) {
         const Column& column = columns_[index];
-        const Shown shown = shownOf(column);
-        const auto blanks = static_cast<std::size_t>(column.width - shown.width);
+        const auto blanks = static_cast<std::size_t>(column.width - columnsOf(*text));
         result.append(static_cast<std::size_t>(column.gap) + (column.align == Align::Right ? blanks : 0), L' ');
-        result += shown.text;
+        result += *text++;
         result.append(column.align == Align::Left ? blanks : 0, L' ');
     }
     result.erase(result.find_last_not_of(L' ') + 1);
@@ -96,17 +97,25 @@ ZrString TextTable::line(const Block& block, ShownOf shownOf) const {
 }
 
 ZrString TextTable::heading(const Block& block) const {
-    return line(block, [](const Column& column) { return Shown{column.heading, columnsOf(column.heading)}; });
+    std::vector<ZrString> texts;
+    for (const std::size_t column : block)
+        texts.push_back(columns_[column].heading);
+    return line(block, texts);
 }
 
-ZrString TextTable::row(const Block& block, std::size_t index) const {
-    return line(block, [&](const Column& column) {
-        const Cell& cell = column.cells[index];
-        const std::size_t begin = index == 0 ? 0 : column.cells[index - 1].end;
-        if (cell.end == begin)
-            return Shown{L"-", 1};
-        return Shown{std::wstring_view(column.texts).substr(begin, cell.end - begin), cell.width};
-    });
+void TextTable::forEachRow(const Block& block, const std::function<void(const ZrString&)>& take) const {
+    std::vector<ZrString> texts(block.size());
+    std::size_t at = 0;
+    for (std::size_t row = 0; row < rows(); ++row) {
+        auto text = texts.begin();
+        for (std::size_t column = 0; column < columns_.size(); ++column) {
+            const std::size_t end = texts_.find(kEnd, at);
+            if (text != texts.end() && block[static_cast<std::size_t>(text - texts.begin())] == column)
+                *text++ = end == at ? ZrString(L"-") : fromUtf8(std::string_view(texts_).substr(at, end - at));
+            at = end + 1;
+        }
+        take(line(block, texts));
+    }
 }
 
 ZrString cutToColumns(const ZrString& text, int columns) {

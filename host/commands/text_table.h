@@ -5,7 +5,8 @@
 #include "sdk/sys/string.h"
 
 #include <cstddef>
-#include <string_view>
+#include <functional>
+#include <string>
 #include <vector>
 
 namespace quor::commands {
@@ -20,44 +21,34 @@ public:
     // Rows are filled cell by cell. Control characters in a text are spelled out.
     void addCell(const ZrString& text);
 
-    [[nodiscard]] std::size_t rows() const { return columns_.empty() ? 0 : columns_.front().cells.size(); }
+    [[nodiscard]] std::size_t rows() const { return columns_.empty() ? 0 : cells_ / columns_.size(); }
     // The columns of one block.
     using Block = std::vector<std::size_t>;
     // As few as make every line fit into `width`, unless a column is too wide for itself.
     [[nodiscard]] std::vector<Block> blocks(int width) const;
     // A line each, its end included.
     [[nodiscard]] ZrString heading(const Block& block) const;
-    [[nodiscard]] ZrString row(const Block& block, std::size_t index) const;
+    void forEachRow(const Block& block, const std::function<void(const ZrString&)>& take) const;
 
 private:
-    // Where the text of a cell ends among those of its column, and how many columns of a terminal it takes.
-    struct Cell {
-        std::size_t end = 0;
-        int width = 0;
-    };
-    // The texts of a column stand in one string: most are too short to be worth memory of their own.
     struct Column {
         ZrString heading;
         Align align = Align::Left;
         int gap = 2; // blanks before it
         int width = 0;
         bool isUsed = false;
-        ZrString texts;
-        std::vector<Cell> cells;
-    };
-    struct Shown {
-        std::wstring_view text;
-        int width;
     };
 
-    template <class ShownOf>
-    [[nodiscard]] ZrString line(const Block& block, ShownOf shownOf) const;
+    // One text for each column of the block.
+    [[nodiscard]] ZrString line(const Block& block, const std::vector<ZrString>& texts) const;
     // The columns that are used, those that belong together in one group.
     [[nodiscard]] std::vector<Block> groups() const;
     [[nodiscard]] int widthOf(const Block& block) const;
 
     std::vector<Column> columns_;
-    std::size_t next_ = 0; // column of the next cell
+    // Row by row in UTF-8, a zero behind each: tables are long, their texts too short to be worth memory of their own.
+    std::string texts_;
+    std::size_t cells_ = 0;
 };
 
 // The beginning of a long text, "…" behind it, together no wider than `columns`.

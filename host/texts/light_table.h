@@ -6,7 +6,8 @@
 namespace quor::texts {
 
 // Questions.
-inline constexpr Text kAskLights{L"\n选择光源 (直接按 Enter: 全部): ", L"\nSelect lights (Enter alone: all of them): "};
+inline constexpr Text kAskLights{L"\n选择光源 (未选择时按 Enter: 全部): ",
+                                 L"\nSelect lights (Enter with none selected: all of them): "};
 inline constexpr Text kAskTableFormat{L"\n输入格式 [表格(T)/CSV(C)/JSON(J)] <CSV>: ",
                                       L"\nFormat [Table/Csv/Json] <Csv>: "};
 inline constexpr Text kAskTableFile{L"\n输入文件名 <%s>: ", L"\nFile name <%s>: "};
@@ -24,8 +25,8 @@ inline constexpr Text kTableTargetX{L"目标 X", L"Target X"};
 inline constexpr Text kTableTargetY{L"目标 Y", L"Target Y"};
 inline constexpr Text kTableTargetZ{L"目标 Z", L"Target Z"};
 inline constexpr Text kTableKinds[] = {
-    {L"点光源", L"point"},   {L"目标点光源", L"target point"}, {L"聚光灯", L"spot"},   {L"自由聚光灯", L"free spot"},
-    {L"光域网灯光", L"web"}, {L"自由光域网灯光", L"free web"}, {L"平行光", L"distant"}};
+    {L"点光源", L"point"}, {L"目标点光源", L"target point"}, {L"聚光灯", L"spot"},   {L"自由聚光灯", L"free spot"},
+    {L"光域灯光", L"web"}, {L"自由光域灯光", L"free web"},   {L"平行光", L"distant"}};
 inline constexpr Text kTableMapped{L"%s，贴图 %d，柔和度 %d", L"%s, map %d, softness %d"};
 inline constexpr Text kTableSampled{L"%s，采样 %d，%s %s", L"%s, samples %d, %s %s"};
 
@@ -47,9 +48,11 @@ inline constexpr Text kTableWriting{L"正在写入 %s", L"Writing %s"};
 // Files.
 inline constexpr Text kTableWritten{L"\n已写入 %s，光源 %d 个。\n", L"\nWritten to %s; lights: %d.\n"};
 inline constexpr Text kTableFormulas{
-    L"\n其中 %d 个光源有以 =、+、- 或 @ 开头的文字。用电子表格打开时，请将各列作为文本导入。\n",
-    L"\nLights with a text that begins with =, +, - or @: %d. Import the columns as text when you open the file in a "
-    L"spreadsheet.\n"};
+    L"\n其中 %d 个光源有以 =、+、-、@、制表符或回车开头的文字。用电子表格打开时，请将各列作为文本导入。\n",
+    L"\nLights with a text that begins with =, +, -, @, a tab or a carriage return: %d. Import the columns as text "
+    L"when "
+    L"you open the file in a spreadsheet.\n"};
+inline constexpr Text kTableNotWritten{L"\n未写入 %s。\n", L"\nNothing was written to %s.\n"};
 inline constexpr Text kTableIsFolder{L"\n%s 是文件夹。请给出其中文件的名称。\n",
                                      L"\n%s is a folder. Give the name of a file in it.\n"};
 inline constexpr Text kTableNoRegularFile{L"\n%s 不是普通文件，未写入。请换一个名称。\n",

@@ -79,7 +79,7 @@ inline constexpr Text kByKelvin{L"按色温", L"by temperature"};
 inline constexpr Text kKindDistant{L"平行光", L"distant light"};
 inline constexpr Text kKindPoint{L"点光源", L"point light"};
 inline constexpr Text kKindSpot{L"聚光灯", L"spot light"};
-inline constexpr Text kKindWeb{L"光域网灯光", L"web light"};
+inline constexpr Text kKindWeb{L"光域灯光", L"web light"};
 
 inline constexpr Text kAttenuations[] = {
     {L"无", L"none"}, {L"线性反比", L"inverse linear"}, {L"平方反比", L"inverse square"}};
@@ -93,7 +93,7 @@ inline constexpr Text kShapes[] = {{L"线性", L"linear"},
 inline constexpr Text kGlyphDisplays[] = {{L"自动", L"automatic"}, {L"开", L"on"}, {L"关", L"off"}};
 inline constexpr Text kIntensityMethods[] = {{L"%s cd (峰值强度)", L"%s cd (peak intensity)"},
                                              {L"%s lm (光通量)", L"%s lm (flux)"},
-                                             {L"%s %s (照度)", L"%s %s (illuminance)"}};
+                                             {L"%s%s (照度)", L"%s%s (illuminance)"}};
 inline constexpr Text kLampPresets[] = {
     {L"D65", L"D65 white"},
     {L"荧光灯", L"fluorescent"},

@@ -5,7 +5,7 @@
 
 namespace quor::texts {
 
-inline constexpr Text kWebForWebLightsOnly{L"只有光域网灯光才能使用光域网文件。",
+inline constexpr Text kWebForWebLightsOnly{L"只有光域灯光才能使用光域网文件。",
                                            L"Only web lights have a photometric web file."};
 inline constexpr Text kWebNameHoldsControls{L"光域网文件的名称中有控制字符，图形中无法保存。请重命名该文件。",
                                             L"The name of the photometric web file holds control characters, which a "

@@ -122,6 +122,8 @@ def intensities(kind, photometry, insunits, lighting_units):
         found["illuminance"] = found["candela"] * lux / area if lux and area else None
     found[given_as] = value
     unit = ILLUMINANCE_UNIT[lighting_units] if found["illuminance"] is not None else None
+    if kind == "distant" and found["illuminance"] is None:
+        distance = None
     return {**found, "given_as": given_as, "illuminance_unit": unit, "illuminance_distance": distance}
 
 

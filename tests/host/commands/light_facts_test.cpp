@@ -140,6 +140,7 @@ TEST_F(ALight, HasNoIlluminanceAtDistanceZero) {
     shine(kPeakIntensity, 1500, 0);
 
     EXPECT_EQ(facts(light).illuminance, std::nullopt);
+    EXPECT_EQ(facts(light).illuminanceDistance, 0);
     EXPECT_EQ(facts(light).candela, 1500);
 }
 
@@ -157,6 +158,15 @@ TEST_F(ALight, ThatIsDistantHasCandelaOnly) {
     EXPECT_EQ(facts(light).candela, 1500);
     EXPECT_EQ(facts(light).lumen, std::nullopt);
     EXPECT_EQ(facts(light).illuminance, std::nullopt);
+    EXPECT_EQ(facts(light).illuminanceDistance, std::nullopt);
+}
+
+TEST_F(ALight, ThatIsDistantKeepsTheIlluminanceThatItIsGivenIn) {
+    be(DrawableType::kDistantLight, true);
+    shine(kIlluminance, 40, 3);
+
+    EXPECT_EQ(facts(light).illuminance, 40);
+    EXPECT_EQ(facts(light).illuminanceDistance, 3);
 }
 
 TEST_F(ALight, HasNoIlluminanceWithoutAUnitForIt) {

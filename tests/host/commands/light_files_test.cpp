@@ -21,17 +21,17 @@ constexpr const char* kFieldNames =
 const LightFileFormat& csv() { return lightFileFormats()[0]; }
 const LightFileFormat& json() { return lightFileFormats()[1]; }
 
-std::string rowOf(const LightFileFormat& format, const LightFacts& light, bool isFirst = true) {
+std::string rowOf(const LightFileFormat& format, const LightFacts& light, bool isFirst = true, int units = lux) {
     std::string row;
-    format.append(row, light, isFirst);
+    format.append(row, fieldsOf(light, units), isFirst);
     return row;
 }
 
 // The value of one field, as a CSV file has it.
-std::string cell(const LightFacts& light, std::string_view name) {
+std::string cell(const LightFacts& light, std::string_view name, int units = lux) {
     const auto fields = lightFields();
     const auto field = std::ranges::find(fields, name, &LightField::name);
-    std::string row = rowOf(csv(), light);
+    std::string row = rowOf(csv(), light, true, units);
     for (auto before = fields.begin(); before != field; ++before)
         row.erase(0, row.find(',') + 1);
     return row.substr(0, row.find_first_of(",\r"));
@@ -45,10 +45,12 @@ protected:
         light.layer = L"*ADSK_SYSTEM_LIGHTS";
         light.position = ZrGePoint3d(1, 2.5, -3);
         light.candela = 1500;
+        light.illuminanceDistance = 1;
         light.lampPreset = LampColorPreset::kD65White;
         light.color = ZrCmColor::fromIndex(7);
     }
     void cast(ZrGiShadowParameters::ShadowType type) { light.shadows.setShadowType(type); }
+    [[nodiscard]] bool looksLikeFormula() const { return commands::looksLikeFormula(fieldsOf(light, lux)); }
     // The beginning of its row when it has this name.
     std::string nameInCsv(const ZrString& name) {
         light.name = name;
@@ -131,10 +133,8 @@ TEST_F(ALightInAFile, TellsTheUnitOfItsIlluminance) {
     EXPECT_EQ(cell(light, "illuminance_unit"), "");
     light.illuminance = 40;
     EXPECT_EQ(cell(light, "illuminance_unit"), "lx");
-    light.lightingUnits = footCandles;
-    EXPECT_EQ(cell(light, "illuminance_unit"), "fc");
-    light.lightingUnits = 0;
-    EXPECT_EQ(cell(light, "illuminance_unit"), "");
+    EXPECT_EQ(cell(light, "illuminance_unit", footCandles), "fc");
+    EXPECT_EQ(cell(light, "illuminance_unit", 0), "");
 }
 
 TEST_F(ALightInAFile, HasTheNumbersOfItsKindOfShadowsOnly) {
@@ -179,6 +179,14 @@ TEST_F(ALightInAFile, HasTheNameOfAColourOfABook) {
     EXPECT_EQ(cell(light, "color_name"), "Web Colors$rebeccapurple");
 }
 
+TEST_F(ALightInAFile, HasTheNameAloneOfAColourOfNoBook) {
+    light.color = ZrCmColor::fromRGB(0x66, 0x33, 0x99);
+    EXPECT_EQ(cell(light, "color_name"), "");
+
+    light.color.setNames(L"rebeccapurple", L"");
+    EXPECT_EQ(cell(light, "color_name"), "rebeccapurple");
+}
+
 TEST_F(ALightInAFile, HasAQuotedNameWhereCsvNeedsIt) {
     EXPECT_EQ(nameInCsv(L"吊灯 1"), "吊灯 1");
     EXPECT_EQ(nameInCsv(L"a,b"), "\"a,b\"");
@@ -216,15 +224,41 @@ TEST_F(ALightInAFile, IsValidUtf8WhateverItsNameCameFrom) {
 }
 
 TEST_F(ALightInAFile, IsToldWhereASpreadsheetWouldTakeATextForAFormula) {
-    EXPECT_FALSE(looksLikeFormula(light));
-    for (const wchar_t first : {L'=', L'+', L'-', L'@'}) {
+    EXPECT_FALSE(looksLikeFormula());
+    for (const wchar_t first : {L'=', L'+', L'-', L'@', L'\t', L'\r'}) {
         light.name = ZrString(1, first) + L"1";
-        EXPECT_TRUE(looksLikeFormula(light));
+        EXPECT_TRUE(looksLikeFormula());
     }
     light.name = L"lamp=1";
-    EXPECT_FALSE(looksLikeFormula(light));
-    light.layer = L"-1";
-    EXPECT_TRUE(looksLikeFormula(light));
+    EXPECT_FALSE(looksLikeFormula());
+}
+
+TEST_F(ALightInAFile, IsToldOfAFormulaInEveryTextOfADrawing) {
+    for (ZrString LightFacts::*text :
+         {&LightFacts::name, &LightFacts::layout, &LightFacts::layer, &LightFacts::webFile}) {
+        light.*text = L"-1";
+        EXPECT_TRUE(looksLikeFormula());
+        light.*text = L"a";
+        EXPECT_FALSE(looksLikeFormula());
+    }
+}
+
+TEST_F(ALightInAFile, IsToldOfAFormulaInTheNameOfItsColour) {
+    light.color = ZrCmColor::fromRGB(1, 2, 3);
+    light.color.setNames(L"=cmd|x", L"");
+    EXPECT_TRUE(looksLikeFormula());
+
+    light.color.setNames(L"=cmd|x", L"book");
+    EXPECT_FALSE(looksLikeFormula());
+
+    light.color.setNames(L"red", L"@book");
+    EXPECT_TRUE(looksLikeFormula());
+}
+
+TEST_F(ALightInAFile, IsNoFormulaForANegativeNumber) {
+    light.position = ZrGePoint3d(-1, -2, -3);
+
+    EXPECT_FALSE(looksLikeFormula());
 }
 
 TEST(TheFile, OfCsvBeginsWithTheNamesOfItsFields) {

@@ -172,6 +172,7 @@ TEST_F(LightTable, KeepsTheOldFileWhenItIsNotToBeReplaced) {
 }
 
 TEST_F(LightTable, ReplacesAFileAndKeepsNoBackup) {
+    add(L"a");
     const std::filesystem::path file = host.folder() / "old.json";
     std::ofstream(file) << "old";
 
@@ -189,6 +190,36 @@ TEST_F(LightTable, AsAFileIsTheSameInEveryLanguage) {
     host.run({L"-LIGHTTABLE", L"C", (host.folder() / "zh.csv").wstring(), L""});
 
     EXPECT_EQ(contentsOf(host.folder() / "en.csv"), contentsOf(host.folder() / "zh.csv"));
+}
+
+TEST_F(LightTable, HasTheExtensionOfItsFormatBehindANameWithADotAtItsEnd) {
+    add(L"a");
+
+    host.run({L"-LIGHTTABLE", L"C", (host.folder() / "lamps.").wstring(), L""});
+
+    EXPECT_TRUE(std::filesystem::exists(host.folder() / "lamps.csv"));
+    EXPECT_FALSE(std::filesystem::exists(host.folder() / "lamps."));
+}
+
+TEST_F(LightTable, OfADrawingWithoutLightsIsNotWritten) {
+    const std::filesystem::path file = host.folder() / "old.csv";
+    std::ofstream(file) << "old";
+
+    const ed::Verdict verdict = host.run({L"-LIGHTTABLE", L"C", file.wstring(), L"Y", L""});
+
+    EXPECT_EQ(verdict.kind, ed::Verdict::Kind::Failed);
+    EXPECT_EQ(contentsOf(file), "old");
+    EXPECT_TRUE(host.front().shows(L"There are no lights in the drawing."));
+    EXPECT_TRUE(host.front().shows(L"Nothing was written to " + file.wstring() + L"."));
+}
+
+TEST_F(LightTable, IsNotWrittenAfterEscAtTheSelection) {
+    add(L"a");
+    const std::filesystem::path file = host.folder() / "a.csv";
+
+    host.run({L"-LIGHTTABLE", L"C", file.wstring(), L"^C"});
+
+    EXPECT_FALSE(std::filesystem::exists(file));
 }
 
 TEST_F(LightTable, OfLightsBeyondAPieceOfAFileIsWhole) {

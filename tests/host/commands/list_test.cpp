@@ -49,6 +49,14 @@ TEST_F(ListOfALight, ShowsIlluminanceInFootCandlesWithAmericanUnits) {
     EXPECT_TRUE(host.front().shows(L"40 fc (illuminance)"));
 }
 
+TEST_F(ListOfALight, ShowsIlluminanceWithoutAUnitInGenericLighting) {
+    ASSERT_EQ(host.session().variables().set(L"LIGHTINGUNITS", short{0}), sys::SetResult::Ok);
+
+    list(illuminance);
+
+    EXPECT_TRUE(host.front().shows(L"  40 (illuminance)"));
+}
+
 TEST_F(ListOfALight, ShowsTheDirectionInPlainNumbersInEveryUnitFormat) {
     ASSERT_EQ(host.session().variables().set(L"LUNITS", short{4}), sys::SetResult::Ok);
 

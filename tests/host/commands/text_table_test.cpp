@@ -8,6 +8,12 @@ namespace quor::commands {
 
 namespace {
 
+std::vector<ZrString> rowsOf(const TextTable& table, const TextTable::Block& block) {
+    std::vector<ZrString> rows;
+    table.forEachRow(block, [&](const ZrString& row) { rows.push_back(row); });
+    return rows;
+}
+
 class TheTable : public testing::Test {
 protected:
     TheTable() {
@@ -20,7 +26,7 @@ protected:
     }
 
     ZrString heading() { return table.heading(table.blocks(kWidth).front()); }
-    ZrString row(std::size_t index) { return table.row(table.blocks(kWidth).front(), index); }
+    ZrString row(std::size_t index) { return rowsOf(table, table.blocks(kWidth).front())[index]; }
 
     static constexpr int kWidth = 80;
     TextTable table;
@@ -59,7 +65,7 @@ TEST_F(TheTable, HasNoBlanksAtTheEndOfALine) {
     names.addCell(L"2");
     names.addCell(L"longer");
 
-    EXPECT_EQ(names.row(names.blocks(80)[0], 0), L"   1  a\n");
+    EXPECT_EQ(rowsOf(names, names.blocks(80)[0])[0], L"   1  a\n");
     EXPECT_EQ(names.heading(names.blocks(80)[0]), L"  cd  Name\n");
 }
 
@@ -84,6 +90,24 @@ TEST_F(TheTable, SpellsControlCharactersOut) {
     EXPECT_EQ(row(0), L"  a^[[2J   1\n");
 }
 
+TEST_F(TheTable, KeepsACharacterThatCameFromABrokenFile) {
+    add(L"a\xDCFF"
+        L"b",
+        L"1");
+
+    EXPECT_EQ(row(0), L"  a\xDCFF"
+                      L"b    1\n");
+}
+
+TEST_F(TheTable, HasARowForEachOfItsNames) {
+    add(L"a", L"1");
+    add(L"b", L"2");
+    add(L"c", L"3");
+
+    EXPECT_EQ(table.rows(), 3U);
+    EXPECT_EQ(rowsOf(table, table.blocks(kWidth).front()).size(), 3U);
+}
+
 // Columns of 6 characters each: the name, a single number, the coordinates of a point.
 class AWideTable : public testing::Test {
 protected:
@@ -98,7 +122,7 @@ protected:
     std::vector<ZrString> rows(int width) {
         std::vector<ZrString> rows;
         for (const TextTable::Block& block : table.blocks(width))
-            rows.push_back(table.row(block, 0));
+            rows.push_back(rowsOf(table, block)[0]);
         return rows;
     }
 
