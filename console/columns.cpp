@@ -24,4 +24,18 @@ ZrString inColumns(const std::vector<ZrString>& words, std::size_t screenWidth) 
     return text;
 }
 
+int lastRowOf(std::wstring_view text, int screenWidth) {
+    int row = 0;
+    int column = 0;
+    for (const wchar_t c : text) {
+        const int width = columnsOf(c);
+        if (column + width > screenWidth) {
+            ++row;
+            column = 0;
+        }
+        column += width;
+    }
+    return column >= screenWidth ? row + 1 : row;
+}
+
 } // namespace quor::console

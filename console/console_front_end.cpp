@@ -49,7 +49,7 @@ Answer ConsoleFrontEnd::ask(const Question& question) {
 }
 
 void ConsoleFrontEnd::echo(const Question& question, std::wstring_view answer) {
-    output_.print(question.prompt);
+    output_.prompt(question.prompt);
     output_.answer(answer);
 }
 

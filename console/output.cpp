@@ -1,8 +1,11 @@
 #include "console/output.h"
 
 #include "host/front.h"
+#include "host/sys/text_wrap.h"
 #include "host/sys/utf8.h"
 #include "host/sys/visible_text.h"
+
+#include <algorithm>
 
 namespace quor::console {
 
@@ -39,6 +42,14 @@ void Output::append(std::wstring_view text) {
 }
 
 void Output::print(std::wstring_view text) {
+    if (quiet_ || !columns_)
+        return prompt(text);
+    // What goes on with a line that has begun stays behind it.
+    const std::size_t begun = screen_.atLineStart() ? 0 : std::min(text.find(L'\n'), text.size());
+    prompt(ZrString(text.substr(0, begun)) + wrapped(text.substr(begun), columns()));
+}
+
+void Output::prompt(std::wstring_view text) {
     if (!quiet_)
         append(screen_.put(text));
 }

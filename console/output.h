@@ -24,7 +24,10 @@ public:
     // How many columns a line may take: the screen's, or the usual ones where there is no screen.
     [[nodiscard]] int columns() const;
 
+    // What the host says; on a screen, long lines are broken to its width.
     void print(std::wstring_view text);
+    // A question, behind whose last line an answer follows. It stands as it is.
+    void prompt(std::wstring_view text);
     // What was answered to the question whose prompt was printed last, with its Enter.
     void answer(std::wstring_view text);
     // The person pressed Enter on the screen itself.

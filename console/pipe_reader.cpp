@@ -48,7 +48,7 @@ bool PipeReader::nextLine(std::string& line) {
 }
 
 Line PipeReader::read(const Question& question) {
-    output_.print(question.prompt);
+    output_.prompt(question.prompt);
     std::string line;
     const bool stopped = signals::interrupted() || output_.error() != 0;
     if (stopped || !nextLine(line) || signals::interrupted()) {

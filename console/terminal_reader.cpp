@@ -42,11 +42,8 @@ void TerminalReader::EndEditor::operator()(editline* editor) const { el_end(edit
 void TerminalReader::EndHistory::operator()(historyW* history) const { history_wend(history); }
 
 TerminalReader::TerminalReader(Output& output, History history, Source source)
-    : output_(output), history_(std::move(history)), source_(std::move(source)), keys_(STDIN_FILENO, [this] {
-          el_wset(editor_.get(), EL_PREP_TERM, 1);
-          el_resize(editor_.get());
-          el_wset(editor_.get(), EL_REFRESH);
-      }) {
+    : output_(output), history_(std::move(history)), source_(std::move(source)),
+      keys_(STDIN_FILENO, [this] { drawAnew(); }) {
     useUtf8();
     recalled_.reset(history_winit());
     editor_.reset(el_init("quorc", stdin, stdout, stderr));
@@ -90,11 +87,12 @@ void TerminalReader::remember(const ZrString& line) {
 Line TerminalReader::read(const Question& question) {
     // Only the last line of a prompt can be edited behind.
     const std::size_t lastLine = question.prompt.rfind(L'\n') + 1;
-    output_.print(question.prompt.substr(0, lastLine));
+    output_.prompt(question.prompt.substr(0, lastLine));
     output_.freshLine();
     output_.flush();
     prompt_ = visibleText(question.prompt.substr(lastLine));
     question_ = &question;
+    drawnColumns_ = output_.columns();
     cancelled_ = false;
 
     // Before the prompt is seen, so that a Ctrl+D typed at once is not taken by the terminal itself.
@@ -130,12 +128,41 @@ unsigned char TerminalReader::completeAtCaret() {
         el_winsertstr(editor_.get(), completion.common.c_str());
         return CC_REFRESH;
     }
-    std::fputs("\n", stdout);
+    showBelow(inColumns(completion.candidates, static_cast<std::size_t>(output_.columns())));
+    return CC_NORM;
+}
+
+// The row of the caret, or with the whole line the last row.
+int TerminalReader::rowsAbove(bool caret) const {
+    const LineInfoW* info = el_wline(editor_.get());
+    const ZrString line = prompt_ + ZrString(info->buffer, caret ? info->cursor : info->lastchar);
+    return lastRowOf(line, output_.columns());
+}
+
+// The library would clear as many rows above the cursor as the line took, and so what was written below the line;
+// this refresh draws from where the cursor is.
+void TerminalReader::showBelow(std::wstring_view text) {
+    const int below = rowsAbove(false) - rowsAbove(true);
+    std::fputs(std::string(static_cast<std::size_t>(below) + 1, '\n').c_str(), stdout);
     std::fflush(stdout);
     output_.answered();
-    output_.print(inColumns(completion.candidates, static_cast<std::size_t>(output_.columns())));
+    output_.prompt(text);
     output_.flush();
-    return CC_REDISPLAY;
+    el_wset(editor_.get(), EL_REFRESH);
+}
+
+// A terminal that gets another width breaks the rows on it anew, before anybody is told.
+void TerminalReader::drawAnew() {
+    el_wset(editor_.get(), EL_PREP_TERM, 1);
+    const int columns = output_.columns();
+    if (columns != drawnColumns_) {
+        const int above = rowsAbove(true);
+        std::fputs(above > 0 ? ("\x1b[" + std::to_string(above) + "A").c_str() : "", stdout);
+        std::fputs("\r\x1b[J", stdout);
+    }
+    drawnColumns_ = columns;
+    el_resize(editor_.get());
+    el_wset(editor_.get(), EL_REFRESH);
 }
 
 } // namespace quor::console

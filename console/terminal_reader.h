@@ -41,6 +41,11 @@ private:
     void remember(const ZrString& line);
     // Offers what fits at the caret; answers what the editing library is to do next.
     unsigned char completeAtCaret();
+    // Shows the text below the line that is typed, and the line again below the text.
+    void showBelow(std::wstring_view text);
+    // After the terminal got another size, or came back after a pause.
+    void drawAnew();
+    [[nodiscard]] int rowsAbove(bool caret) const;
 
     Output& output_;
     History history_;
@@ -50,6 +55,7 @@ private:
     std::unique_ptr<editline, EndEditor> editor_;
     ZrString prompt_;
     const Question* question_ = nullptr;
+    int drawnColumns_ = 0;
     bool cancelled_ = false;
 };
 

@@ -93,6 +93,27 @@ TEST_F(OutputTest, LineBreaksAndTabsOfTextsStay) {
     EXPECT_EQ(screen_, "a\tb\nc");
 }
 
+TEST_F(OutputTest, LongLinesAreBrokenAtWordsOnAScreenOnly) {
+    Output screen([this](std::string_view bytes) { return screen_ += bytes, 0; }, false, [] { return 20; });
+    screen.print(L"\none two three four five\n");
+    screen.flush();
+    EXPECT_EQ(screen_, "one two three four\n  five\n");
+
+    screen_.clear();
+    Output file = make();
+    file.print(L"\none two three four five\n" + ZrString(100, L'a') + L" b\n");
+    file.flush();
+    EXPECT_EQ(screen_, "one two three four five\n" + std::string(100, 'a') + " b\n");
+}
+
+TEST_F(OutputTest, QuestionsAreNotBrokenNorIsWhatGoesOnWithALine) {
+    Output output([this](std::string_view bytes) { return screen_ += bytes, 0; }, false, [] { return 20; });
+    output.prompt(L"\none two three four five: ");
+    output.print(L"six seven eight nine ten\none two three four five\n");
+    output.flush();
+    EXPECT_EQ(screen_, "one two three four five: six seven eight nine ten\none two three four\n  five\n");
+}
+
 TEST_F(OutputTest, LinesMayBeAsWideAsTheScreenAsItIsNow) {
     int columns = 120;
     const Output output([](std::string_view) { return 0; }, false, [&] { return columns; });

@@ -7,6 +7,7 @@
 #include <poll.h>
 #include <pty.h>
 #include <string>
+#include <sys/ioctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -23,9 +24,7 @@ class TerminalTest : public testing::Test {
 protected:
     void SetUp() override {
         fs::create_directories(home_);
-        winsize size{};
-        size.ws_row = 24;
-        size.ws_col = 80;
+        const winsize size = sizeOf(80);
         child_ = forkpty(&terminal_, nullptr, nullptr, &size);
         ASSERT_GE(child_, 0);
         if (child_ == 0)
@@ -38,6 +37,13 @@ protected:
             waitpid(child_, nullptr, 0);
         close(terminal_);
         fs::remove_all(home_);
+    }
+
+    static winsize sizeOf(unsigned short columns) {
+        winsize size{};
+        size.ws_row = 24;
+        size.ws_col = columns;
+        return size;
     }
 
     [[noreturn]] void becomeQuorc() const {
@@ -101,6 +107,34 @@ TEST_F(TerminalTest, TabListsWhatIsPossible) {
     ASSERT_TRUE(shows("命令: "));
     type("SAV\t\t");
     EXPECT_TRUE(shows("SAVEAS")) << screen_;
+}
+
+TEST_F(TerminalTest, ListOfTabStaysWholeBelowAQuestionOfTwoRows) {
+    ASSERT_TRUE(shows("命令: "));
+    type("POINTLIGHT\n2\n1,1,1\n");
+    ASSERT_TRUE(shows("(X)] <退出>: ")) << screen_;
+    type("s\t");
+    EXPECT_TRUE(shows("s\r\nshadoW  Status\r\n输入要更改的选项")) << screen_;
+    ASSERT_TRUE(shows("(X)] <退出>: s")) << screen_;
+    type("\x01\t"); // at the start of the line, where all is possible
+    EXPECT_TRUE(shows("shadoW\r\n输入要更改的选项")) << screen_;
+}
+
+TEST_F(TerminalTest, QuestionOfTwoRowsIsDrawnInItsPlaceOnANarrowerWindow) {
+    ASSERT_TRUE(shows("命令: "));
+    type("POINTLIGHT\n2\n1,1,1\n");
+    ASSERT_TRUE(shows("(X)] <退出>: ")) << screen_;
+    const winsize narrower = sizeOf(70);
+    ASSERT_EQ(ioctl(terminal_, TIOCSWINSZ, &narrower), 0);
+    EXPECT_TRUE(shows("\x1b[1A\r\x1b[J输入要更改的选项")) << screen_;
+}
+
+TEST_F(TerminalTest, LongLinesOfADialogGoOnBelowTheirFirstWord) {
+    ASSERT_TRUE(shows("命令: "));
+    type("POINTLIGHT\n");
+    EXPECT_TRUE(shows("\r\n  1. 关闭默认光源")) << screen_;
+    EXPECT_TRUE(shows("\r\n     添加用户光源时")) << screen_;
+    EXPECT_TRUE(shows("\r\n       ")) << screen_;
 }
 
 TEST_F(TerminalTest, CtrlCCancelsACommandAndTheSessionGoesOn) {
