@@ -60,7 +60,7 @@ Answer ConsoleFrontEnd::drag(const Question& question, const std::function<void(
 TaskDialogAnswer ConsoleFrontEnd::showTaskDialog(const CZrUiTaskDialog& dialog) {
     return ui::askTaskDialog(
         dialog, [this](std::wstring_view text) { print(text); },
-        [](const Question& question) { return Session::current().input().ask(question); });
+        [](const Question& question) { return ui::askPersonOrScript(Session::current().input(), question); });
 }
 
 FileAnswer ConsoleFrontEnd::chooseFile(const FileQuestion& file) {

@@ -66,6 +66,8 @@ void InputStack::clear() {
     typedLine_.reset();
 }
 
+void InputStack::typeAhead(std::wstring_view rest) { typedLine_ = std::make_unique<TypedLine>(rest); }
+
 const InputSource* InputStack::top() const { return sources_.empty() ? nullptr : sources_.back().get(); }
 
 bool InputStack::hasProgramInput() {

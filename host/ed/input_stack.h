@@ -54,6 +54,8 @@ public:
     void queueMacro(std::wstring_view macro);
     // Drops every source, waiting macros and the rest of a typed line (a script that stops).
     void clear();
+    // What a person typed behind an answer, for the questions that follow.
+    void typeAhead(std::wstring_view rest);
     // Drops the rest of a line that a person typed.
     void dropTypedAhead() { typedLine_.reset(); }
     [[nodiscard]] bool empty() const { return sources_.empty() && macros_.empty(); }

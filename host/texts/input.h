@@ -73,6 +73,10 @@ inline constexpr Text kDialogCheckbox{L"[ ] %s (在编号后加 + 勾选)", L"[ 
 inline constexpr Text kDialogPrompt{L"\n请选择 [1-%d] <1>: ", L"\nChoose [1-%d] <1>: "};
 inline constexpr Text kDialogBadAnswer{L"\n请输入 1 到 %d 的编号，Esc 取消。\n",
                                        L"\nType a number from 1 to %d, or press Esc to cancel.\n"};
+// As above, for a dialog with a box to tick.
+inline constexpr Text kDialogBadAnswerOrTick{
+    L"\n请输入 1 到 %d 的编号，要勾选则在编号后加 +，例如 1+；Esc 取消。\n",
+    L"\nEnter a number from 1 to %d, followed by + to select the check box (such as 1+), or press Esc to cancel.\n"};
 
 // Choosing a file where there are no windows: caption, patterns.
 inline constexpr Text kFilePrompt{L"\n%s (%s)，输入路径 <取消>: ", L"\n%s (%s), path <cancel>: "};

@@ -14,8 +14,9 @@ namespace {
 quor::TaskDialogAnswer show(quor::Session& session, const CZrUiTaskDialog& dialog) {
     if (!session.input().hasAnswer())
         return session.front().showTaskDialog(dialog);
-    return quor::ui::askTaskDialog(dialog, quor::printText,
-                                   [&](const quor::Question& question) { return session.input().ask(question); });
+    return quor::ui::askTaskDialog(dialog, quor::printText, [&](const quor::Question& question) {
+        return quor::ui::askPersonOrScript(session.input(), question);
+    });
 }
 
 } // namespace

@@ -55,7 +55,7 @@ public:
     TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) override {
         return ui::askTaskDialog(
             dialog, [this](std::wstring_view text) { print(text); },
-            [this](const Question& question) { return ask(question); });
+            [](const Question& question) { return ui::askPersonOrScript(Session::current().input(), question); });
     }
     FileAnswer chooseFile(const FileQuestion& file) override {
         return ui::askFile(file, [this](const Question& question) { return ask(question); });

@@ -44,6 +44,29 @@ TEST(TaskDialogText, PlusTicksTheBox) {
     EXPECT_TRUE(typed(L"1+")->checked);
 }
 
+TEST(TaskDialogText, BlanksAroundTheNumberAndThePlusDoNotCount) {
+    EXPECT_EQ(typed(L" 2 + ")->command, 62);
+    EXPECT_TRUE(typed(L" 2 + ")->checked);
+    EXPECT_FALSE(typed(L"\t2 ")->checked);
+    EXPECT_EQ(typed(L"  ")->command, 61);
+}
+
+TEST(TaskDialogText, FullWidthCharactersAreAsGood) {
+    EXPECT_EQ(typed(L"２＋")->command, 62);
+    EXPECT_TRUE(typed(L"２＋")->checked);
+    EXPECT_TRUE(typed(L"１　＋")->checked);
+    EXPECT_FALSE(typed(L"１")->checked);
+    EXPECT_FALSE(typed(L"３"));
+}
+
+TEST(TaskDialogText, AnswerEndsBehindTheFirstWordOrThePlusThatFollows) {
+    EXPECT_EQ(ui::taskDialogAnswerLength(L"2"), 1U);
+    EXPECT_EQ(ui::taskDialogAnswerLength(L"2 0,0"), 1U);
+    EXPECT_EQ(ui::taskDialogAnswerLength(L"2 + 0,0"), 3U);
+    EXPECT_EQ(ui::taskDialogAnswerLength(L" 2　＋"), 4U);
+    EXPECT_EQ(ui::taskDialogAnswerLength(L""), 0U);
+}
+
 TEST(TaskDialogText, NumbersBeyondTheChoicesAreNoAnswer) {
     EXPECT_FALSE(typed(L"0"));
     EXPECT_FALSE(typed(L"3"));
@@ -54,6 +77,8 @@ TEST(TaskDialogText, OtherTextIsNoAnswer) {
     EXPECT_FALSE(typed(L"yes"));
     EXPECT_FALSE(typed(L"+"));
     EXPECT_FALSE(typed(L"1++"));
+    EXPECT_FALSE(typed(L"1 + +"));
+    EXPECT_FALSE(typed(L"1 2"));
 }
 
 TEST(TaskDialogText, EnterTakesTheFirstAndEscapeCancels) {
@@ -68,6 +93,23 @@ TEST(TaskDialog, WrongAnswerIsAskedAgain) {
     EXPECT_EQ(shown.DoModal(), 62);
     EXPECT_TRUE(shown.GetVerificationCheckboxState());
     EXPECT_TRUE(test.front().shows(L"请输入 1 到 2 的编号"));
+}
+
+TEST(TaskDialog, WhatIsExpectedIsSaidWithThePlus) {
+    TestSession test;
+    test.front().type({L"+", L"2++", L"1"});
+    CZrUiTaskDialog shown = dialog();
+    EXPECT_EQ(shown.DoModal(), 61);
+    EXPECT_TRUE(test.front().shows(L"请输入 1 到 2 的编号，要勾选则在编号后加 +，例如 1+；Esc 取消。"));
+}
+
+TEST(TaskDialog, WithoutABoxNothingIsSaidOfThePlus) {
+    TestSession test;
+    test.front().type({L"+", L"1"});
+    CZrUiTaskDialog shown = dialog();
+    shown.SetVerificationCheckboxText(L"");
+    EXPECT_EQ(shown.DoModal(), 61);
+    EXPECT_TRUE(test.front().shows(L"请输入 1 到 2 的编号，Esc 取消。"));
 }
 
 TEST(TaskDialog, CancelAnswersTheCancelId) {
@@ -118,6 +160,24 @@ TEST(TaskDialog, ScriptAnswersItsDialogs) {
     EXPECT_EQ(shown.DoModal(), 62);
     EXPECT_TRUE(shown.GetVerificationCheckboxState());
     EXPECT_TRUE(test.front().asked().empty());
+}
+
+TEST(TaskDialog, BlankInAScriptEndsItsAnswer) {
+    TestSession test;
+    test.session().input().push(std::make_unique<ed::ScriptSource>("2 + \n"));
+    CZrUiTaskDialog shown = dialog();
+    EXPECT_EQ(shown.DoModal(), 62);
+    EXPECT_FALSE(shown.GetVerificationCheckboxState());
+}
+
+TEST(TaskDialog, LineThatAPersonTypesMayGoOnWithOtherAnswers) {
+    TestSession test;
+    test.front().type(L"2 + 5,5");
+    const Answer answer = ui::askPersonOrScript(test.session().input(), {});
+    EXPECT_EQ(answer.text, L"2 +");
+    const Answer next = test.session().input().ask({});
+    EXPECT_EQ(next.text, L"5,5");
+    EXPECT_EQ(test.front().asked().size(), 1U);
 }
 
 TEST(TaskDialog, SizesFollowTheScreen) {
