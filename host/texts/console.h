@@ -54,88 +54,88 @@ inline constexpr Text kHelp{LR"(用法: quorc [选项]... [图形]
   130  被 Ctrl+C 中断(脚本和管道)；不保存
   141  读取管道时，接收输出的程序已退出；不保存
   2、3 和加载失败的 --module 在执行任何命令之前结束程序。
-  之后命令失败为 1;-k 时仍会保存，保存失败则为 4。
+  之后命令失败为 1；-k 时仍会保存，保存失败则为 4。
 )",
                             LR"(Usage: quorc [OPTIONS]... [DRAWING]
 
 Opens, edits and saves DXF drawings from a terminal, a pipe or a script.
-Without DRAWING a new one is started; without script or command, commands are read from standard input.
+Without DRAWING, a new one is started; without a script or command, commands are read from standard input.
 
-What to run (repeatable, in the order of the command line)
+What to run (repeatable; runs in command-line order)
   -s, --script FILE       run a script
-  -c, --command TEXT      run commands as if typed with Enter behind them; a blank and a line's end are Enter,
-                          so a blank at the end ends a selection; may have several lines, as a script has
+  -c, --command TEXT      run commands as if typed and followed by Enter; spaces and line ends act as Enter,
+                          so a space at the end ends a selection; may have several lines, like a script
 
 The drawing
-  -o, --output FILE       save the drawing here at the end, unless a script stopped half-way;
-                          .dxf is added to a name without extension
-      --recover           open a damaged drawing: list what is wrong, keep the rest
+  -o, --output FILE       save the drawing here at the end, unless a script did not finish;
+                          .dxf is added to a name without an extension
+      --recover           open a damaged drawing: list the problems, keep the rest
       --set NAME=VALUE    set a system variable once the drawing is open (repeatable); as with
-                          SETVAR, your own ones, such as SUPPORTPATH, are kept for later
+                          SETVAR, per-user variables such as SUPPORTPATH are saved
 
 How to run
-  -k, --keep-going        go on with a script after a command has failed
-      --quiet             show nothing but errors
-      --lang zh|en        language; by default what the system variable LANGUAGE was set to: zh, en or
-                          auto (as LC_ALL, LC_MESSAGES, LANG say); Chinese when it was not set
+  -k, --keep-going        continue a script after a command fails
+      --quiet             show only errors
+      --lang zh|en        language; default: the system variable LANGUAGE, set to zh, en, or auto
+                          (from LC_ALL, LC_MESSAGES, LANG); Chinese if it is not set
       --module FILE       load a module (repeatable); default: light, beside the program
   -h, --help              show this help
       --version           show the version
 
 On a terminal
-  Tab completes commands and options, the arrow keys bring back what was typed,
-  Ctrl+C cancels (as Esc does), Ctrl+D on an empty line ends.
+  Tab completes commands and options, the up and down arrows recall earlier input,
+  Ctrl+C cancels (like Esc), Ctrl+D on an empty line exits.
 
 Examples
   quorc                                             work in a new drawing
   quorc plan.dxf                                    open a drawing and work in it
-  quorc plan.dxf -s lights.scr -o plan-lit.dxf      run a script, save the result elsewhere
+  quorc plan.dxf -s lights.scr -o plan-lit.dxf      run a script, save the result to another file
   quorc plan.dxf -c "LIST ALL "                     list all objects
   quorc --set LIGHTINGUNITS=1 -c "POINTLIGHT 0,0,0 " -o lamp.dxf
   printf 'LIST ALL\n\n' | quorc plan.dxf            read commands from a pipe
 
 Exit status
-    0  all is well
-    1  a command of a script failed, a module named by --module was not loaded, or the output could not be written
-    2  wrong usage; a script cannot be read; a variable or value of --set is not valid
+    0  success
+    1  a command in a script failed, a --module file could not be loaded, or the output could not be written
+    2  incorrect usage; a script file could not be read; a --set variable or value is not valid
     3  the drawing could not be read
     4  the drawing could not be saved (-o)
   130  interrupted by Ctrl+C (scripts and pipes); nothing is saved
-  141  the reader of the output went away while commands came from a pipe; nothing is saved
-  2, 3 and a failing --module end the program before any command runs.
-  After that a failed command gives 1; with -k the drawing is saved all the same, and a failed save gives 4.
+  141  the program reading the output exited while commands came from a pipe; nothing is saved
+  2, 3, and a --module that fails end the program before any command runs.
+  After that, a failed command gives 1; with -k the drawing is still saved, and a failed save gives 4.
 )"};
 
 // Wrong usage.
 inline constexpr Text kUsageHint{L"quorc: %s\n使用 quorc --help 查看用法。\n", L"quorc: %s\nSee quorc --help.\n"};
 inline constexpr Text kUnknownOption{L"没有选项“%s”。", L"There is no option \"%s\"."};
 inline constexpr Text kOneDrawing{L"只能打开一个图形，多余的参数是“%s”。",
-                                  L"Only one drawing can be opened; \"%s\" is one too many."};
+                                  L"Only one drawing can be opened; the extra argument is \"%s\"."};
 inline constexpr Text kOptionValue{L"选项 %s 需要且只能有一个值。", L"Option %s takes exactly one value."};
-inline constexpr Text kOptionFlag{L"选项 %s 不带值。", L"Option %s takes no value."};
+inline constexpr Text kOptionFlag{L"选项 %s 不带值。", L"Option %s does not take a value."};
 inline constexpr Text kOptionEmpty{L"选项 %s 的值不能为空。", L"The value of option %s must not be empty."};
-inline constexpr Text kBadLanguage{L"--lang 只能是 zh 或 en，不能是“%s”。", L"--lang is zh or en, not \"%s\"."};
+inline constexpr Text kBadLanguage{L"--lang 只能是 zh 或 en，不能是“%s”。", L"--lang must be zh or en, not \"%s\"."};
 inline constexpr Text kBadSetting{L"--set 的格式是 名称=值，不能是“%s”。", L"--set takes NAME=VALUE, not \"%s\"."};
-inline constexpr Text kEmptyDrawingName{L"图形的文件名为空。", L"The name of the drawing is empty."};
+inline constexpr Text kEmptyDrawingName{L"图形的文件名为空。", L"The drawing file name is empty."};
 
 // Errors, one line each.
 inline constexpr Text kError{L"quorc: %s\n", L"quorc: %s\n"};
 inline constexpr Text kSettingRefused{L"--set %s=%s: %s", L"--set %s=%s: %s"};
 inline constexpr Text kCommandFailed{L"%s: 命令 %s 失败: %s", L"%s: command %s failed: %s"};
 inline constexpr Text kNothingToSave{L"没有打开的图形，%s 没有保存。", L"No drawing is open; %s was not saved."};
-inline constexpr Text kOutputBroken{L"无法写入标准输出: %s。", L"Standard output cannot be written: %s."};
+inline constexpr Text kOutputBroken{L"无法写入标准输出: %s。", L"Cannot write to standard output: %s."};
 inline constexpr Text kInternalError{L"内部错误: %s", L"internal error: %s"};
-inline constexpr Text kOutOfMemory{L"内存不足。", L"There is not enough memory."};
+inline constexpr Text kOutOfMemory{L"内存不足。", L"Out of memory."};
 
 // Why a command failed; what it said itself stands above.
 inline constexpr Text kWhyFailed{L"命令报告了错误。", L"it reported an error."};
 inline constexpr Text kWhyUnknown{L"没有这个命令。", L"there is no such command."};
-inline constexpr Text kWhyEnded{L"命令还在提问，回答用完了（空格或空行就是 Enter）。",
-                                L"it was still asking when the answers ran out (a blank or an empty line is Enter)."};
+inline constexpr Text kWhyEnded{L"命令还在提问，回答用完了(空格或空行就是 Enter)。",
+                                L"input ended before the command was finished (a space or an empty line is Enter)."};
 
 // No error; said where the drawing is dropped.
 inline constexpr Text kUnsaved{L"警告: 图形有未保存的修改；用 -o 或 SAVE 保存。",
-                               L"warning: the drawing has unsaved changes; -o or SAVE keeps them."};
+                               L"warning: the drawing has unsaved changes; use -o or SAVE to keep them."};
 inline constexpr Text kCommandNotUtf8{L"第 %d 个 -c 不是有效的 UTF-8 文字。", L"-c number %d is not valid UTF-8 text."};
 
 // Where a command stood, for those that came from no script file.
@@ -143,12 +143,12 @@ inline constexpr Text kCommandOption{L"第 %d 个 -c", L"-c number %d"};
 
 // Around a session.
 inline constexpr Text kBanner{L"Quor %s。输入 HELP 查看命令，QUIT 退出。\n",
-                              L"Quor %s. Type HELP for the commands, QUIT to leave.\n"};
+                              L"Quor %s. Type HELP for a list of commands, QUIT to exit.\n"};
 inline constexpr Text kUnsavedEnd{L"\n图形有未保存的更改: 用 SAVE 保存，或再按一次 Ctrl+D 放弃。\n",
-                                  L"\nThe drawing has unsaved changes: SAVE keeps them, Ctrl+D once more "
-                                  L"drops them.\n"};
+                                  L"\nThe drawing has unsaved changes: use SAVE to keep them, or press Ctrl+D "
+                                  L"again to discard them.\n"};
 inline constexpr Text kRecovered{L"\n图形 %s 有 %d 个问题，其余部分已保留:\n",
-                                 L"\nThe drawing %s has %d problems; the rest was kept:\n"};
+                                 L"\nProblems found in drawing %s: %d. The rest was kept:\n"};
 inline constexpr Text kSaved{L"\n图形已保存到 %s。\n", L"\nThe drawing was saved to %s.\n"};
 
 // Progress.

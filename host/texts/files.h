@@ -6,18 +6,18 @@
 namespace quor::texts {
 
 // Questions.
-inline constexpr Text kAskOpenPath{L"\n输入图形文件名 <浏览>: ", L"\nFile name of the drawing <browse>: "};
+inline constexpr Text kAskOpenPath{L"\n输入图形文件名 <浏览>: ", L"\nEnter drawing file name <browse>: "};
 inline constexpr Text kAskRecoverPath{L"\n输入要修复的图形文件名 <浏览>: ",
-                                      L"\nFile name of the drawing to recover <browse>: "};
-inline constexpr Text kAskSavePath{L"\n输入保存图形的文件名: ", L"\nFile name to save the drawing as: "};
+                                      L"\nEnter name of drawing file to recover <browse>: "};
+inline constexpr Text kAskSavePath{L"\n输入保存图形的文件名: ", L"\nEnter file name to save the drawing as: "};
 inline constexpr Text kAskReplace{L"\n文件 %s 已存在。是否替换? [是(Y)/否(N)] <否>: ",
-                                  L"\nThe file %s exists already. Replace it? [Yes/No] <No>: "};
+                                  L"\nThe file %s already exists. Replace it? [Yes/No] <No>: "};
 inline constexpr Text kAskSaveChanges{L"\n是否保存对 %s 的修改? [是(Y)/否(N)] <是>: ",
                                       L"\nSave the changes to %s? [Yes/No] <Yes>: "};
 inline constexpr Text kAskDiscard{L"\n%s 有未保存的修改。是否放弃? [是(Y)/否(N)] <否>: ",
                                   L"\n%s has unsaved changes. Discard them? [Yes/No] <No>: "};
 inline constexpr Text kAskDocument{L"\n输入要切换到的图形的编号或名称 <退出>: ",
-                                   L"\nNumber or name of the drawing to switch to <exit>: "};
+                                   L"\nEnter number or name of drawing to switch to <exit>: "};
 
 // Captions of the file chooser.
 inline constexpr Text kChooseOpen{L"打开图形", L"Open drawing"};
@@ -32,10 +32,10 @@ inline constexpr Text kMadeNew{L"\n新建图形 %s。\n", L"\nNew drawing %s.\n"
 inline constexpr Text kOpened{L"\n已打开 %s: 版本 %s，%d 个图元。\n", L"\nOpened %s: version %s, entities: %d.\n"};
 inline constexpr Text kHoldsNoLights{
     L"\n%s 版本的图形不能包含光源；含有光源时无法保存。需要光源时，请使用 AC1015 或更高版本的图形。\n",
-    L"\nA drawing of version %s cannot hold lights and is not saved with any. For lights, use a drawing of version "
-    L"AC1015 or later.\n"};
+    L"\nA drawing of version %s cannot contain lights and cannot be saved with any. For lights, use a drawing of "
+    L"version AC1015 or later.\n"};
 inline constexpr Text kOpenAlready{L"\n%s 已经打开，现切换到该图形。\n",
-                                   L"\n%s is open already; it is now the current drawing.\n"};
+                                   L"\n%s is already open; it is now the current drawing.\n"};
 inline constexpr Text kRecoveredWhole{L"\n未发现错误。\n", L"\nNo errors were found.\n"};
 inline constexpr Text kRecoveredProblems{L"\n发现 %d 处问题:\n", L"\nProblems found: %d.\n"};
 inline constexpr Text kMoreProblems{L"\n  … 另有 %d 处。\n", L"\n  … and %d more.\n"};
@@ -43,21 +43,21 @@ inline constexpr Text kSavedTo{L"\n已保存到 %s。\n", L"\nSaved to %s.\n"};
 inline constexpr Text kClosed{L"\n已关闭 %s。\n", L"\nClosed %s.\n"};
 inline constexpr Text kSwitched{L"\n当前图形: %s。\n", L"\nCurrent drawing: %s.\n"};
 inline constexpr Text kNoDocuments{L"\n没有打开的图形。用 NEW 新建，或用 OPEN 打开。\n",
-                                   L"\nNo drawing is open. Use NEW to make one or OPEN to open one.\n"};
+                                   L"\nNo drawing is open. Use NEW to create one or OPEN to open one.\n"};
 inline constexpr Text kModifiedMark{L"(已修改)", L"(modified)"};
 
 // What could not be done.
 inline constexpr Text kNoSuchFile{L"\n找不到文件 %s。请检查路径后再试。\n",
                                   L"\nThe file %s was not found. Check the path.\n"};
 inline constexpr Text kIsFolder{L"\n%s 是文件夹。请给出其中图形文件的名称。\n",
-                                L"\n%s is a folder. Give the name of a drawing file in it.\n"};
+                                L"\n%s is a folder. Enter the name of a drawing file in it.\n"};
 inline constexpr Text kNoRegularFile{L"\n%s 不是普通文件，不能用于图形。请给出图形文件的名称。\n",
-                                     L"\n%s is no regular file and cannot hold a drawing. Give the name of a drawing "
-                                     L"file.\n"};
+                                     L"\n%s is not a regular file and cannot be used for a drawing. Enter the name of "
+                                     L"a drawing file.\n"};
 inline constexpr Text kNoSuchFolder{
     L"\n文件夹 %s 不存在，图形未保存。请先创建该文件夹，或换一个位置。\n",
-    L"\nThe folder %s does not exist; the drawing was not saved. Make it first or choose "
-    L"another place.\n"};
+    L"\nThe folder %s does not exist; the drawing was not saved. Create it first or choose "
+    L"another location.\n"};
 inline constexpr Text kNotReplaced{L"\n文件 %s 未被替换，图形未保存。\n",
                                    L"\nThe file %s was not replaced; the drawing was not saved.\n"};
 inline constexpr Text kOpenElsewhere{
@@ -65,11 +65,11 @@ inline constexpr Text kOpenElsewhere{
     L"\n%s is open as another drawing and cannot be overwritten. Choose another name or "
     L"close that drawing first.\n"};
 inline constexpr Text kNotQuit{L"\n已取消退出: %s 有未保存的修改。用 SAVE 保存后再用 QUIT 退出。\n",
-                               L"\nQUIT was cancelled: %s has unsaved changes. SAVE it, then QUIT.\n"};
+                               L"\nQUIT was canceled: %s has unsaved changes. Use SAVE, then QUIT.\n"};
 inline constexpr Text kNoSuchDocument{L"\n没有编号或名称为“%s”的图形。请输入列表中的编号或名称。\n",
-                                      L"\nNo open drawing has the number or name \"%s\". Answer one from the list.\n"};
+                                      L"\nNo open drawing has the number or name \"%s\". Enter one from the list.\n"};
 inline constexpr Text kAmbiguousDocument{L"\n有多个图形名为“%s”。请输入编号。\n",
-                                         L"\nSeveral drawings are called \"%s\". Answer a number.\n"};
+                                         L"\nSeveral drawings are named \"%s\". Enter a number.\n"};
 
 // Releases of the drawing file format.
 struct Release {

@@ -16,51 +16,51 @@ constexpr Text kNoQuestions{L"", L""};
 constexpr HelpPage kPages[] = {
     {L"NEW", kFiles,
      {L"新建一个空图形，并使它成为当前图形。",
-      L"Makes an empty drawing and makes it current."},
+      L"Creates an empty drawing and makes it current."},
      kNoQuestions, L"NEW"},
     {L"OPEN", kFiles,
      {L"打开 DXF 图形，并使它成为当前图形。",
       L"Opens a DXF drawing and makes it current."},
      {L"图形文件名: 可含空格；直接按 Enter 时选择文件。\n有错误的文件不会打开，并说明出错的行；可用 RECOVER 试着修复。",
-      L"File name: may hold blanks; Enter alone lets you choose a file.\nA file with errors is not opened; the message names "
-      L"the line. RECOVER may read it."},
+      L"File name: may contain spaces; press Enter to choose a file.\nA file with errors is not opened; the message gives "
+      L"the line. RECOVER may be able to open it."},
      L"OPEN office.dxf"},
     {L"RECOVER", kFiles,
      {L"打开有错误的图形: 读出完好的部分，并列出问题。",
-      L"Opens a drawing that has errors: reads what is whole and lists what was wrong."},
+      L"Opens a drawing that has errors: reads the intact part and lists the problems."},
      {L"图形文件名: 可含空格；直接按 Enter 时选择文件。\n保存之前，原文件不会改变。",
-      L"File name: may hold blanks; Enter alone lets you choose a file.\nThe file itself does not change until you save."},
+      L"File name: may contain spaces; press Enter to choose a file.\nThe file does not change until you save."},
      L"RECOVER broken.dxf"},
     {L"SAVE", kFiles,
      {L"把当前图形保存到它的文件。",
       L"Saves the current drawing to its file."},
      {L"新图形会询问文件名，与 SAVEAS 相同。以前的版本保留为 .bak。",
-      L"A new drawing asks for a name as SAVEAS does. The previous version is kept as .bak."},
+      L"For a new drawing, asks for a file name as SAVEAS does. The previous version is kept as .bak."},
      L"SAVE"},
     {L"SAVEAS", kFiles,
      {L"用另一个文件名保存当前图形。",
       L"Saves the current drawing under another name."},
      {L"文件名: 可含空格；没有扩展名时加上 .dxf。\n替换已有文件之前会询问: 是(Y) 替换，否(N) 不保存。",
-      L"File name: may hold blanks; .dxf is added to a name without extension.\nAsks before it replaces a file: Yes "
-      L"replaces it, No saves nothing."},
+      L"File name: may contain spaces; .dxf is added to a name without an extension.\nAsks before replacing a file: Yes "
+      L"replaces it, No does not save."},
      L"SAVEAS office2.dxf"},
     {L"CLOSE", kFiles,
      {L"关闭当前图形。",
       L"Closes the current drawing."},
      {L"有未保存的修改时询问: 是(Y) 先保存，否(N) 放弃修改，Esc 不关闭。",
-      L"Asks when there are unsaved changes: Yes saves them first, No drops them, Esc keeps the drawing open."},
+      L"If there are unsaved changes, asks what to do: Yes saves them first, No discards them, Esc keeps the drawing open."},
      L"CLOSE"},
     {L"DOCUMENTS", kFiles,
      {L"列出打开的图形，并可切换到其中之一。",
       L"Lists the open drawings and switches to one of them."},
      {L"当前图形前有 *。输入编号或名称即切换；Enter 不切换。",
-      L"A * stands before the current one. Answer a number or a name to switch; Enter stays."},
+      L"The current drawing is marked with *. Enter a number or name to switch; press Enter to stay."},
      L"DOCUMENTS 2"},
     {L"QUIT", kFiles,
      {L"退出程序。",
-      L"Ends the program."},
+      L"Exits the program."},
      {L"每个有未保存修改的图形都会询问: 是(Y) 放弃修改，否(N) 不退出。由脚本调用时不询问。",
-      L"Asks for each drawing with unsaved changes: Yes drops them, No stays. A script is not asked."},
+      L"Asks about each drawing with unsaved changes: Yes discards them, No does not exit. Does not ask in a script."},
      L"QUIT"},
 
     {L"U", kUndoing,
@@ -71,13 +71,13 @@ constexpr HelpPage kPages[] = {
      {L"放弃最近的若干个命令。",
       L"Undoes several commands."},
      {L"要放弃的命令数，Enter 为 1。\n全部(A): 放弃所有命令。标记(M): 记住此处。后退(B): 放弃到上一个标记为止。",
-      L"Number of commands; Enter is 1.\nAll: every command. Mark: remembers this place. Back: all since the last mark."},
+      L"Number of commands to undo; Enter for 1.\nAll: every command. Mark: marks this point. Back: everything since the last mark."},
      L"UNDO 3"},
     {L"REDO", kUndoing,
      {L"恢复刚被 U 或 UNDO 放弃的命令。",
-      L"Brings back what U or UNDO took away just before."},
+      L"Restores what the preceding U or UNDO undid."},
      {L"要重做的命令数，Enter 为 1。全部(A): 全部重做。",
-      L"Number of commands; Enter is 1. All: every one."},
+      L"Number of commands to redo; Enter for 1. All: every command."},
      L"REDO 1"},
 
     {L"SELECT", kObjects,
@@ -85,81 +85,81 @@ constexpr HelpPage kPages[] = {
       L"Selects objects for the next command."},
      {L"选择对象: 点取，或 ALL 全部、L 上一个、P 前一个选择、#1F 句柄、R 删除、A 添加；Enter 结束。\n"
       L"不选任何对象而按 Enter，即取消选择。",
-      L"Select objects: pick, or ALL, Last, Previous, #1F for a handle, Remove, Add; Enter ends.\nEnter at once selects "
-      L"nothing."},
+      L"Select objects: pick, or enter ALL, Last, Previous, #1F for a handle, Remove, or Add; Enter ends.\nEnter with nothing "
+      L"selected clears the selection."},
      L"SELECT ALL "},
     {L"ERASE", kObjects,
      {L"删除对象。",
       L"Erases objects."},
      {L"选择对象，与 SELECT 相同；已经选好的对象直接删除。锁定图层上的对象保留。",
-      L"Select objects as in SELECT; what is selected already is erased at once. Objects on locked layers stay."},
+      L"Select objects as in SELECT; objects already selected are erased at once. Objects on locked layers are kept."},
      L"ERASE L "},
     {L"LIST", kObjects,
      {L"列出对象的所有特性；对光源列出全部参数及单位。",
-      L"Lists every property of objects; of lights all values with their units."},
+      L"Lists all properties of objects; for lights, every value with its unit."},
      {L"选择对象，与 SELECT 相同。",
       L"Select objects as in SELECT."},
      L"LIST ALL "},
     {L"LIGHTTABLE", kObjects,
      {L"以表格列出图形中的光源。",
-      L"Lists the lights of the drawing as tables."},
+      L"Lists the lights of the drawing in tables."},
      {L"选择光源，与 SELECT 相同；直接按 Enter 列出模型空间和所有布局中的全部光源。已经选好的对象直接列出，其中不是光源的只计数。\n"
       L"分四个表: 光源、位置和目标、强度、颜色和阴影。坐标以当前 UCS 表示；名称过长时截短；宽于 80 列的表分段显示；没有任何内容的列不显示，“-”表示该光源没有此值。\n"
       L"平行光没有位置，只有方向。LIGHTINGUNITS 为 0 时只有强度因子起作用，不显示 cd、lm 和照度。",
-      L"Select lights as in SELECT; Enter alone lists all lights of model space and of all layouts. What is selected already is "
-      L"listed at once; objects that are no lights are counted.\n"
-      L"There are four tables: lights, position and target, intensity, color and shadows. Coordinates are those of the current "
-      L"UCS; long names are cut; a table wider than 80 columns is shown in parts; a column with nothing in it is left out, \"-\" "
-      L"means that the light has no such value.\n"
-      L"A distant light has no position, only a direction. With LIGHTINGUNITS 0 only the intensity factor counts: cd, lm and "
-      L"illuminance are not shown."},
+      L"Select lights as in SELECT; Enter with none selected lists all lights in model space and in all layouts. Objects already "
+      L"selected are listed at once; those that are not lights are only counted.\n"
+      L"There are four tables: lights, position and target, intensity, color and shadows. Coordinates are in the current UCS; "
+      L"long names are shortened; a table wider than 80 columns is shown in parts; empty columns are omitted; \"-\" means that "
+      L"the light has no such value.\n"
+      L"A distant light has no position, only a direction. When LIGHTINGUNITS is 0, only the intensity factor applies; cd, "
+      L"lm, and illuminance are not shown."},
      L"LIGHTTABLE "},
     {L"-LIGHTTABLE", kObjects,
      {L"把光源写入 CSV 或 JSON 文件，或以表格列出。",
-      L"Writes the lights into a CSV or JSON file, or lists them."},
+      L"Writes the lights to a CSV or JSON file, or lists them."},
      {L"格式: 表格(T) 与 LIGHTTABLE 相同；CSV(C) 和 JSON(J) 写入文件，内容完整，字段名与语言无关，坐标为世界坐标。\n"
       L"文件名: 可含空格；Enter 为图形所在文件夹中与图形同名的文件；没有扩展名时加上 .csv 或 .json。替换已有文件之前会询问。\n"
       L"选择光源，与 LIGHTTABLE 相同。\n"
       L"CSV 为 UTF-8，各列以逗号分隔。以 =、+、- 或 @ 开头的文字照原样写入；用电子表格打开时，请将各列作为文本导入。",
-      L"Format: Table is LIGHTTABLE; Csv and Json write a file, in full, with field names that are the same in every language "
-      L"and world coordinates.\n"
-      L"File name: may hold blanks; Enter takes the drawing's name and folder; .csv or .json is added to a name without "
-      L"extension. Asks before it replaces a file.\n"
+      L"Format: Table is the same as LIGHTTABLE; CSV and JSON write a file with full contents, field names that are the same "
+      L"in every language, and world coordinates.\n"
+      L"File name: may contain spaces; Enter uses the name and folder of the drawing; .csv or .json is added to a name without "
+      L"an extension. Asks before replacing a file.\n"
       L"Select lights as in LIGHTTABLE.\n"
-      L"CSV is UTF-8 with commas. A text that begins with =, +, - or @ stands as it is; import the columns as text when you open "
-      L"the file in a spreadsheet."},
+      L"CSV is UTF-8, separated by commas. Text that begins with =, +, -, or @ is written as is; when you open the file in a "
+      L"spreadsheet, import the columns as text."},
      L"-LIGHTTABLE T "},
     {L"IESINFO", kObjects,
      {L"说明光域网文件 (.ies) 的内容，或不能使用它的原因。",
-      L"Tells what a photometric web file (.ies) holds, or why it cannot be used."},
+      L"Describes a photometric web file (.ies), or tells why it cannot be used."},
      {L"文件名: 可含空格；直接按 Enter 时选择文件。\n"
       L"没有路径的名称在这些地方查找: 图形所在的文件夹、当前文件夹、SUPPORTPATH、随程序提供的文件。",
-      L"File name: may hold blanks; Enter alone lets you choose.\nA name without folder is looked for beside the drawing, in "
-      L"the working folder, in SUPPORTPATH and among the files of the program."},
+      L"File name: may contain spaces; press Enter to choose a file.\nA name without a path is searched for in the folder of "
+      L"the drawing, in the working folder, in SUPPORTPATH, and among the files that come with the program."},
      L"IESINFO downlight.ies"},
     {L"COLORBOOKS", kObjects,
      {L"列出配色系统，或一个配色系统中的颜色。",
-      L"Lists the color books or the colors of one."},
+      L"Lists the color books, or the colors in one of them."},
      {L"配色系统名称: 可含空格；Enter 列出全部，不能使用的文件连同原因列在最后。\n"
       L"每次都会重新读取配色系统。要添加配色系统，请将 .book 文件放入用户设置旁的文件夹 colorbooks。执行其他命令时可用 'COLORBOOKS。",
-      L"Name of a color book: may hold blanks; Enter lists all of them, and at the end the files that cannot be used, with the "
-      L"reason.\nThe books are read anew each time. To add one, put a file .book into the folder colorbooks beside your "
-      L"settings. 'COLORBOOKS works inside other commands."},
+      L"Name of a color book: may contain spaces; Enter lists all of them, then the files that cannot be used, with the "
+      L"reason.\nThe books are read again each time. To add one, put a .book file in the folder colorbooks beside your "
+      L"settings file. 'COLORBOOKS can be used during other commands."},
      L"COLORBOOKS Neutral Greys"},
     {L"LINE", kObjects,
      {L"画直线段。",
-      L"Draws straight lines."},
+      L"Draws straight line segments."},
      {L"第一个点，然后是下一点，直到按 Enter。点可写作 x,y 或 x,y,z，@ 表示相对，@d<a 表示极坐标。\n"
       L"闭合(C): 回到第一个点并结束。放弃(U): 去掉最后一段。",
-      L"First point, then next points until Enter. Points are x,y or x,y,z; @ is relative, @d<a polar.\nClose: back to the "
-      L"first point, and ends. Undo: takes the last segment away."},
+      L"First point, then next points until you press Enter. Enter points as x,y or x,y,z; @ is relative, @d<a is polar.\n"
+      L"Close: returns to the first point and ends. Undo: removes the last segment."},
      L"LINE 0,0 100,0 @0,50 C"},
     {L"3DFACE", kObjects,
      {L"画有三个或四个角点的面。",
-      L"Draws faces of three or four corners."},
+      L"Draws faces with three or four corners."},
      {L"第一到第四点；第四点按 Enter 成为三角形。之后每个面再给两点，Enter 结束。\n不可见(I): 在一点之前输入，隐藏从该点开始的边。",
-      L"First to fourth point; Enter at the fourth makes a triangle. Each further face takes two more points; Enter ends.\n"
-      L"Invisible: before a point, hides the edge that begins there."},
+      L"First to fourth point; Enter at the fourth makes a triangle. Each additional face takes two more points; Enter ends.\n"
+      L"Invisible: entered before a point, hides the edge that starts there."},
      L"3DFACE 0,0 10,0 10,10 0,10 "},
 
     {L"UCS", kSpaces,
@@ -168,15 +168,15 @@ constexpr HelpPage kPages[] = {
      {L"给出原点，再给 X 轴上的点和 XY 平面上的点；Enter 接受当前状态。\n"
       L"世界(W): 世界坐标系。原点(O): 只移动原点。Z 轴(ZA): 原点和正 Z 轴。三点(3P): 原点、X 轴、XY 平面。\n"
       L"X、Y、Z: 绕该轴旋转。上一个(P): 回到以前的坐标系。",
-      L"The origin, then a point on the X axis and one in the XY plane; Enter accepts what stands.\n"
-      L"World: world coordinates. Origin: moves the origin only. ZAxis: origin and positive Z axis. 3Point: origin, X "
-      L"axis, XY plane.\nX, Y, Z: turns about that axis. Previous: back to the one before."},
+      L"The origin, then a point on the X axis and one on the XY plane; Enter accepts the current state.\n"
+      L"World: world coordinates. Origin: moves only the origin. ZAxis: origin and positive Z axis. 3Point: origin, X "
+      L"axis, XY plane.\nX, Y, Z: rotates about that axis. Previous: returns to the previous UCS."},
      L"UCS Z 45"},
     {L"LAYOUT", kSpaces,
      {L"列出布局，或切换到一个布局。",
       L"Lists the layouts or switches to one."},
      {L"列出(L): 所有布局。设置(S): 布局名，可含空格；“模型”回到模型空间。",
-      L"List: all layouts. Set: a name, which may hold blanks; Model goes back to model space."},
+      L"List: all layouts. Set: a layout name, which may contain spaces; Model returns to model space."},
      L"LAYOUT S Layout1"},
     {L"MODEL", kSpaces,
      {L"切换到模型空间。",
@@ -184,51 +184,51 @@ constexpr HelpPage kPages[] = {
      kNoQuestions, L"MODEL"},
     {L"PAPER", kSpaces,
      {L"切换到最近使用的布局的图纸空间。",
-      L"Switches to the paper space of the layout that was last in use."},
+      L"Switches to the paper space of the most recently used layout."},
      kNoQuestions, L"PAPER"},
     {L"MSPACE", kSpaces,
      {L"在布局中，进入视口的模型空间。",
-      L"In a layout, goes to model space through its viewport."},
+      L"In a layout, switches to model space in a viewport."},
      kNoQuestions, L"MSPACE"},
     {L"PSPACE", kSpaces,
      {L"在布局中，从视口回到图纸空间。",
-      L"In a layout, goes back from the viewport to paper space."},
+      L"In a layout, switches from the viewport back to paper space."},
      kNoQuestions, L"PSPACE"},
     {L"LAYER", kSpaces,
      {L"列出图层，新建图层，或设置当前图层。",
-      L"Lists layers, makes them and sets the current one."},
+      L"Lists layers, creates layers, and sets the current layer."},
      {L"列出(?): 所有图层。新建(M): 名称；该图层成为当前图层。设置(S): 已有图层的名称。Enter 结束。\n"
       L"名称为 1 到 255 个字符，可含空格，不含 <>/\\\":;?*|=,` 。",
-      L"?: all layers. Make: a name; the layer becomes current. Set: the name of a layer. Enter ends.\n"
-      L"Names have 1 to 255 characters, blanks included, none of <>/\\\":;?*|=,` ."},
+      L"?: all layers. Make: a name; the new layer becomes current. Set: the name of an existing layer. Enter ends.\n"
+      L"Names have 1 to 255 characters, may contain spaces, and contain none of <>/\\\":;?*|=,` ."},
      L"LAYER ? "},
 
     {L"SETVAR", kPrograms,
      {L"查看或更改系统变量。也可直接输入变量名。",
-      L"Shows and sets system variables. Their names alone work too."},
+      L"Shows and sets system variables. A variable name can be typed directly."},
      {L"变量名，然后是新值；Enter 保留当前值。? 列出变量，可用 * 和 ? 作通配符。",
-      L"The name, then the new value; Enter keeps the present one. ? lists them; * and ? are wildcards."},
+      L"The name, then the new value; Enter keeps the current value. ? lists variables; * and ? are wildcards."},
      L"SETVAR LUPREC 2"},
     {L"SCRIPT", kPrograms,
      {L"执行脚本文件中的命令。",
       L"Runs the commands of a script file."},
      {L"脚本文件名，可含空格。脚本中空格和换行结束一个回答，空行为 Enter，行首的 ; 为注释，^C 为 Esc。\n脚本须为 UTF-8 编码。脚本可以执行别的脚本；"
       L"只有在最后一行才能重新执行自己，否则会被拒绝。",
-      L"File name, which may hold blanks. In a script a blank or a line end ends an answer, a blank line is Enter, ; at the "
-      L"start of a line is a comment, ^C is Esc.\nScripts are UTF-8 text. A script may run others; itself only by its last "
-      L"command, else that is refused."},
+      L"File name, which may contain spaces. In a script, a space or a line end ends an answer, an empty line is Enter, ; at the "
+      L"start of a line marks a comment, and ^C is Esc.\nScripts must be UTF-8 text. A script can run other scripts; it can run "
+      L"itself again only on its last line."},
      L"SCRIPT lights.scr"},
     {L"LOADMODULE", kPrograms,
      {L"加载模块，使它的命令可用。",
-      L"Loads a module, so that its commands can be used."},
+      L"Loads a module and makes its commands available."},
      {L"模块的文件名或路径；只给名称时在模块文件夹中查找。? 列出已加载的模块。",
-      L"File name or path; a bare name is looked for in the module folders. ? lists the loaded modules."},
+      L"File name or path; a name without a path is searched for in the module folders. ? lists the loaded modules."},
      L"LOADMODULE light"},
     {L"HELP", kPrograms,
      {L"列出所有命令，或说明一个命令。",
-      L"Lists all commands or explains one."},
+      L"Lists all commands, or describes one."},
      {L"命令名；Enter 列出所有命令。执行其他命令时可用 'HELP。",
-      L"Name of a command; Enter lists all of them. 'HELP works inside other commands."},
+      L"Command name; Enter lists all commands. 'HELP can be used during other commands."},
      L"HELP LINE"},
 };
 // clang-format on

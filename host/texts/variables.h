@@ -5,30 +5,34 @@
 
 namespace quor::texts {
 
-inline constexpr Text variableUnknown{L"未知的系统变量“%s”。", L"Unknown system variable \"%s\"."};
+inline constexpr Text variableUnknown{L"未知的系统变量“%s”。输入 SETVAR ? 可列出所有变量。",
+                                      L"Unknown system variable \"%s\". SETVAR ? lists all variables."};
 inline constexpr Text variableReadOnly{L"系统变量 %s 是只读的。", L"System variable %s is read-only."};
-inline constexpr Text variableWantsWhole{L"系统变量 %s 需要整数。", L"System variable %s takes a whole number."};
+inline constexpr Text variableWantsWhole{L"系统变量 %s 需要整数。", L"System variable %s requires an integer."};
 inline constexpr Text variableWantsWholeRange{L"系统变量 %s 需要 %s 到 %s 之间的整数。",
-                                              L"System variable %s takes a whole number from %s to %s."};
-inline constexpr Text variableWantsReal{L"系统变量 %s 需要数值。", L"System variable %s takes a number."};
+                                              L"System variable %s requires an integer from %s to %s."};
+inline constexpr Text variableWantsReal{L"系统变量 %s 需要数值。", L"System variable %s requires a number."};
 inline constexpr Text variableWantsRealRange{L"系统变量 %s 需要 %s 到 %s 之间的数值。",
-                                             L"System variable %s takes a number from %s to %s."};
-inline constexpr Text variableWantsAngle{L"系统变量 %s 需要角度。", L"System variable %s takes an angle."};
-inline constexpr Text variableWantsText{L"系统变量 %s 需要文本。", L"System variable %s takes a text."};
+                                             L"System variable %s requires a number from %s to %s."};
+inline constexpr Text variableWantsAngle{L"系统变量 %s 需要角度。", L"System variable %s requires an angle."};
+inline constexpr Text variableWantsText{L"系统变量 %s 需要文本。", L"System variable %s requires text."};
 inline constexpr Text variableWantsPoint{L"系统变量 %s 需要点(x,y 或 x,y,z)。",
-                                         L"System variable %s takes a point (x,y or x,y,z)."};
-inline constexpr Text variableWantsChoice{L"系统变量 %s 需要下列值之一: %s。", L"System variable %s takes one of: %s."};
+                                         L"System variable %s requires a point (x,y or x,y,z)."};
+inline constexpr Text variableWantsChoice{L"系统变量 %s 需要下列值之一: %s。",
+                                          L"System variable %s requires one of the following: %s."};
 inline constexpr Text variableNoDrawing{L"系统变量 %s 属于图形，而当前没有打开的图形。",
                                         L"System variable %s belongs to a drawing, and none is open."};
-inline constexpr Text variableNoLayer{L"%s: 图形中没有该名称的可用图层(隐藏图层不能作为当前图层)。",
-                                      L"%s: the drawing has no such layer that can be current (a hidden one cannot)."};
-inline constexpr Text variableNotSaved{L"系统变量 %s 仅在本次运行中有效: 无法写入用户设置。",
-                                       L"System variable %s holds for this run only: the user's settings cannot be "
-                                       L"written."};
+inline constexpr Text variableNoLayer{
+    L"%s: 图形中没有该名称的可用图层(隐藏图层不能作为当前图层)。",
+    L"%s: no layer of this name can be made current (hidden layers cannot be current)."};
+inline constexpr Text variableNotSaved{
+    L"系统变量 %s 仅在本次运行中有效: 无法写入用户设置。",
+    L"System variable %s was changed for this session only: the user settings cannot "
+    L"be written."};
 inline constexpr Text variableNotKept{
     L"系统变量 %s 的新值从下次启动起才有效，但无法写入用户设置，因此不会保留。",
-    L"The new value of system variable %s counts from the next start on, but it was not "
-    L"kept: the user's settings cannot be written."};
+    L"The new value of system variable %s takes effect only at the next start, but it was not "
+    L"saved: the user settings cannot be written."};
 
 // What HELP tells of a variable beside its name.
 struct VariableNote {
@@ -38,20 +42,21 @@ struct VariableNote {
 inline constexpr VariableNote variableNotes[] = {
     {L"DEFAULTLIGHTING",
      {L"1 为打开默认光源，0 为关闭。打开时，光源命令先问是否关闭它；脚本中不问。\n"
-      L"勾选“始终执行我的当前选择”后不再询问；要恢复询问，请从用户设置文件中删去 allowCurSelectDialog。",
-      L"1 turns default lighting on, 0 off. While it is on, light commands ask first whether to turn it off; a\n"
-      L"script is not asked. Once the box of that question is ticked nobody is, until allowCurSelectDialog is\n"
-      L"taken out of the file of user settings."}},
+      L"勾选“始终执行我的当前选择”后不再询问；要恢复询问，请从设置文件\n"
+      L"(~/.config/quor/settings.ini)中删去 allowCurSelectDialog。",
+      L"1 turns default lighting on, 0 off. While it is on, light commands first ask whether to turn it off; a\n"
+      L"script is not asked. Once its check box is selected, the question is not asked again; to restore it,\n"
+      L"remove allowCurSelectDialog from the settings file (~/.config/quor/settings.ini)."}},
     {L"LANGUAGE",
      {L"zh 为中文，en 为英文，auto 依照环境变量: LC_ALL、LC_MESSAGES、LANG 中\n"
       L"第一个有值的以 en 开头时为英文，否则为中文。\n"
       L"新值从下次启动起有效；启动时的 --lang zh 或 --lang en 只用于那一次。",
       L"zh is Chinese, en is English, auto follows the environment: English when the first of LC_ALL,\n"
-      L"LC_MESSAGES and LANG that has a value begins with en, else Chinese.\n"
-      L"A new value takes effect at the next start; --lang zh and --lang en hold for one run."}},
+      L"LC_MESSAGES and LANG that has a value begins with en, otherwise Chinese.\n"
+      L"A new value takes effect at the next start; --lang zh or --lang en applies to one run only."}},
     {L"LIGHTINGUNITS",
      {L"0 为常规: 光源命令不可用；1 为光度控制，照度单位为英尺烛光(FC)；2 为光度控制，照度单位为勒克斯(Lx)。",
-      L"0 is generic: light commands cannot be used. 1 is photometric with foot-candles (FC), 2 with lux (Lx)."}},
+      L"0 is generic: light commands are not available. 1 is photometric with foot-candles (FC), 2 with lux (Lx)."}},
 };
 
 } // namespace quor::texts

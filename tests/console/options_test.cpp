@@ -104,13 +104,13 @@ TEST_P(WrongUsageTest, IsRefusedWithStatusTwoAndSaysWhatIsWrong) {
 INSTANTIATE_TEST_SUITE_P(Each, WrongUsageTest,
                          testing::Values(Wrong{{"--nonsense"}, L"There is no option \"--nonsense\"."},
                                          Wrong{{"-x"}, L"There is no option \"-x\"."},
-                                         Wrong{{"a.dxf", "b.dxf"}, L"\"b.dxf\" is one too many."},
-                                         Wrong{{""}, L"The name of the drawing is empty."},
+                                         Wrong{{"a.dxf", "b.dxf"}, L"the extra argument is \"b.dxf\"."},
+                                         Wrong{{""}, L"The drawing file name is empty."},
                                          Wrong{{"-s"}, L"--script takes exactly one value."},
                                          Wrong{{"-o", "a", "-o", "b"}, L"--output takes exactly one value."},
                                          Wrong{{"-o", ""}, L"The value of option --output must not be empty."},
-                                         Wrong{{"--quiet=1x"}, L"--quiet takes no value."},
-                                         Wrong{{"--lang", "de"}, L"--lang is zh or en, not \"de\"."},
+                                         Wrong{{"--quiet=1x"}, L"--quiet does not take a value."},
+                                         Wrong{{"--lang", "de"}, L"--lang must be zh or en, not \"de\"."},
                                          Wrong{{"--set", "NAME"}, L"--set takes NAME=VALUE, not \"NAME\"."},
                                          Wrong{{"--set", "=1"}, L"--set takes NAME=VALUE, not \"=1\"."}));
 

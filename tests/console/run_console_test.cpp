@@ -59,7 +59,8 @@ protected:
         return runConsole(options_, streams, session);
     }
 
-    static constexpr const char* kUnsaved = "quorc: warning: the drawing has unsaved changes; -o or SAVE keeps them.\n";
+    static constexpr const char* kUnsaved =
+        "quorc: warning: the drawing has unsaved changes; use -o or SAVE to keep them.\n";
     static bool has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
     fs::path folder_ = fs::temp_directory_path() / ("quor-run-" + std::to_string(getpid()));
@@ -70,14 +71,15 @@ protected:
 
 TEST_F(RunConsoleTest, PipedAnswersReadLikeTheScreen) {
     EXPECT_EQ(run("LINE\n0,0\n1,1\n\n"), kSuccess);
-    EXPECT_EQ(out_, "Command: LINE\nFirst point: 0,0\nNext point or [Undo]: 1,1\nNext point or [Undo]: \nCommand: \n");
+    EXPECT_EQ(out_, "Command: LINE\nSpecify first point: 0,0\nSpecify next point or [Undo]: 1,1\nSpecify next point or "
+                    "[Undo]: \nCommand: \n");
     EXPECT_EQ(err_, kUnsaved);
 }
 
 TEST_F(RunConsoleTest, PipedInputGoesOnBehindAFailedCommand) {
     EXPECT_EQ(run("NOSUCH\nLINE 0,0 1,1 \n"), kSuccess);
     EXPECT_TRUE(has(out_, "Unknown command \"NOSUCH\""));
-    EXPECT_TRUE(has(out_, "First point: 0,0"));
+    EXPECT_TRUE(has(out_, "Specify first point: 0,0"));
 }
 
 TEST_F(RunConsoleTest, PipedInputThatEndsInACommandCountsAsEsc) {
@@ -132,14 +134,14 @@ TEST_F(RunConsoleTest, OutputWithoutExtensionGetsOne) {
 TEST_F(RunConsoleTest, CommandOptionMayHoldSeveralLines) {
     command("; two lines\nLINE 0,0 1,1\n\nLINE\n5,5 6,6 ");
     EXPECT_EQ(run(), kSuccess);
-    EXPECT_TRUE(has(out_, "First point: 5,5"));
+    EXPECT_TRUE(has(out_, "Specify first point: 5,5"));
 }
 
 TEST_F(RunConsoleTest, TextInAnotherEncodingIsRefusedBeforeAnythingRuns) {
     command("LINE 0,0 1,1 ");
     script("gbk.scr", "LINE 0,0 1,1 \n\xB5\xC6\n");
     EXPECT_EQ(run(), kWrongUsage);
-    EXPECT_TRUE(has(err_, "gbk.scr\" is not valid UTF-8 text in line 2. Save it as UTF-8"));
+    EXPECT_TRUE(has(err_, "gbk.scr\" is not valid UTF-8 text on line 2. Save it as UTF-8"));
     options_.runs.clear();
     err_.clear();
     command("\xB5\xC6");
@@ -153,7 +155,7 @@ TEST_F(RunConsoleTest, SettingThatCannotBeKeptIsTakenForThisRun) {
     options_.settings = {{L"SUPPORTPATH", L"/lamps"}};
     command("SETVAR SUPPORTPATH\n");
     EXPECT_EQ(run(), kSuccess);
-    EXPECT_TRUE(has(err_, "SUPPORTPATH holds for this run only"));
+    EXPECT_TRUE(has(err_, "SUPPORTPATH was changed for this session only"));
     EXPECT_TRUE(has(out_, "/lamps"));
 }
 
@@ -188,9 +190,8 @@ TEST_F(RunConsoleTest, FailedSaveCountsForMoreThanAFailedCommandThatWasPassedOve
 TEST_F(RunConsoleTest, AnswersThatRunOutAreAFailureOfTheScript) {
     command("LINE 0,0");
     EXPECT_EQ(run(), kCommandFailed);
-    EXPECT_EQ(err_,
-              "quorc: -c number 1: command LINE failed: it was still asking when the answers ran out (a blank or an "
-              "empty line is Enter).\n");
+    EXPECT_EQ(err_, "quorc: -c number 1: command LINE failed: input ended before the command was finished (a space "
+                    "or an empty line is Enter).\n");
 }
 
 TEST_F(RunConsoleTest, EscInAScriptIsNoFailure) {
@@ -231,7 +232,7 @@ TEST_F(RunConsoleTest, QuietRunTellsOfABrokenColourBook) {
     command("COLORBOOKS\n");
     EXPECT_EQ(run(), kSuccess);
     EXPECT_EQ(out_, "");
-    EXPECT_EQ(err_, "quorc: " + path("colorbooks/a.book") + ": it holds no color. It was left out.\n");
+    EXPECT_EQ(err_, "quorc: " + path("colorbooks/a.book") + ": it contains no colors. It was ignored.\n");
 }
 
 TEST_F(RunConsoleTest, BrokenColourBookIsToldOnTheScreenOtherwise) {
@@ -239,7 +240,7 @@ TEST_F(RunConsoleTest, BrokenColourBookIsToldOnTheScreenOtherwise) {
     write("colorbooks/a.book", "book = \"Empty\"\n");
     command("COLORBOOKS\n");
     EXPECT_EQ(run(), kSuccess);
-    EXPECT_TRUE(has(out_, path("colorbooks/a.book") + ": it holds no color. It was left out.\n"));
+    EXPECT_TRUE(has(out_, path("colorbooks/a.book") + ": it contains no colors. It was ignored.\n"));
     EXPECT_EQ(err_.find("a.book"), std::string::npos);
 }
 
@@ -297,7 +298,7 @@ TEST_F(RunConsoleTest, DrawingThatBreaksOffIsRefusedWithItsLineAndRecoveredOnReq
 
     options_.recover = true;
     EXPECT_EQ(run(), kSuccess);
-    EXPECT_TRUE(has(out_, "problems; the rest was kept:\n  line "));
+    EXPECT_TRUE(has(out_, ". The rest was kept:\n  line "));
 }
 
 TEST_F(RunConsoleTest, ReaderOfTheOutputThatIsGoneEndsPipedInputQuietly) {
@@ -322,7 +323,7 @@ TEST_F(RunConsoleTest, OutputThatCannotBeWrittenIsAnError) {
     outError_ = ENOSPC;
     command("LINE 0,0 1,1 ");
     EXPECT_EQ(run(), kCommandFailed);
-    EXPECT_TRUE(has(err_, "Standard output cannot be written"));
+    EXPECT_TRUE(has(err_, "Cannot write to standard output"));
 }
 
 } // namespace

@@ -88,7 +88,7 @@ TEST_F(SessionColors, ABrokenBookIsReportedToWhoeverTakesProblems) {
     EXPECT_EQ(bookNames(), std::vector<ZrString>{});
 
     ASSERT_EQ(told.size(), 1U);
-    EXPECT_TRUE(told[0].ends_with(L"a.book: it holds no color. It was left out."));
+    EXPECT_TRUE(told[0].ends_with(L"a.book: it contains no colors. It was ignored."));
     EXPECT_EQ(front_.screen(), L"");
 }
 
@@ -99,7 +99,7 @@ TEST_F(SessionColors, AFileThatCannotBeReadTakesNoOtherBookAway) {
 
     EXPECT_EQ(bookNames(), std::vector<ZrString>{L"Whole"});
     EXPECT_EQ(front_.screen(), (folder_.path() / "shared/colorbooks/a.book").wstring() +
-                                   L": the file cannot be read (the device failed). It was left out.");
+                                   L": the file cannot be read (input/output error on the device). It was ignored.");
 }
 
 TEST_F(SessionColors, ABrokenBookIsReportedInTheLanguageInUse) {
@@ -109,7 +109,7 @@ TEST_F(SessionColors, ABrokenBookIsReportedInTheLanguageInUse) {
     EXPECT_EQ(bookNames(), std::vector<ZrString>{});
 
     EXPECT_EQ(front_.screen(),
-              (folder_.path() / "own/colorbooks/a.book").wstring() + L": it holds no color. It was left out.");
+              (folder_.path() / "own/colorbooks/a.book").wstring() + L": it contains no colors. It was ignored.");
 }
 
 TEST_F(SessionColors, ABookOfTheUserDoesNotReplaceTheInstalledOneOfItsName) {
@@ -121,9 +121,9 @@ TEST_F(SessionColors, ABookOfTheUserDoesNotReplaceTheInstalledOneOfItsName) {
     ZrCmColor color;
     EXPECT_EQ(zrcmGetColorFromColorBookName(color, L"Inks", L"ink"), Quor::eOk);
     EXPECT_EQ(color.rgb(), 0x010203U);
-    EXPECT_EQ(front_.screen(),
-              (folder_.path() / "own/colorbooks/b.book").wstring() + L": the color book \"Inks\" was given by " +
-                  (folder_.path() / "shared/colorbooks/a.book").wstring() + L" already. It was left out.");
+    EXPECT_EQ(front_.screen(), (folder_.path() / "own/colorbooks/b.book").wstring() +
+                                   L": the color book \"Inks\" was already given by " +
+                                   (folder_.path() / "shared/colorbooks/a.book").wstring() + L". It was ignored.");
 }
 
 TEST_F(SessionColors, TheBooksOfASessionEndWithIt) {

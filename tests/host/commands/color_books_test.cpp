@@ -25,7 +25,7 @@ protected:
         host_.front().clearScreen();
         result_ = host_.run(lines).result;
         const ZrString& screen = host_.front().screen();
-        constexpr std::wstring_view question = L"Color book <list all>: ";
+        constexpr std::wstring_view question = L"Enter color book name <list all>: ";
         const std::size_t first = screen.find(L'\n', screen.find(question)) + 1;
         return screen.substr(first, screen.rfind(L"Command: ") - first);
     }
@@ -59,7 +59,7 @@ TEST_F(ColorBooksCommand, SaysThatThereAreNoBooks) {
 
 TEST_F(ColorBooksCommand, SaysThatThereIsNoBookOfAName) {
     EXPECT_EQ(answerTo({L"COLORBOOKS", L"No \x1B Book"}),
-              L"There is no color book \"No ^[ Book\". Enter at COLORBOOKS lists them.\n");
+              L"There is no color book \"No ^[ Book\". Press Enter at COLORBOOKS to list them.\n");
     EXPECT_EQ(result_, RTERROR);
 }
 
@@ -67,9 +67,8 @@ TEST_F(ColorBooksCommand, ListsBrokenBooksWithTheirReasonsAtTheEnd) {
     write("1.book", "none");
     write("2.book", "book = \"Inks\"\na = 1,2,3\n");
 
-    const ZrString broken = path("1.book") +
-                            L", line 1: the line book = \"name\" has to come first. The whole file was "
-                            L"left out.\n";
+    const ZrString broken =
+        path("1.book") + L", line 1: the first entry must be book = \"name\". The whole file was ignored.\n";
     EXPECT_EQ(answerTo({L"COLORBOOKS", L""}), L"  Inks  1 color  " + path("2.book") + L"\n" + broken);
     EXPECT_EQ(result_, RTNORM);
 }

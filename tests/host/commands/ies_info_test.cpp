@@ -24,13 +24,13 @@ TEST_F(IesInfo, TellsWhatAFileHolds) {
     EXPECT_EQ(verdict.result, RTNORM);
     EXPECT_TRUE(host.front().shows(L"LM-63-1995"));
     EXPECT_TRUE(host.front().shows(L"type C"));
-    EXPECT_TRUE(host.front().shows(L"1 of 500 lm"));
+    EXPECT_TRUE(host.front().shows(L"1, 500 lm each"));
     EXPECT_TRUE(host.front().shows(L"1359.9 lm"));
     EXPECT_TRUE(host.front().shows(L"3300 cd"));
-    EXPECT_TRUE(host.front().shows(L"0 to 90 degrees, 37 angles"));
+    EXPECT_TRUE(host.front().shows(L"0° to 90°, 37 angles"));
     EXPECT_TRUE(host.front().shows(L"axial"));
-    EXPECT_TRUE(host.front().shows(L"one plane at 0 degrees"));
-    EXPECT_TRUE(host.front().shows(L"disc, diameter 0.12 m"));
+    EXPECT_TRUE(host.front().shows(L"0°, 1 plane"));
+    EXPECT_TRUE(host.front().shows(L"disk, diameter 0.12 m"));
 }
 
 TEST_F(IesInfo, TellsTheTiltAndTheNoticesOfTheReader) {
@@ -134,7 +134,7 @@ TEST_F(IesInfo, TellsThatTheCountsMayBeTooSmall) {
 
     host.run({L"IESINFO", textOf(host.folder() / "a.ies")});
 
-    EXPECT_TRUE(host.front().shows(L"line 6: 2 numbers too many; the counts of angles may be wrong"));
+    EXPECT_TRUE(host.front().shows(L"line 6: extra numbers: 2; the angle counts may be wrong"));
 }
 
 TEST_F(IesInfo, TellsByWhichRulesAFileOfAnUnknownEditionWasRead) {
@@ -142,7 +142,7 @@ TEST_F(IesInfo, TellsByWhichRulesAFileOfAnUnknownEditionWasRead) {
 
     host.run({L"IESINFO", textOf(host.folder() / "a.ies")});
 
-    EXPECT_TRUE(host.front().shows(L"line 1: no known version line; read by the rules of LM-63-1995"));
+    EXPECT_TRUE(host.front().shows(L"line 1: no recognized version line; read by the rules of LM-63-1995"));
 }
 
 TEST_F(IesInfo, CutsLongKeywords) {
@@ -199,8 +199,8 @@ INSTANTIATE_TEST_SUITE_P(
         OpeningInWords{k2002, "0 0 0", L"point"},
         OpeningInWords{k2002, ".1 .6 0", L"rectangle, width 0.1, length 0.6 m"},
         OpeningInWords{k2002, ".1 .6 .05", L"box, width 0.1, length 0.6, height 0.05 m"},
-        OpeningInWords{k2002, "-.2 -.2 0", L"disc, diameter 0.2 m"},
-        OpeningInWords{k2002, "-.2 0 -.2", L"upright disc, diameter 0.2 m"},
+        OpeningInWords{k2002, "-.2 -.2 0", L"disk, diameter 0.2 m"},
+        OpeningInWords{k2002, "-.2 0 -.2", L"vertical disk, diameter 0.2 m"},
         OpeningInWords{k2002, "-.2 -.3 0", L"ellipse, width 0.2, length 0.3 m"},
         OpeningInWords{k1995, "-.2 0 1", L"vertical cylinder, diameter 0.2, height 1 m"},
         OpeningInWords{k2002, "-.2 -.3 1", L"vertical elliptical cylinder, width 0.2, length 0.3, height 1 m"},
@@ -208,7 +208,7 @@ INSTANTIATE_TEST_SUITE_P(
         OpeningInWords{k2002, "1 -.2 -.2", L"horizontal cylinder across the luminaire, diameter 0.2, length 1 m"},
         OpeningInWords{k2002, "-.2 -.2 -.2", L"sphere, diameter 0.2 m"},
         OpeningInWords{k1991, "-.2 .3 .4", L"ellipsoid, width 0.2, length 0.3, height 0.4 m"},
-        OpeningInWords{k2002, "-.2 0 0", L"of no defined shape, width -0.2, length 0, height 0 m"}));
+        OpeningInWords{k2002, "-.2 0 0", L"undefined shape, width -0.2, length 0, height 0 m"}));
 
 TEST_F(IesInfo, TellsTheOpeningInFeetWhereTheFileHasThem) {
     host.run({L"IESINFO", textOf(webs / "dl_imperial_units.ies")});

@@ -124,7 +124,7 @@ TEST_F(ListOfALight, ShowsTheWebOfWebLights) {
     EXPECT_TRUE(host.front().shows(L"web light"));
     EXPECT_TRUE(host.front().shows(L"gc_sterilray.ies"));
     EXPECT_TRUE(host.front().shows(L"Web symmetry           none"));
-    EXPECT_TRUE(host.front().shows(L"vertical 0 to 90, horizontal 0 to 360 degrees"));
+    EXPECT_TRUE(host.front().shows(L"vertical 0° to 90°, horizontal 0° to 360°"));
     EXPECT_TRUE(host.front().shows(L" lm\n"));
     EXPECT_TRUE(host.front().shows(L"X=0  Y=90  Z=0 (as given)"));
 }
@@ -146,7 +146,7 @@ TEST_F(ListOfALight, SaysWhyTheWebCannotBeReadAnyMore) {
         std::filesystem::remove(file);
     });
 
-    EXPECT_TRUE(host.front().shows(L"317.27 lm, kept in the drawing"));
+    EXPECT_TRUE(host.front().shows(L"317.27 lm (saved in the drawing)"));
     EXPECT_TRUE(host.front().shows(L"gone.ies\" was not found"));
     EXPECT_FALSE(host.front().shows(L"File used"));
 }
@@ -163,7 +163,7 @@ TEST_F(ListOfALight, FindsAWebWhoseFolderIsGoneByItsName) {
         std::filesystem::rename(file, host.folder() / "lamps" / "moved.ies");
     });
 
-    EXPECT_TRUE(host.front().shows(L"vertical 0 to 90, horizontal 0 to 360 degrees"));
+    EXPECT_TRUE(host.front().shows(L"vertical 0° to 90°, horizontal 0° to 360°"));
     EXPECT_TRUE(host.front().shows(L"File used              " + textOf(host.folder() / "lamps" / "moved.ies")));
 }
 
@@ -222,7 +222,7 @@ TEST_F(ListOfARelativeWeb, FallsBackToTheSupportFolders) {
     });
 
     EXPECT_TRUE(host.front().shows(L"File used              " + textOf(fileIn("support"))));
-    EXPECT_TRUE(host.front().shows(L"about the plane 0-180"));
+    EXPECT_TRUE(host.front().shows(L"about the 0-180 plane"));
 }
 
 TEST_F(ListOfALight, ShowsBothFluxesAfterTheFileChanged) {
@@ -236,7 +236,7 @@ TEST_F(ListOfALight, ShowsBothFluxesAfterTheFileChanged) {
                                    std::filesystem::copy_options::overwrite_existing);
     });
 
-    EXPECT_TRUE(host.front().shows(L"12.724 lm in the file, 317.27 lm kept in the drawing"));
+    EXPECT_TRUE(host.front().shows(L"12.724 lm in the file, 317.27 lm saved in the drawing"));
 }
 
 TEST_F(ListOfALight, ShowsTheNoticesOfTheReaderAboutTheWeb) {
@@ -254,7 +254,7 @@ TEST_F(ListOfALight, ShowsTheOnlyPlaneOfAWeb) {
         light.setWebFile(textOf(webs / "dl_point_opening.ies"));
     });
 
-    EXPECT_TRUE(host.front().shows(L"vertical 0 to 90, horizontal 0 degrees"));
+    EXPECT_TRUE(host.front().shows(L"vertical 0° to 90°, horizontal 0°"));
 }
 
 TEST_F(ListOfALight, ShowsShadowsThatAreOffWithTheirKind) {

@@ -62,8 +62,10 @@ TEST_F(Scripts, FolderOrFileThatCannotBeReadIsRefusedWithTheReason) {
     std::filesystem::create_symlink("/proc/self/mem", path("odd.scr"));
     const ZrString folder = fromUtf8(test_.folder().native());
     EXPECT_EQ(refusal(test_.folder()), L"“" + folder + L"”是文件夹，不是脚本文件。");
-    EXPECT_EQ(refusal(path("odd.scr")), L"无法读取脚本文件“" + folder + L"/odd.scr”: 读写设备时出错");
-    EXPECT_EQ(refusal(path("none.scr")), L"无法读取脚本文件“" + folder + L"/none.scr”: 文件或文件夹不存在");
+    EXPECT_EQ(refusal(path("odd.scr")),
+              L"无法读取脚本文件“" + folder + L"/odd.scr”: 读写设备时出错。请检查路径和权限。");
+    EXPECT_EQ(refusal(path("none.scr")),
+              L"无法读取脚本文件“" + folder + L"/none.scr”: 文件或文件夹不存在。请检查路径和权限。");
 }
 
 TEST_F(Scripts, CommandScriptFailsForTextInAnotherEncoding) {

@@ -33,7 +33,7 @@ TEST_F(Described, SaysWhatWhereAndWhatToDoInEnglish) {
 
 TEST_F(Described, SaysWhatWhereAndWhatToDoInChinese) {
     EXPECT_EQ(chinese({Kind::BadNumber, 17, 0, L"12x"}),
-              L"光域网文件“lamp.ies”第 17 行：“12x”不是可用的数值；文件未使用。请改正该值，或重新获取该文件。");
+              L"光域网文件“lamp.ies”第 17 行: “12x”不是可用的数值；文件未使用。请改正该值，或重新获取该文件。");
 }
 
 TEST_F(Described, NamesTheFileOfTheTiltFactors) {
@@ -59,9 +59,8 @@ TEST_F(Described, ShowsNoControlCharactersOfAFileName) {
 TEST_F(Described, PercentSignsOfAFileNameAreNoPlaceholders) {
     setLanguage(Language::English);
 
-    EXPECT_NE(
-        describe({Kind::BadCount, 5, 0, L"%s"}, L"%d.ies").find(L"\"%d.ies\", line 5: the count of angles \"%s\""),
-        std::wstring::npos);
+    EXPECT_NE(describe({Kind::BadCount, 5, 0, L"%s"}, L"%d.ies").find(L"\"%d.ies\", line 5: the angle count \"%s\""),
+              std::wstring::npos);
 }
 
 // What looks like a wrong angle is often the number behind the last one.

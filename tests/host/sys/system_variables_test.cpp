@@ -83,11 +83,11 @@ TEST_F(Variables, NamesAreFoundWithoutRegardToCase) {
 TEST_F(Variables, UnknownNameIsRefused) {
     EXPECT_FALSE(variables().get(L"LAMPS").has_value());
     EXPECT_EQ(variables().set(L"LAMPS", short{1}), SetResult::Unknown);
-    EXPECT_EQ(refusal(L"lamps", L"1"), L"Unknown system variable \"LAMPS\".");
+    EXPECT_EQ(refusal(L"lamps", L"1"), L"Unknown system variable \"LAMPS\". SETVAR ? lists all variables.");
 }
 
 TEST_F(Variables, NumberOutsideItsRangeIsRefusedWithTheRange) {
-    EXPECT_EQ(refusal(L"LIGHTINGUNITS", L"3"), L"System variable LIGHTINGUNITS takes a whole number from 0 to 2.");
+    EXPECT_EQ(refusal(L"LIGHTINGUNITS", L"3"), L"System variable LIGHTINGUNITS requires an integer from 0 to 2.");
     EXPECT_EQ(variables().setFromText(L"LIGHTINGUNITS", L"-1"), SetResult::OutOfRange);
     EXPECT_EQ(variables().setFromText(L"LIGHTINGUNITS", L"70000"), SetResult::OutOfRange);
     EXPECT_EQ(variables().number(L"LIGHTINGUNITS"), 2);
@@ -144,7 +144,7 @@ TEST_F(Variables, CurrentLayerHasToExistAndNotToBeHidden) {
 
 TEST_F(Variables, LanguageIsOneOfTwoOrThatOfTheEnvironment) {
     EXPECT_EQ(text(L"LANGUAGE"), L"en");
-    EXPECT_EQ(refusal(L"LANGUAGE", L"fr"), L"System variable LANGUAGE takes one of: zh/en/auto.");
+    EXPECT_EQ(refusal(L"LANGUAGE", L"fr"), L"System variable LANGUAGE requires one of the following: zh/en/auto.");
     EXPECT_EQ(variables().setFromText(L"LANGUAGE", L"zh"), SetResult::Ok);
     EXPECT_EQ(text(L"LANGUAGE"), L"zh");
     EXPECT_EQ(variables().setFromText(L"LANGUAGE", L"auto"), SetResult::Ok);
