@@ -58,7 +58,7 @@ inline constexpr Text kHelp{LR"(用法: quorc [选项]... [图形]
 )",
                             LR"(Usage: quorc [OPTIONS]... [DRAWING]
 
-Opens, edits and saves DXF drawings from a terminal, a pipe or a script.
+Opens, edits, and saves DXF drawings from a terminal, a pipe, or a script.
 Without DRAWING, a new one is started; without a script or command, commands are read from standard input.
 
 What to run (repeatable; runs in command-line order)
