@@ -137,12 +137,24 @@ void checkDrawing(const Document& document) {
     checkUndo(drawing, state, bytes, isNew ? &fresh : nullptr);
 }
 
+SessionOptions optionsIn(const wchar_t* language) {
+    return {.settingsFile = scratch().path() / "settings.ini",
+            .resourceFolder = QUOR_BUILD_DIR "/share/quor",
+            .moduleFolders = {moduleFile().parent_path()},
+            .language = language};
+}
+
+// The fuzzer keeps writing the module's coverage counters after a session has unloaded it: it must stay mapped. The
+// module takes its keyword lists when it is mapped, and so needs a session then.
+void mapModule() {
+    fuzz::FuzzedFrontEnd front;
+    const Session session(front, optionsIn(L"zh"));
+    require(dlopen(moduleFile().c_str(), RTLD_NOW | RTLD_NODELETE) != nullptr, "no module");
+}
+
 void runSession(fuzz::FuzzedFrontEnd& front, std::string_view bytes) {
     const unsigned choice = static_cast<std::uint8_t>(bytes.front());
-    Session session(front, {.settingsFile = scratch().path() / "settings.ini",
-                            .resourceFolder = QUOR_BUILD_DIR "/share/quor",
-                            .moduleFolders = {moduleFile().parent_path()},
-                            .language = (choice & 1) != 0 ? L"en" : L"zh"});
+    Session session(front, optionsIn((choice & 1) != 0 ? L"en" : L"zh"));
     session.documents().newDocument();
     require(session.modules().loadModule(fromUtf8(moduleFile().string())) == Quor::eOk, "the module is not loaded");
     fuzz::AnswerMaker maker(bytes.substr(1), session, scratch());
@@ -170,8 +182,7 @@ extern "C" int LLVMFuzzerInitialize(int* count, char*** values) {
     pointers.push_back(nullptr);
     *count = static_cast<int>(arguments.size());
     *values = pointers.data();
-    // The fuzzer keeps writing the module's coverage counters after a session has unloaded it: it must stay mapped.
-    require(dlopen(moduleFile().c_str(), RTLD_NOW | RTLD_NODELETE) != nullptr, "no module");
+    mapModule();
     keepFiles();
     return 0;
 }
