@@ -132,17 +132,16 @@ unsigned char TerminalReader::completeAtCaret() {
     return CC_NORM;
 }
 
-// The row of the caret, or with the whole line the last row.
-int TerminalReader::rowsAbove(bool caret) const {
+int TerminalReader::rowOf(const wchar_t* place) const {
     const LineInfoW* info = el_wline(editor_.get());
-    const ZrString line = prompt_ + ZrString(info->buffer, caret ? info->cursor : info->lastchar);
-    return lastRowOf(line, output_.columns());
+    return lastRowOf(prompt_ + ZrString(info->buffer, place), output_.columns());
 }
 
 // The library would clear as many rows above the cursor as the line took, and so what was written below the line;
 // this refresh draws from where the cursor is.
 void TerminalReader::showBelow(std::wstring_view text) {
-    const int below = rowsAbove(false) - rowsAbove(true);
+    const LineInfoW* info = el_wline(editor_.get());
+    const int below = rowOf(info->lastchar) - rowOf(info->cursor);
     std::fputs(std::string(static_cast<std::size_t>(below) + 1, '\n').c_str(), stdout);
     std::fflush(stdout);
     output_.answered();
@@ -156,7 +155,7 @@ void TerminalReader::drawAnew() {
     el_wset(editor_.get(), EL_PREP_TERM, 1);
     const int columns = output_.columns();
     if (columns != drawnColumns_) {
-        const int above = rowsAbove(true);
+        const int above = rowOf(el_wline(editor_.get())->cursor);
         std::fputs(above > 0 ? ("\x1b[" + std::to_string(above) + "A").c_str() : "", stdout);
         std::fputs("\r\x1b[J", stdout);
     }

@@ -45,7 +45,8 @@ private:
     void showBelow(std::wstring_view text);
     // After the terminal got another size, or came back after a pause.
     void drawAnew();
-    [[nodiscard]] int rowsAbove(bool caret) const;
+    // On which row, counted from the prompt's, a place of the typed line stands.
+    [[nodiscard]] int rowOf(const wchar_t* place) const;
 
     Output& output_;
     History history_;
