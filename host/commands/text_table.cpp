@@ -12,7 +12,8 @@ namespace quor::commands {
 namespace {
 
 constexpr int kNarrowGap = 1;
-constexpr char kEnd = 0; // of a cell; no text holds one, for it is a control character
+constexpr int kLeastOfCut = 16; // columns that a text which is cut keeps at least
+constexpr char kEnd = 0;        // of a cell; no text holds one, for it is a control character
 
 // Most texts are numbers; they need no second look.
 bool isPrintableAscii(const ZrString& text) {
@@ -26,11 +27,12 @@ void TextTable::addBesideLast(const ZrString& heading, Align align) {
     columns_.back().gap = kNarrowGap;
 }
 
-void TextTable::addColumn(const ZrString& heading, Align align) {
+void TextTable::addColumn(const ZrString& heading, Align align, Fit fit) {
     Column column;
     column.heading = heading;
     column.align = align;
     column.width = columnsOf(heading);
+    column.fit = fit;
     columns_.push_back(std::move(column));
 }
 
@@ -51,21 +53,39 @@ void TextTable::addCell(const ZrString& text) {
 
 std::vector<TextTable::Block> TextTable::groups() const {
     std::vector<Block> groups;
-    for (std::size_t column = 0; column < columns_.size(); ++column) {
-        if (!columns_[column].isUsed)
+    for (std::size_t index = 0; index < columns_.size(); ++index) {
+        const Column& column = columns_[index];
+        if (!column.isUsed)
             continue;
-        if (groups.empty() || columns_[column].gap != kNarrowGap)
+        if (groups.empty() || (index >= leads_ && column.gap != kNarrowGap))
             groups.emplace_back();
-        groups.back().push_back(column);
+        const bool isCut = column.fit == Fit::MayBeCut && column.width > kLeastOfCut;
+        groups.back().push_back({index, isCut ? std::max(kLeastOfCut, columnsOf(column.heading)) : column.width});
     }
     return groups;
 }
 
 int TextTable::widthOf(const Block& block) const {
     int width = 0;
-    for (const std::size_t column : block)
-        width += columns_[column].gap + columns_[column].width;
+    for (const Place& place : block)
+        width += columns_[place.column].gap + place.width;
     return width;
+}
+
+void TextTable::widen(Block& block, int width) const {
+    int room = width - widthOf(block);
+    bool goesOn = true;
+    while (room > 0 && goesOn) {
+        goesOn = false;
+        // a column each in turn, so that none is cut for the sake of another
+        for (Place& place : block) {
+            if (room == 0 || place.width == columns_[place.column].width)
+                continue;
+            ++place.width;
+            --room;
+            goesOn = true;
+        }
+    }
 }
 
 std::vector<TextTable::Block> TextTable::blocks(int width) const {
@@ -79,17 +99,20 @@ std::vector<TextTable::Block> TextTable::blocks(int width) const {
             blocks.push_back(all.front());
         blocks.back().insert(blocks.back().end(), all[group].begin(), all[group].end());
     }
+    for (Block& block : blocks)
+        widen(block, width);
     return blocks;
 }
 
 ZrString TextTable::line(const Block& block, const std::vector<ZrString>& texts) const {
     ZrString result;
     auto text = texts.begin();
-    for (const std::size_t index : block) {
-        const Column& column = columns_[index];
-        const auto blanks = static_cast<std::size_t>(column.width - columnsOf(*text));
+    for (const Place& place : block) {
+        const Column& column = columns_[place.column];
+        const ZrString shown = cutToColumns(*text++, place.width);
+        const auto blanks = static_cast<std::size_t>(place.width - columnsOf(shown));
         result.append(static_cast<std::size_t>(column.gap) + (column.align == Align::Right ? blanks : 0), L' ');
-        result += *text++;
+        result += shown;
         result.append(column.align == Align::Left ? blanks : 0, L' ');
     }
     result.erase(result.find_last_not_of(L' ') + 1);
@@ -98,8 +121,8 @@ ZrString TextTable::line(const Block& block, const std::vector<ZrString>& texts)
 
 ZrString TextTable::heading(const Block& block) const {
     std::vector<ZrString> texts;
-    for (const std::size_t column : block)
-        texts.push_back(columns_[column].heading);
+    for (const Place& place : block)
+        texts.push_back(columns_[place.column].heading);
     return line(block, texts);
 }
 
@@ -110,7 +133,7 @@ void TextTable::forEachRow(const Block& block, const std::function<void(const Zr
         auto text = texts.begin();
         for (std::size_t column = 0; column < columns_.size(); ++column) {
             const std::size_t end = texts_.find(kEnd, at);
-            if (text != texts.end() && block[static_cast<std::size_t>(text - texts.begin())] == column)
+            if (text != texts.end() && block[static_cast<std::size_t>(text - texts.begin())].column == column)
                 *text++ = end == at ? ZrString(L"-") : fromUtf8(std::string_view(texts_).substr(at, end - at));
             at = end + 1;
         }

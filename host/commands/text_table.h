@@ -13,18 +13,29 @@ namespace quor::commands {
 
 enum class Align { Left, Right };
 
+// A text that may be cut ends with "…" where its row would not fit.
+enum class Fit { Whole, MayBeCut };
+
 class TextTable {
 public:
-    void addColumn(const ZrString& heading, Align align);
+    // `leads`: how many columns at the beginning tell the rows apart, and so begin every block.
+    explicit TextTable(std::size_t leads = 1) : leads_(leads) {}
+
+    void addColumn(const ZrString& heading, Align align, Fit fit = Fit::Whole);
     // A column that belongs to the one before it: always in the same block, only one blank away.
     void addBesideLast(const ZrString& heading, Align align);
     // Rows are filled cell by cell. Control characters in a text are spelled out.
     void addCell(const ZrString& text);
 
     [[nodiscard]] std::size_t rows() const { return columns_.empty() ? 0 : cells_ / columns_.size(); }
-    // The columns of one block.
-    using Block = std::vector<std::size_t>;
-    // As few as make every line fit into `width`, unless a column is too wide for itself.
+    // A column in a block, with the width that it has there.
+    struct Place {
+        std::size_t column = 0;
+        int width = 0;
+    };
+    using Block = std::vector<Place>;
+    // As few as make every line fit into `width`, unless a column is too wide for itself. Texts are cut no more than
+    // their block needs.
     [[nodiscard]] std::vector<Block> blocks(int width) const;
     // A line each, its end included.
     [[nodiscard]] ZrString heading(const Block& block) const;
@@ -37,14 +48,18 @@ private:
         int gap = 2; // blanks before it
         int width = 0;
         bool isUsed = false;
+        Fit fit = Fit::Whole;
     };
 
     // One text for each column of the block.
     [[nodiscard]] ZrString line(const Block& block, const std::vector<ZrString>& texts) const;
-    // The columns that are used, those that belong together in one group.
+    // The columns that are used, as narrow as they may be, those that belong together in one group.
     [[nodiscard]] std::vector<Block> groups() const;
     [[nodiscard]] int widthOf(const Block& block) const;
+    // As wide as their texts, and no wider than `width` where cutting can do it.
+    void widen(Block& block, int width) const;
 
+    std::size_t leads_;
     std::vector<Column> columns_;
     // Row by row in UTF-8, a zero behind each: tables are long, their texts too short to be worth memory of their own.
     std::string texts_;

@@ -145,6 +145,43 @@ TEST_F(AWideTable, HasACompanionWithEveryNameHoweverNarrowTheTerminal) {
     EXPECT_EQ(rows(1), std::vector<ZrString>({L"  lights  1.0000\n", L"  lights  2.0000 3.0000\n"}));
 }
 
+// A handle and a name lead; the name may be cut.
+class ATableThatCuts : public testing::Test {
+protected:
+    ATableThatCuts() {
+        table.addColumn(L"Handle", Align::Left);
+        table.addColumn(L"Name", Align::Left, Fit::MayBeCut);
+        table.addColumn(L"Kind", Align::Left);
+        table.addCell(L"2F");
+        table.addCell(ZrString(30, L'x'));
+        table.addCell(L"point");
+    }
+    ZrString row(int width) { return rowsOf(table, table.blocks(width)[0])[0]; }
+
+    TextTable table{2};
+};
+
+TEST_F(ATableThatCuts, CutsNothingThatFits) { EXPECT_EQ(row(47), L"  2F      " + ZrString(30, L'x') + L"  point\n"); }
+
+TEST_F(ATableThatCuts, CutsNoMoreThanItMust) {
+    EXPECT_EQ(row(46), L"  2F      " + ZrString(28, L'x') + L"…  point\n");
+    EXPECT_EQ(row(33), L"  2F      " + ZrString(15, L'x') + L"…  point\n");
+}
+
+TEST(ATableWithLeads, IsTwoBlocksThatBothBeginWithItsLeadsWhereCuttingIsNotEnough) {
+    TextTable wider{2};
+    for (const wchar_t* heading : {L"Handle", L"Name", L"Kind", L"Layer"})
+        wider.addColumn(heading, Align::Left);
+    for (const wchar_t* text : {L"2F", L"a", L"point", L"0"})
+        wider.addCell(text);
+
+    const auto blocks = wider.blocks(21);
+
+    ASSERT_EQ(blocks.size(), 2U);
+    EXPECT_EQ(rowsOf(wider, blocks[0])[0], L"  2F      a     point\n");
+    EXPECT_EQ(rowsOf(wider, blocks[1])[0], L"  2F      a     0\n");
+}
+
 TEST(ATableWithoutTexts, HasNoBlocks) {
     TextTable table;
     table.addColumn(L"Name", Align::Left);
