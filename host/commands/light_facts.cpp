@@ -2,6 +2,8 @@
 
 #include "host/commands/listing.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
 
 namespace quor::commands {
@@ -19,16 +21,32 @@ std::optional<ZrGeVector3d> directionOf(const ZrDbLight& light, LightKind kind) 
     return direction;
 }
 
+// Angles are degrees where they are typed and in the file, radians in between: the last digits of what comes back are
+// not its own.
+double typedDegrees(double radians) {
+    constexpr int kOwnDigits = 15;
+    return roundedTo(kOwnDigits, inDegrees(radians));
+}
+
+bool isWeb(LightKind kind) { return kind == LightKind::Web || kind == LightKind::FreeWeb; }
+
 // Whether the unit of the drawing's illuminances is needed and not known.
 bool lacksUnit(const PhotometricIntensity& intensity, PhysicalIntensityMethod wanted) {
     return !isPhotometric(intensity.lightingUnits) && (intensity.method == kIlluminance || wanted == kIlluminance);
 }
 
+// Of light all around and of a cone the flux is known from the intensity, and the other way round; of a web it is not.
+bool lacksFlux(const PhotometricIntensity& intensity, PhysicalIntensityMethod wanted, const LightFacts& facts) {
+    const bool isAboutFlux = intensity.method == kFlux || wanted == kFlux;
+    return isAboutFlux && isWeb(facts.kind) && !facts.webFile.empty();
+}
+
 std::optional<double> intensityIn(PhysicalIntensityMethod wanted, const PhotometricIntensity& intensity,
-                                  LightKind kind) {
+                                  const LightFacts& facts) {
     if (wanted == intensity.method)
         return intensity.value;
-    if (lacksUnit(intensity, wanted) || (kind == LightKind::Distant && wanted != kPeakIntensity))
+    if (lacksUnit(intensity, wanted) || lacksFlux(intensity, wanted, facts) ||
+        (facts.kind == LightKind::Distant && wanted != kPeakIntensity))
         return std::nullopt;
     const double value = convertIntensity(intensity, wanted);
     return std::isfinite(value) ? std::optional(value) : std::nullopt;
@@ -42,17 +60,17 @@ void addGeometry(const ZrDbLight& light, LightFacts& facts) {
     }
     facts.direction = directionOf(light, facts.kind);
     if (facts.kind == LightKind::Spot || facts.kind == LightKind::FreeSpot) {
-        facts.hotspot = inDegrees(light.hotspotAngle());
-        facts.falloff = inDegrees(light.falloffAngle());
+        facts.hotspot = typedDegrees(light.hotspotAngle());
+        facts.falloff = typedDegrees(light.falloffAngle());
     }
 }
 
 void addPhotometry(const ZrDbLight& light, const PhotometricUnits& units, LightFacts& facts) {
     const PhotometricIntensity intensity = photometricIntensityOf(light, units);
     facts.method = intensity.method;
-    facts.candela = intensityIn(kPeakIntensity, intensity, facts.kind);
-    facts.lumen = intensityIn(kFlux, intensity, facts.kind);
-    facts.illuminance = intensityIn(kIlluminance, intensity, facts.kind);
+    facts.candela = intensityIn(kPeakIntensity, intensity, facts);
+    facts.lumen = intensityIn(kFlux, intensity, facts);
+    facts.illuminance = intensityIn(kIlluminance, intensity, facts);
     if (facts.kind != LightKind::Distant || facts.illuminance)
         facts.illuminanceDistance = intensity.distance;
     if (light.lampColorType() == LampColorType::kPreset)
@@ -61,7 +79,23 @@ void addPhotometry(const ZrDbLight& light, const PhotometricUnits& units, LightF
         facts.lampKelvin = light.lampColorTemp();
 }
 
+void addWeb(const ZrDbLight& light, LightFacts& facts) {
+    facts.webFile = light.webFile();
+    if (!facts.webFile.empty() && light.webFlux() > 0)
+        facts.webFlux = light.webFlux();
+    if (isWeb(facts.kind))
+        light.webRotation(facts.webRotation.emplace());
+}
+
 } // namespace
+
+double roundedTo(int digits, double value) {
+    std::array<char, 32> text{};
+    char* const end = text.data() + text.size();
+    const auto written = std::to_chars(text.data(), end, value, std::chars_format::scientific, digits - 1);
+    std::from_chars(text.data(), written.ptr, value);
+    return value;
+}
 
 const wchar_t* illuminanceUnit(int lightingUnits) {
     if (lightingUnits == footCandles)
@@ -93,9 +127,10 @@ LightFacts factsOf(const ZrDbLight& light, const ZrString& layout, const Photome
     facts.on = light.isOn();
     addGeometry(light, facts);
     facts.factor = light.intensity();
+    facts.attenuation = light.lightAttenuation();
+    addWeb(light, facts);
     addPhotometry(light, units, facts);
     facts.color = light.lightColor();
-    facts.webFile = light.webFile();
     light.shadowParameters(facts.shadows);
     return facts;
 }

@@ -24,14 +24,16 @@ struct LightFacts {
     std::optional<ZrGePoint3d> target;
     // Of length 1; none for point lights, which shine all around.
     std::optional<ZrGeVector3d> direction;
-    // Full angles of spot lights in degrees.
+    // Full angles of spot lights in degrees, as they were typed.
     std::optional<double> hotspot;
     std::optional<double> falloff;
 
     double factor = 1;
+    ZrGiLightAttenuation attenuation;
     // The intensity in the unit that it is given in is the number that the drawing has; the others are converted.
-    // Parallel light has no flux and no illuminance at a distance. Without lighting units an illuminance has no unit,
-    // and nothing is converted to it or from it.
+    // Parallel light has no flux and no illuminance at a distance. A web shines as its file says, so that its flux does
+    // not follow from an intensity. Without lighting units an illuminance has no unit, and nothing is converted to it
+    // or from it.
     PhysicalIntensityMethod method = PhysicalIntensityMethod::kPeakIntensity;
     std::optional<double> candela;
     std::optional<double> lumen;
@@ -42,11 +44,16 @@ struct LightFacts {
     std::optional<double> lampKelvin;
     ZrCmColor color;
     ZrString webFile;
+    std::optional<double> webFlux;           // of the file in lumen, where the drawing has it
+    std::optional<ZrGeVector3d> webRotation; // of web lights, as it was given
     ZrGiShadowParameters shadows;
 };
 
 // The symbol of the unit of illuminance by LIGHTINGUNITS; empty where it has none.
 [[nodiscard]] const wchar_t* illuminanceUnit(int lightingUnits);
+
+// To so many significant digits, at most 17.
+[[nodiscard]] double roundedTo(int digits, double value);
 
 [[nodiscard]] LightKind kindOf(const ZrDbLight& light);
 [[nodiscard]] LightFacts factsOf(const ZrDbLight& light, const ZrString& layout, const PhotometricUnits& units);

@@ -29,6 +29,7 @@ constexpr const wchar_t* kPresets[] = {L"d65_white",
                                        L"low_pressure_sodium",
                                        L"custom"};
 constexpr const wchar_t* kShadows[] = {L"sharp", L"soft_mapped", L"soft_sampled"};
+constexpr const wchar_t* kAttenuations[] = {L"none", L"inverse_linear", L"inverse_square"};
 constexpr const wchar_t* kShapes[] = {L"linear", L"rectangle", L"disk", L"cylinder", L"sphere"};
 
 template <std::size_t N, class E>
@@ -119,6 +120,14 @@ constexpr LightField kFields[] = {
     {"shadow_shape_length",  [](F f, int) { return hasLength(f) ? FieldValue(f.shadows.extendedLightLength()) : FieldValue(); }},
     {"shadow_shape_width",   [](F f, int) { return hasWidth(f) ? FieldValue(f.shadows.extendedLightWidth()) : FieldValue(); }},
     {"shadow_shape_radius",  [](F f, int) { return hasRadius(f) ? FieldValue(f.shadows.extendedLightRadius()) : FieldValue(); }},
+    {"attenuation",          [](F f, int) { return word(kAttenuations, f.attenuation.attenuationType()); }},
+    {"attenuation_limits",   [](F f, int) -> FieldValue { return f.attenuation.useLimits(); }},
+    {"attenuation_start",    [](F f, int) -> FieldValue { return f.attenuation.startLimit(); }},
+    {"attenuation_end",      [](F f, int) -> FieldValue { return f.attenuation.endLimit(); }},
+    {"web_rotation_x",       [](F f, int) { return part(f.webRotation, &V::x); }},
+    {"web_rotation_y",       [](F f, int) { return part(f.webRotation, &V::y); }},
+    {"web_rotation_z",       [](F f, int) { return part(f.webRotation, &V::z); }},
+    {"web_flux",             [](F f, int) { return number(f.webFlux); }},
 };
 // clang-format on
 

@@ -127,8 +127,8 @@ void appendJson(std::string& file, std::span<const FieldValue> light, bool isFir
 }
 
 constexpr LightFileFormat kFormats[] = {
-    {L"Csv", ".csv", beginCsv, appendCsv, "", true},
-    {L"Json", ".json", beginJson, appendJson, "\n  ]\n}\n", false},
+    {L"Csv", L"CSV", ".csv", beginCsv, appendCsv, "", true},
+    {L"Json", L"JSON", ".json", beginJson, appendJson, "\n  ]\n}\n", false},
 };
 
 // What begins a formula, at once or behind what a spreadsheet skips.

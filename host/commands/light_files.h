@@ -1,5 +1,5 @@
 // Lights as the text of a file that other programs read. UTF-8; numbers with "." and as many digits as tell them
-// exactly.
+// exactly, but for angles.
 //
 // CSV as in RFC 4180: a row of the fields' names, then a row for each light, CR LF behind each. A text stands as it is,
 // also one that a spreadsheet would take for a formula. JSON: one object with the drawing, its units and the lights,
@@ -23,6 +23,7 @@ struct DrawingFacts {
 // Protocol: begin, one append for each light, then the end.
 struct LightFileFormat {
     const wchar_t* keyword;
+    const wchar_t* name; // as people write it
     const char* extension;
     std::string (*begin)(const DrawingFacts&);
     void (*append)(std::string& file, std::span<const FieldValue> light, bool isFirst);

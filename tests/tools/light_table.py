@@ -27,6 +27,7 @@ REFERENCE_AREA = {1: 304.8 ** 2, 2: 1000.0 ** 2}  # of a foot-candle and a lux, 
 ILLUMINANCE_UNIT = {0: None, 1: "fc", 2: "lx"}
 NUMBERED_COLORS = {1: "#FF0000", 4: "#00FFFF", 5: "#0000FF", 7: "#FFFFFF", 30: "#FF7F00", 40: "#FFBF00", 255: "#FFFFFF"}
 TRUE_COLOR = 0xC2
+ATTENUATIONS = ["none", "inverse_linear", "inverse_square"]
 SPHERE = 4 * math.pi
 SPOT_CONE = 0.3973980687964644  # stands for the cone of every spot light
 
@@ -104,7 +105,7 @@ def geometry(kind, light):
     return fields
 
 
-def intensities(kind, photometry, insunits, lighting_units):
+def intensities(kind, photometry, has_web, insunits, lighting_units):
     value, distance = photometry.number(40), photometry.number(41)
     given_as = ["candela", "lumen", "illuminance"][photometry.whole(70)]
     solid_angle = SPOT_CONE if kind in ("spot", "free_spot") else SPHERE
@@ -120,6 +121,9 @@ def intensities(kind, photometry, insunits, lighting_units):
     if found["candela"] is not None and kind != "distant":
         found["lumen"] = found["candela"] * solid_angle
         found["illuminance"] = found["candela"] * lux / area if lux and area else None
+    if has_web:  # what a web shines does not follow from an intensity
+        for other in ("candela", "illuminance") if given_as == "lumen" else ("lumen",):
+            found[other] = None
     found[given_as] = value
     unit = ILLUMINANCE_UNIT[lighting_units] if found["illuminance"] is not None else None
     if kind == "distant" and found["illuminance"] is None:
@@ -154,6 +158,21 @@ def shadows_of(light, photometry):
     return fields
 
 
+def attenuation_of(light):
+    return {
+        "attenuation": ATTENUATIONS[light.whole(72)], "attenuation_limits": light.whole(292) == 1,
+        "attenuation_start": light.number(41), "attenuation_end": light.number(42),
+    }
+
+
+def web_of(kind, photometry):
+    is_web = kind in ("web", "free_web")
+    rotation = [photometry.number(code) if is_web else None for code in (43, 44, 45)]
+    file = (photometry.text(300) or None) if is_web else None
+    return {"web_file": file, **{f"web_rotation_{axis}": angle for axis, angle in zip("xyz", rotation)},
+            "web_flux": (photometry.number(49) or None) if file else None}
+
+
 def expected_light(drawing, handles, record, insunits, lighting_units):
     light = Tags(record, b"AcDbLight", drawing.encoding)
     dictionary = dxf_light.find(handles, dxf_light.extension_dictionary(record))
@@ -161,17 +180,19 @@ def expected_light(drawing, handles, record, insunits, lighting_units):
                       drawing.encoding)
     kind = kind_of(light, photometry)
     by_preset = photometry.whole(71) == 1
+    web = web_of(kind, photometry)
     return {
         "handle": record.first(5).decode(), "name": light.text(1), "kind": kind, "space": "Model",
         "layer": dxf_tags.text_of(record.first(8), drawing.encoding), "on": light.whole(290) == 1,
         **geometry(kind, light),
         "intensity_factor": light.number(40),
-        **intensities(kind, photometry, insunits, lighting_units),
+        **intensities(kind, photometry, web["web_file"] is not None, insunits, lighting_units),
         "lamp_preset": PRESETS[photometry.whole(72)] if by_preset else None,
         "lamp_kelvin": None if by_preset else photometry.number(42),
         **color_of(light),
-        "web_file": (photometry.text(300) or None) if photometry.whole(290) == 1 else None,
         **shadows_of(light, photometry),
+        **attenuation_of(light),
+        **web,
     }
 
 
@@ -181,11 +202,18 @@ def agree(expected, got):
     return type(expected) is type(got) and expected == got
 
 
+def is_same(name, expected, got):
+    """Angles come back as they were typed, to the digits that people type."""
+    if name.endswith("_degrees") and expected is not None:
+        return got == float(f"{expected:.15g}")
+    return agree(expected, got)
+
+
 def compare(expected, got, what):
     if expected.keys() != got.keys():
         raise Failure(f"{what}: other fields: {sorted(expected.keys() ^ got.keys())}")
     for name, value in expected.items():
-        if not agree(value, got[name]):
+        if not is_same(name, value, got[name]):
             raise Failure(f"{what}, {expected['name']}: {name} is {got[name]!r}, {value!r} was expected")
 
 

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <filesystem>
+
 namespace quor::commands {
 
 namespace {
@@ -107,8 +110,17 @@ TEST_F(ALight, HasAConeAsASpotOnly) {
 
     be(DrawableType::kSpotLight, false);
 
-    EXPECT_DOUBLE_EQ(*facts(light).hotspot, 30);
-    EXPECT_DOUBLE_EQ(*facts(light).falloff, 60);
+    EXPECT_EQ(facts(light).hotspot, 30);
+    EXPECT_EQ(facts(light).falloff, 60);
+}
+
+// 43 degrees in radians, and back, is 42.99999999999999.
+TEST_F(ALight, HasTheAnglesThatWereTyped) {
+    be(DrawableType::kSpotLight, false);
+    light.setHotspotAndFalloff(std::nextafter(43 * kRadiansOfADegree, 0), 43.123456789012 * kRadiansOfADegree);
+
+    EXPECT_EQ(facts(light).hotspot, 43);
+    EXPECT_EQ(facts(light).falloff, 43.123456789012);
 }
 
 // 4 pi times the candela; candela x 1000000 / distance^2 in a drawing in millimetres.
@@ -126,6 +138,55 @@ TEST_F(ALight, ThatIsASpotHasTheFluxOfItsCone) {
     shine(kPeakIntensity, 1500);
 
     EXPECT_DOUBLE_EQ(*facts(light).lumen, 596.0971031946966);
+}
+
+class AWebLight : public ALight {
+protected:
+    AWebLight() {
+        be(DrawableType::kWebLight, false);
+        const std::filesystem::path webs = std::filesystem::path(QUOR_TEST_DATA) / "../../resources/webs";
+        light.setWebFile((webs / "wall_washer.ies").wstring());
+    }
+};
+
+TEST_F(AWebLight, HasTheFluxOfItsFileAndNoneOfItsIntensity) {
+    shine(kPeakIntensity, 1500);
+
+    EXPECT_NEAR(*facts(light).webFlux, 2000, 0.01);
+    EXPECT_EQ(facts(light).lumen, std::nullopt);
+    EXPECT_EQ(facts(light).candela, 1500);
+    EXPECT_DOUBLE_EQ(*facts(light).illuminance, 375000000);
+}
+
+TEST_F(AWebLight, GivenAsFluxHasNothingElse) {
+    shine(kFlux, 1200);
+
+    EXPECT_EQ(facts(light).lumen, 1200);
+    EXPECT_EQ(facts(light).candela, std::nullopt);
+    EXPECT_EQ(facts(light).illuminance, std::nullopt);
+}
+
+TEST_F(AWebLight, ShinesAllAroundWithoutAWeb) {
+    light.setWebFile(L"");
+    shine(kPeakIntensity, 1500);
+
+    EXPECT_EQ(facts(light).webFlux, std::nullopt);
+    EXPECT_DOUBLE_EQ(*facts(light).lumen, 18849.55592153876);
+}
+
+TEST_F(AWebLight, IsTheOnlyOneWithARotation) {
+    light.setWebRotation({10, 20, 370});
+    EXPECT_EQ(facts(light).webRotation, ZrGeVector3d(10, 20, 370));
+
+    be(DrawableType::kPointLight, false);
+    EXPECT_FALSE(facts(light).webRotation);
+}
+
+TEST(RoundedTo, KeepsSoManyDigits) {
+    EXPECT_EQ(roundedTo(6, 18849.55592), 18849.6);
+    EXPECT_EQ(roundedTo(6, 95492965.9), 95493000);
+    EXPECT_EQ(roundedTo(3, -0.0012345), -0.00123);
+    EXPECT_EQ(roundedTo(6, 0), 0);
 }
 
 TEST_F(ALight, KeepsTheNumberThatItIsGivenIn) {

@@ -16,7 +16,8 @@ constexpr const char* kFieldNames =
     "direction_y,direction_z,hotspot_degrees,falloff_degrees,intensity_factor,given_as,candela,lumen,illuminance,"
     "illuminance_unit,illuminance_distance,lamp_preset,lamp_kelvin,color,color_index,color_name,web_file,shadows,"
     "shadow_map_size,shadow_softness,shadow_samples,shadow_shape,shadow_shape_length,shadow_shape_width,"
-    "shadow_shape_radius";
+    "shadow_shape_radius,attenuation,attenuation_limits,attenuation_start,attenuation_end,web_rotation_x,"
+    "web_rotation_y,web_rotation_z,web_flux";
 
 const LightFileFormat& csv() { return lightFileFormats()[0]; }
 const LightFileFormat& json() { return lightFileFormats()[1]; }
@@ -70,7 +71,7 @@ protected:
 
 TEST_F(ALightInAFile, IsARowOfCsv) {
     EXPECT_EQ(rowOf(csv(), light), "2AF,lamp,point,Model,*ADSK_SYSTEM_LIGHTS,true,1,2.5,-3,,,,,,,,,1,candela,1500,,,,1,"
-                                   "d65_white,,#FFFFFF,7,,,sharp,,,,,,,\r\n");
+                                   "d65_white,,#FFFFFF,7,,,sharp,,,,,,,,none,false,1,10,,,,\r\n");
 }
 
 TEST_F(ALightInAFile, IsALineOfJson) {
@@ -85,7 +86,9 @@ TEST_F(ALightInAFile, IsALineOfJson) {
         "null, \"color\": \"#FFFFFF\", \"color_index\": 7, \"color_name\": null, \"web_file\": null, \"shadows\": "
         "\"sharp\", \"shadow_map_size\": null, \"shadow_softness\": null, \"shadow_samples\": null, "
         "\"shadow_shape\": null, \"shadow_shape_length\": null, \"shadow_shape_width\": null, "
-        "\"shadow_shape_radius\": null}");
+        "\"shadow_shape_radius\": null, \"attenuation\": \"none\", \"attenuation_limits\": false, "
+        "\"attenuation_start\": 1, \"attenuation_end\": 10, \"web_rotation_x\": null, \"web_rotation_y\": null, "
+        "\"web_rotation_z\": null, \"web_flux\": null}");
 }
 
 TEST_F(ALightInAFile, HasAWordForEachKind) {
@@ -185,6 +188,30 @@ TEST_F(ALightInAFile, HasTheNameAloneOfAColourOfNoBook) {
 
     light.color.setNames(L"rebeccapurple", L"");
     EXPECT_EQ(cell(light, "color_name"), "rebeccapurple");
+}
+
+TEST_F(ALightInAFile, HasItsAttenuation) {
+    light.attenuation.setAttenuationType(ZrGiLightAttenuation::kInverseSquare);
+    light.attenuation.setUseLimits(true);
+    light.attenuation.setLimits(2.5, 40);
+
+    EXPECT_EQ(cell(light, "attenuation"), "inverse_square");
+    EXPECT_EQ(cell(light, "attenuation_limits"), "true");
+    EXPECT_EQ(cell(light, "attenuation_start"), "2.5");
+    EXPECT_EQ(cell(light, "attenuation_end"), "40");
+
+    light.attenuation.setAttenuationType(ZrGiLightAttenuation::kInverseLinear);
+    EXPECT_EQ(cell(light, "attenuation"), "inverse_linear");
+}
+
+TEST_F(ALightInAFile, HasTheRotationAndTheFluxOfItsWeb) {
+    light.webRotation = ZrGeVector3d(10, 20, 370);
+    light.webFlux = 1999.5;
+
+    EXPECT_EQ(cell(light, "web_rotation_x"), "10");
+    EXPECT_EQ(cell(light, "web_rotation_y"), "20");
+    EXPECT_EQ(cell(light, "web_rotation_z"), "370");
+    EXPECT_EQ(cell(light, "web_flux"), "1999.5");
 }
 
 TEST_F(ALightInAFile, HasAQuotedNameWhereCsvNeedsIt) {
