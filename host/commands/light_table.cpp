@@ -11,10 +11,14 @@
 #include "host/commands/ucs_math.h"
 #include "host/db/file_messages.h"
 #include "host/session.h"
+#include "host/sys/case_fold.h"
 #include "host/sys/system_variables.h"
 #include "host/texts/list.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace quor::commands {
 
@@ -39,7 +43,7 @@ void sayNoLights(const LightSelection& selection) {
 
 LightTables read(Session& session, const LightSelection& selection) {
     Progress progress(session.front(), texts::kTableReading.get(), selection.count);
-    LightTables tables(session.variables().number(L"LIGHTINGUNITS"));
+    LightTables tables(session.variables().number(L"LIGHTINGUNITS"), session.front().columns());
     LightReader lights(selection);
     while (const std::optional<LightFacts> light = lights.next()) {
         tables.add(*light);
@@ -66,6 +70,55 @@ fs::path usualPath(const Document& document, const LightFileFormat& format) {
     return absolutePath(fs::path(drawing).replace_extension(format.extension));
 }
 
+const LightFileFormat* formatOf(const fs::path& extension) {
+    const auto formats = lightFileFormats();
+    const auto format = std::find_if(formats.begin(), formats.end(), [&](const LightFileFormat& f) {
+        return equalFolded(textOf(extension), textOf(f.extension));
+    });
+    return format == formats.end() ? nullptr : &*format;
+}
+
+// The place that was typed. Of a name that is an extension and no more (".json") the rest is the drawing's.
+fs::path typedPath(const ZrString& typed, const fs::path& usual, const LightFileFormat& format) {
+    fs::path path = absolutePath(pathFromText(typed));
+    if (formatOf(path.filename()) != nullptr)
+        return path.replace_filename(usual.stem() += path.filename());
+    return withExtension(path, format.extension);
+}
+
+// What keeps files from being written there. What is not there, and what is no file, is told elsewhere.
+std::optional<dxf::SaveError> obstacleAt(const fs::path& path) {
+    const auto isForbidden = [](const fs::path& place) {
+        return ::faccessat(AT_FDCWD, place.c_str(), W_OK, AT_EACCESS) != 0 && errno != ENOENT && errno != ENOTDIR;
+    };
+    std::error_code error;
+    if (fs::exists(path, error) && !fs::is_regular_file(path, error))
+        return std::nullopt;
+    const fs::path target = fs::weakly_canonical(path, error);
+    if (error)
+        return dxf::SaveError{dxf::SaveStep::Target, error.value(), path};
+    if (isForbidden(target))
+        return dxf::SaveError{dxf::SaveStep::Target, errno, target};
+    if (isForbidden(target.parent_path()))
+        return dxf::SaveError{dxf::SaveStep::CreateTemp, errno, target.parent_path()};
+    return std::nullopt;
+}
+
+int failToSave(const dxf::SaveError& error, const fs::path& path) {
+    printText(L"\n" + visibleText(db::describe(error, textOf(path))) + L"\n");
+    return RTERROR;
+}
+
+// Before anybody picks lights for a file that cannot be written. RTNORM, RTCAN, or RTERROR after a message.
+int checkTablePath(Session& session, const LightFileFormat& format, const fs::path& path) {
+    if (const auto obstacle = obstacleAt(path))
+        return failToSave(*obstacle, path);
+    const LightFileFormat* said = formatOf(path.extension());
+    if (said != nullptr && said != &format)
+        sayShown(texts::kTableOtherFormat, textOf(path), format.name);
+    return checkPlace(session, path, nullptr, kPlaceOfATable);
+}
+
 // RTNORM with a path, RTCAN, or RTERROR after a message.
 int askTablePath(Session& session, const LightFileFormat& format, fs::path& path) {
     path = usualPath(*session.documents().current(), format);
@@ -73,17 +126,15 @@ int askTablePath(Session& session, const LightFileFormat& format, fs::path& path
     if (!answer)
         return RTCAN;
     if (!answer->empty())
-        path = withExtension(absolutePath(pathFromText(*answer)), format.extension);
-    return checkPlace(session, path, nullptr, kPlaceOfATable);
+        path = typedPath(*answer, path, format);
+    return checkTablePath(session, format, path);
 }
 
 int write(Session& session, const LightSelection& selection, const LightFileFormat& format, const fs::path& path) {
     const auto written = writeLightFile(session, selection, format, path);
-    if (!written) {
-        printText(L"\n" + visibleText(db::describe(written.error(), textOf(path))) + L"\n");
-        return RTERROR;
-    }
-    sayShown(texts::kTableWritten, textOf(path), written.value().count);
+    if (!written)
+        return failToSave(written.error(), path);
+    sayShown(texts::kTableWritten, written.value().count, textOf(path));
     sayOthers(selection);
     if (format.isForSpreadsheets && written.value().formulas > 0)
         say(texts::kTableFormulas, written.value().formulas);

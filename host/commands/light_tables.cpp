@@ -5,6 +5,7 @@
 #include "host/texts/list.h"
 #include "sdk/db/database.h"
 #include "sdk/ed/print.h"
+#include "sdk/sys/format.h"
 
 #include <iterator>
 #include <span>
@@ -25,16 +26,17 @@ struct LightColumn {
     ZrString (*value)(const LightFacts&); // empty: the light has none
     bool isBesideLast = false;            // the next coordinate of a point
     bool (*isShown)(int lightingUnits) = always;
+    Fit fit = Fit::Whole;
 };
 
 namespace {
 
 using F = const LightFacts&;
 using Shadows = ZrGiShadowParameters;
+using enum PhysicalIntensityMethod;
 
-// Longer ones would push everything behind them off the screen; LIST and files have them in full.
-constexpr int kMostOfName = 24;
-constexpr int kWidest = 80; // of terminals, which may be wider and are rarely less
+constexpr std::size_t kLeads = 2;   // handle and name
+constexpr int kDigitsOfWebFlux = 5; // what a web shines is not known more exactly
 
 template <std::size_t N, class E>
 ZrString word(const Text (&words)[N], E value) {
@@ -42,12 +44,30 @@ ZrString word(const Text (&words)[N], E value) {
     return index < N ? ZrString(words[index].get()) : ZrString();
 }
 
-ZrString shortName(const ZrString& name) { return cutToColumns(visibleText(name), kMostOfName); }
-
 // Of a path only the name; paths of other systems have backslashes.
-ZrString fileName(const ZrString& path) { return shortName(path.substr(path.find_last_of(L"/\\") + 1)); }
+ZrString fileName(const ZrString& path) { return path.substr(path.find_last_of(L"/\\") + 1); }
 
-ZrString number(const std::optional<double>& value) { return value ? decimalText(*value) : ZrString(); }
+ZrString rounded(int digits, const std::optional<double>& value) {
+    return value ? numberText(roundedTo(digits, *value)) : ZrString();
+}
+ZrString angle(const std::optional<double>& degrees) { return degrees ? numberText(*degrees) + L"°" : ZrString(); }
+
+// A star behind the number that the drawing holds; the others are converted from it.
+template <std::optional<double> LightFacts::*Value, PhysicalIntensityMethod Method>
+ZrString intensity(F light) {
+    constexpr int kDigitsOfConverted = 6;
+    const std::optional<double>& value = light.*Value;
+    return value && light.method == Method ? numberText(*value) + L"*" : rounded(kDigitsOfConverted, value);
+}
+
+// A component of a direction of length 1, which needs no digits beyond these.
+ZrString partText(double part) {
+    ZrString text = zrFormat(L"%.6f", {part});
+    text.erase(text.find_last_not_of(L'0') + 1);
+    if (text.back() == L'.')
+        text.pop_back();
+    return text == L"-0" ? L"0" : text;
+}
 
 ZrString lampText(F light) {
     return light.lampPreset ? word(texts::kLampPresets, *light.lampPreset) : numberText(*light.lampKelvin) + L" K";
@@ -63,7 +83,7 @@ template <double ZrGePoint3d::*OfTarget, double ZrGeVector3d::*OfDirection>
 ZrString aim(F light, const wchar_t* before, const wchar_t* after) {
     if (light.target)
         return coordinate<OfTarget>(light.target);
-    return light.direction ? before + decimalText(zrdbWcs2Ucs(*light.direction).*OfDirection) + after : ZrString();
+    return light.direction ? before + partText(zrdbWcs2Ucs(*light.direction).*OfDirection) + after : ZrString();
 }
 
 ZrString sizesText(const Shadows& shadows) {
@@ -94,18 +114,25 @@ constexpr Text kLumen{L"lm", L"lm"};
 constexpr Text kLux{L"lx", L"lx"};
 constexpr Text kFootCandles{L"fc", L"fc"};
 
-const LightColumn kName{texts::kLightName, Align::Left, [](F f) { return shortName(f.name); }};
+constexpr LightColumn cuttable(const Text& heading, ZrString (*value)(F)) {
+    return {heading, Align::Left, value, kApart, always, Fit::MayBeCut};
+}
+
+const LightColumn kHandle{texts::kListHandle, Align::Left, [](F f) { return zrFormat(L"%X", {f.handle.value()}); }};
+const LightColumn kName = cuttable(texts::kLightName, [](F f) { return f.name; });
 
 const LightColumn kWhat[] = {
+    kHandle,
     kName,
     {texts::kLightKind, Align::Left, [](F f) { return word(texts::kTableKinds, f.kind); }},
     {texts::kLightStatus, Align::Left, [](F f) { return ZrString((f.on ? texts::kOn : texts::kOff).get()); }},
-    {texts::kListSpace, Align::Left, [](F f) { return shortName(f.layout); }},
-    {texts::kListLayer, Align::Left, [](F f) { return shortName(f.layer); }},
-    {texts::kLightWebFile, Align::Left, [](F f) { return fileName(f.webFile); }},
+    cuttable(texts::kListSpace, [](F f) { return f.layout; }),
+    cuttable(texts::kListLayer, [](F f) { return f.layer; }),
+    cuttable(texts::kLightWebFile, [](F f) { return fileName(f.webFile); }),
 };
 
 const LightColumn kWhere[] = {
+    kHandle,
     kName,
     {kX, Align::Right, [](F f) { return coordinate<&P::x>(f.position); }},
     {kY, Align::Right, [](F f) { return coordinate<&P::y>(f.position); }, kBesideLast},
@@ -113,46 +140,63 @@ const LightColumn kWhere[] = {
     {texts::kTableTargetX, Align::Right, [](F f) { return aim<&P::x, &V::x>(f, L"(", L""); }},
     {texts::kTableTargetY, Align::Right, [](F f) { return aim<&P::y, &V::y>(f, L"", L""); }, kBesideLast},
     {texts::kTableTargetZ, Align::Right, [](F f) { return aim<&P::z, &V::z>(f, L"", L")"); }, kBesideLast},
+    {texts::kLightHotspot, Align::Right, [](F f) { return angle(f.hotspot); }},
+    {texts::kLightFalloff, Align::Right, [](F f) { return angle(f.falloff); }, kBesideLast},
 };
 
 const LightColumn kIntensity[] = {
+    kHandle,
     kName,
-    {texts::kTableFactor, Align::Right, [](F f) { return decimalText(f.factor); }},
-    {kCandela, Align::Right, [](F f) { return number(f.candela); }, kApart, isPhotometric},
-    {kLumen, Align::Right, [](F f) { return number(f.lumen); }, kApart, isPhotometric},
-    {kLux, Align::Right, [](F f) { return number(f.illuminance); }, kApart, inLux},
-    {kFootCandles, Align::Right, [](F f) { return number(f.illuminance); }, kApart, inFootCandles},
+    {texts::kTableFactor, Align::Right, [](F f) { return numberText(f.factor); }},
+    {kCandela, Align::Right, intensity<&LightFacts::candela, kPeakIntensity>, kApart, isPhotometric},
+    {kLumen, Align::Right, intensity<&LightFacts::lumen, kFlux>, kApart, isPhotometric},
+    {kLux, Align::Right, intensity<&LightFacts::illuminance, kIlluminance>, kApart, inLux},
+    {kFootCandles, Align::Right, intensity<&LightFacts::illuminance, kIlluminance>, kApart, inFootCandles},
+    {texts::kTableDistance, Align::Right,
+     [](F f) { return f.illuminanceDistance ? lengthText(*f.illuminanceDistance) : ZrString(); }, kBesideLast,
+     isPhotometric},
+    {texts::kTableWebFlux, Align::Right, [](F f) { return rounded(kDigitsOfWebFlux, f.webFlux); }, kApart,
+     isPhotometric},
 };
 
 const LightColumn kLook[] = {
+    kHandle,
     kName,
     {texts::kLightLamp, Align::Left, lampText, kApart, isPhotometric},
-    {texts::kLightColor, Align::Left, [](F f) { return cutToColumns(colorText(f.color), kMostOfName); }},
+    cuttable(texts::kLightColor, [](F f) { return colorText(f.color); }),
     {texts::kLightShadows, Align::Left, [](F f) { return shadowsInWords(f.shadows); }},
 };
 
-ZrString whereTitle() {
+ZrString whereTitle(int) {
     const ZrString unit = shownUnit();
     return unit.empty() ? ZrString(texts::kTableWhere.get()) : fill(texts::kTableWhereIn, unit);
 }
 
+ZrString intensityTitle(int lightingUnits) {
+    if (!isPhotometric(lightingUnits))
+        return texts::kTableFactors.get();
+    const ZrString unit = shownUnit();
+    const ZrString illuminance = illuminanceUnit(lightingUnits);
+    return unit.empty() ? fill(texts::kTableIntensity, illuminance) : fill(texts::kTableIntensityIn, illuminance, unit);
+}
+
 template <const Text& Title>
-ZrString titleOf() {
+ZrString titleOf(int) {
     return Title.get();
 }
 
 struct TableRow {
-    ZrString (*title)();
+    ZrString (*title)(int lightingUnits);
     std::span<const LightColumn> columns;
 };
 
 const TableRow kTables[] = {{titleOf<texts::kTableWhat>, kWhat},
                             {whereTitle, kWhere},
-                            {titleOf<texts::kTableIntensity>, kIntensity},
+                            {intensityTitle, kIntensity},
                             {titleOf<texts::kTableLook>, kLook}};
 
-void printTable(const TextTable& table, const std::function<void()>& printed) {
-    for (const TextTable::Block& block : table.blocks(kWidest)) {
+void printTable(const TextTable& table, int width, const std::function<void()>& printed) {
+    for (const TextTable::Block& block : table.blocks(width)) {
         printText(L"\n" + table.heading(block));
         table.forEachRow(block, [&](const ZrString& row) {
             printText(row);
@@ -164,9 +208,9 @@ void printTable(const TextTable& table, const std::function<void()>& printed) {
 
 } // namespace
 
-LightTables::LightTables(int lightingUnits) {
+LightTables::LightTables(int lightingUnits, int width) : width_(width) {
     for (const TableRow& row : kTables) {
-        Table& table = tables_.emplace_back(Table{row.title(), {}, {}});
+        Table& table = tables_.emplace_back(Table{row.title(lightingUnits), {}, TextTable(kLeads)});
         for (const LightColumn& column : row.columns) {
             if (!column.isShown(lightingUnits))
                 continue;
@@ -174,7 +218,7 @@ LightTables::LightTables(int lightingUnits) {
             if (column.isBesideLast)
                 table.texts.addBesideLast(column.heading.get(), column.align);
             else
-                table.texts.addColumn(column.heading.get(), column.align);
+                table.texts.addColumn(column.heading.get(), column.align, column.fit);
         }
     }
 }
@@ -189,14 +233,14 @@ void LightTables::add(const LightFacts& light) {
 std::size_t LightTables::lines() const {
     std::size_t lines = 0;
     for (const Table& table : tables_)
-        lines += table.texts.blocks(kWidest).size() * table.texts.rows();
+        lines += table.texts.blocks(width_).size() * table.texts.rows();
     return lines;
 }
 
 void LightTables::print(const std::function<void()>& printed) const {
     for (const Table& table : tables_) {
         printText(L"\n" + table.title);
-        printTable(table.texts, printed);
+        printTable(table.texts, width_, printed);
     }
 }
 

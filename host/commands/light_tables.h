@@ -1,6 +1,6 @@
-// Lights as tables on the command line: four of them one below the other, with the name of the light in each row,
-// because a line that is wider than the terminal cannot be read. Coordinates are those of the current UCS, numbers in
-// the drawing's units and precision.
+// Lights as tables on the command line: four of them one below the other, with handle and name of the light in each
+// row, because a line that is wider than the terminal cannot be read. Coordinates are those of the current UCS, lengths
+// in the drawing's units and precision; other numbers have digits of their own.
 #pragma once
 
 #include "host/commands/light_facts.h"
@@ -18,8 +18,8 @@ struct LightColumn;
 // Lights are added one after the other; only their texts are kept.
 class LightTables {
 public:
-    // LIGHTINGUNITS: in generic lighting photometric values have no effect and are left out.
-    explicit LightTables(int lightingUnits);
+    // LIGHTINGUNITS: in generic lighting photometric values have no effect and are left out. `width`: of a line.
+    LightTables(int lightingUnits, int width);
 
     void add(const LightFacts& light);
     // How many were added.
@@ -39,6 +39,7 @@ private:
         TextTable texts;
     };
 
+    int width_;
     std::vector<Table> tables_;
     std::array<std::size_t, kLightKinds> counts_{};
 };

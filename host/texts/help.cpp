@@ -104,13 +104,13 @@ constexpr HelpPage kPages[] = {
      {L"以表格列出图形中的光源。",
       L"Lists the lights of the drawing in tables."},
      {L"选择光源，与 SELECT 相同；未选择时按 Enter 列出模型空间和所有布局中的全部光源。已经选好的对象直接列出，其中不是光源的只计数。\n"
-      L"分四个表: 光源、位置和目标、强度、颜色和阴影。坐标以当前 UCS 表示；名称过长时截短；宽于 80 列的表分段显示；没有任何内容的列不显示，“-”表示该光源没有此值。\n"
+      L"分四个表: 光源、位置和目标、强度、颜色和阴影。坐标以当前 UCS 表示；一行放不下时截短名称，表分段显示；没有任何内容的列不显示，“-”表示该光源没有此值。\n"
       L"平行光没有位置，只有方向。LIGHTINGUNITS 为 0 时只有强度因子起作用，不显示 cd、lm 和照度。",
       L"Select lights as in SELECT; Enter with none selected lists all lights in model space and in all layouts. Objects already "
       L"selected are listed at once; those that are not lights are only counted.\n"
       L"There are four tables: lights; position and target; intensity; color and shadows. Coordinates are in the current UCS; "
-      L"long names are shortened; a table wider than 80 columns is shown in parts; empty columns are omitted; \"-\" means that "
-      L"the light has no such value.\n"
+      L"names are shortened and a table is shown in parts where it is wider than the screen; empty columns are omitted; \"-\" "
+      L"means that the light has no such value.\n"
       L"A distant light has no position, only a direction. When LIGHTINGUNITS is 0, only the intensity factor applies; cd, "
       L"lm, and illuminance are not shown."},
      L"LIGHTTABLE "},

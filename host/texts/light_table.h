@@ -6,8 +6,7 @@
 namespace quor::texts {
 
 // Questions.
-inline constexpr Text kAskLights{L"\n选择光源 (未选择时按 Enter: 全部): ",
-                                 L"\nSelect lights (Enter with none selected: all of them): "};
+inline constexpr Text kAskLights{L"\n选择光源 <全部>: ", L"\nSelect lights <all>: "};
 inline constexpr Text kAskTableFormat{L"\n输入格式 [表格(T)/CSV(C)/JSON(J)] <CSV>: ",
                                       L"\nFormat [Table/Csv/Json] <Csv>: "};
 inline constexpr Text kAskTableFile{L"\n输入文件名 <%s>: ", L"\nFile name <%s>: "};
@@ -15,12 +14,20 @@ inline constexpr Text kAskTableFile{L"\n输入文件名 <%s>: ", L"\nFile name <
 // The tables.
 inline constexpr Text kTableWhat{L"光源", L"Lights"};
 inline constexpr Text kTableWhere{L"位置和目标；没有目标的光源为 (方向)",
-                                  L"Position and target, or the (direction) of a light without target"};
-inline constexpr Text kTableWhereIn{L"位置和目标，单位 %s；没有目标的光源为 (方向)",
-                                    L"Position and target in %s, or the (direction) of a light without target"};
-inline constexpr Text kTableIntensity{L"强度", L"Intensity"};
+                                  L"Position and target (direction in parentheses for lights without a target)"};
+inline constexpr Text kTableWhereIn{
+    L"位置和目标，单位 %s；没有目标的光源为 (方向)",
+    L"Position and target in %s (direction in parentheses for lights without a target)"};
+inline constexpr Text kTableFactors{L"强度", L"Intensity"};
+inline constexpr Text kTableIntensity{L"强度；带 * 的是图形中的值，其余为换算值；%s 为所列距离处的照度",
+                                      L"Intensity (*: held by the drawing, others converted; %s at the distance)"};
+inline constexpr Text kTableIntensityIn{
+    L"强度；带 * 的是图形中的值，其余为换算值；%s 为所列距离 (%s) 处的照度",
+    L"Intensity (*: held by the drawing, others converted; %s at the distance in %s)"};
 inline constexpr Text kTableLook{L"颜色和阴影", L"Color and shadows"};
 inline constexpr Text kTableFactor{L"因子", L"Factor"};
+inline constexpr Text kTableDistance{L"距离", L"Distance"};
+inline constexpr Text kTableWebFlux{L"光域网 lm", L"Web lm"};
 inline constexpr Text kTableTargetX{L"目标 X", L"Target X"};
 inline constexpr Text kTableTargetY{L"目标 Y", L"Target Y"};
 inline constexpr Text kTableTargetZ{L"目标 Z", L"Target Z"};
@@ -35,7 +42,7 @@ inline constexpr Text kTableTotal{L"\n共 %d 个光源: %s。\n", L"\nLights: %d
 inline constexpr Text kTableKindCount{L"%s %d", L"%s %d"};
 inline constexpr Text kTableComma{L"，", L", "};
 inline constexpr Text kTableOthers{L"\n未列出 %d 个不是光源的对象。\n",
-                                   L"\nObjects that are no lights, not listed: %d.\n"};
+                                   L"\n%d objects that are not lights were not listed.\n"};
 inline constexpr Text kTableNoLights{L"\n图形中没有光源。\n", L"\nThere are no lights in the drawing.\n"};
 inline constexpr Text kTableNoneSelected{L"\n所选对象中没有光源。\n",
                                          L"\nThere are no lights among the selected objects.\n"};
@@ -46,20 +53,20 @@ inline constexpr Text kTableShowing{L"正在列出光源", L"Listing lights"};
 inline constexpr Text kTableWriting{L"正在写入 %s", L"Writing %s"};
 
 // Files.
-inline constexpr Text kTableWritten{L"\n已写入 %s，光源 %d 个。\n", L"\nWritten to %s; lights: %d.\n"};
+inline constexpr Text kTableWritten{L"\n已将 %d 个光源写入 %s。\n", L"\n%d lights written to %s.\n"};
 inline constexpr Text kTableFormulas{
-    L"\n其中 %d 个光源有以 =、+、-、@、制表符或回车开头的文字。用电子表格打开时，请将各列作为文本导入。\n",
-    L"\nLights with a text that begins with =, +, -, @, a tab or a carriage return: %d. Import the columns as text "
-    L"when "
-    L"you open the file in a spreadsheet.\n"};
+    L"\n%d 个光源含有电子表格会当作公式的文字。用电子表格打开时，请将各列作为文本导入。\n",
+    L"\n%d lights have text that a spreadsheet would take for a formula. Import the columns as text.\n"};
 inline constexpr Text kTableNotWritten{L"\n未写入 %s。\n", L"\nNothing was written to %s.\n"};
 inline constexpr Text kTableIsFolder{L"\n%s 是文件夹。请给出其中文件的名称。\n",
                                      L"\n%s is a folder. Give the name of a file in it.\n"};
 inline constexpr Text kTableNoRegularFile{L"\n%s 不是普通文件，未写入。请换一个名称。\n",
-                                          L"\n%s is no regular file; nothing was written. Choose another name.\n"};
+                                          L"\n%s is not a regular file; nothing was written. Choose another name.\n"};
 inline constexpr Text kTableNoSuchFolder{
     L"\n文件夹 %s 不存在，未写入。请先创建该文件夹，或换一个位置。\n",
-    L"\nThe folder %s does not exist; nothing was written. Make it first or choose another place.\n"};
+    L"\nThe folder %s does not exist; nothing was written. Create it first or choose another place.\n"};
+inline constexpr Text kTableOtherFormat{L"\n注意: 写入 %s 的是 %s，与扩展名不符。\n",
+                                        L"\nNote: %s gets %s, unlike what its extension says.\n"};
 inline constexpr Text kTableIsDrawing{L"\n%s 是已打开的图形，不能覆盖。请换一个名称。\n",
                                       L"\n%s is an open drawing and cannot be overwritten. Choose another name.\n"};
 inline constexpr Text kTableNotReplaced{L"\n文件 %s 未被替换。\n", L"\nThe file %s was not replaced.\n"};

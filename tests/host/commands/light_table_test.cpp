@@ -1,7 +1,10 @@
+#include "host/commands/light_tables.h"
 #include "host/document.h"
+#include "host/sys/system_variables.h"
 #include "host/texts/text.h"
 #include "sdk/db/light.h"
 #include "sdk/rx/command.h"
+#include "sdk/sys/format.h"
 #include "tests/support/test_session.h"
 
 #include <gtest/gtest.h>
@@ -13,6 +16,9 @@
 #include <memory>
 
 namespace quor {
+
+using commands::LightFacts;
+using commands::LightTables;
 
 namespace {
 
@@ -77,7 +83,7 @@ TEST_F(LightTable, TellsTheSheetOfALightThatIsOnOne) {
 
     host.run({L"LIGHTTABLE", L""});
 
-    EXPECT_TRUE(host.front().shows(L"  Name          Kind   Status  Space    Layer\n"));
+    EXPECT_TRUE(host.front().shows(L"  Handle  Name          Kind   Status  Space    Layer\n"));
     EXPECT_TRUE(host.front().shows(L"  in the model  point  on      -        0\n"));
     EXPECT_TRUE(host.front().shows(L"  on a sheet    point  on      Layout1  0\n"));
 }
@@ -89,8 +95,93 @@ TEST_F(LightTable, CutsALongNameAndHasItInFullInAFile) {
     host.run({L"-LIGHTTABLE", L"C", (host.folder() / "long.csv").wstring(), L""});
     host.run({L"LIGHTTABLE", L""});
 
-    EXPECT_TRUE(host.front().shows(L"  " + ZrString(23, L'x') + L"…  point"));
+    EXPECT_TRUE(host.front().shows(L"      " + ZrString(47, L'x') + L"…  point  on      0\n"));
     EXPECT_NE(contentsOf(host.folder() / "long.csv").find("," + std::string(255, 'x') + ",point,"), std::string::npos);
+}
+
+TEST_F(LightTable, IsAsWideAsItsTerminal) {
+    LightFacts light;
+    light.name = ZrString(100, L'x');
+    LightTables tables(lux, 200);
+
+    tables.add(light);
+    tables.print([] {});
+
+    EXPECT_TRUE(host.front().shows(light.name + L"  point"));
+    EXPECT_EQ(tables.lines(), 4); // a line in each table
+}
+
+TEST_F(LightTable, TellsLightsOfTheSameNameApartByTheirHandles) {
+    const ZrDbObjectId first = add(L"a");
+    const ZrDbObjectId second = add(L"a");
+
+    host.run({L"LIGHTTABLE", L""});
+
+    for (const ZrDbObjectId id : {first, second}) {
+        const ZrString handle = zrFormat(L"  %X      a     ", {id.handle().value()});
+        EXPECT_TRUE(host.front().shows(handle + L"point"));
+        EXPECT_TRUE(host.front().shows(handle + L"0.0000"));
+        EXPECT_TRUE(host.front().shows(handle + L"     1"));
+        EXPECT_TRUE(host.front().shows(handle + L"D65 white"));
+    }
+}
+
+TEST_F(LightTable, RoundsLengthsOnlyToThePrecisionOfTheDrawing) {
+    host.session().variables().set(L"LUPREC", std::int16_t{0});
+    add(L"a", [](ZrDbLight& light) {
+        light.setLightType(DrawableType::kSpotLight);
+        light.setHasTarget(false);
+        light.setPosition({0.4, 0, 0});
+        light.setTargetLocation({0.4, 3, -4});
+        light.setHotspotAndFalloff(0.5, 1);
+        light.setIntensity(0.2);
+        light.setPhysicalIntensity(0.4);
+    });
+
+    host.run({L"LIGHTTABLE", L""});
+
+    EXPECT_TRUE(host.front().shows(L"a     0 0 0        (0      0.6    -0.8)  28.64789° 57.29578°\n"));
+    EXPECT_TRUE(host.front().shows(L"a        0.2  0.4*  0.158959  400000        1\n"));
+}
+
+TEST_F(LightTable, MarksTheIntensityThatTheDrawingHolds) {
+    add(L"a", [](ZrDbLight& light) {
+        light.setPhysicalIntensityMethod(PhysicalIntensityMethod::kFlux);
+        light.setPhysicalIntensity(1200);
+        light.setIlluminanceDistance(1000);
+    });
+
+    host.run({L"LIGHTTABLE", L""});
+
+    EXPECT_TRUE(host.front().shows(L"a          1  95.493  1200*  95.493 1000.0000\n"));
+}
+
+TEST_F(LightTable, TakesTheNameOfTheDrawingForAnExtensionAlone) {
+    add(L"a");
+
+    host.run({L"-LIGHTTABLE", L"J", (host.folder() / ".JSON").wstring(), L""});
+
+    EXPECT_TRUE(std::filesystem::exists(host.folder() / "Drawing1.JSON"));
+}
+
+TEST_F(LightTable, SaysThatAFileHasTheExtensionOfAnotherFormat) {
+    add(L"a");
+    const std::filesystem::path file = host.folder() / "b.csv";
+
+    host.run({L"-LIGHTTABLE", L"J", file.wstring(), L""});
+
+    EXPECT_TRUE(host.front().shows(L"Note: " + file.wstring() + L" gets JSON, unlike what its extension says."));
+    EXPECT_TRUE(contentsOf(file).starts_with("{"));
+}
+
+TEST_F(LightTable, TellsOfAPlaceThatCannotBeWrittenBeforeItAsksForLights) {
+    add(L"a");
+    std::filesystem::create_symlink("loop.csv", host.folder() / "loop.csv");
+
+    const ed::Verdict verdict = host.run({L"-LIGHTTABLE", L"C", (host.folder() / "loop.csv").wstring()});
+
+    EXPECT_EQ(verdict.kind, ed::Verdict::Kind::Failed);
+    EXPECT_FALSE(host.front().shows(L"Select lights"));
 }
 
 TEST_F(LightTable, ShowsADashForAnIlluminanceThatThereIsNot) {
@@ -99,8 +190,8 @@ TEST_F(LightTable, ShowsADashForAnIlluminanceThatThereIsNot) {
 
     host.run({L"LIGHTTABLE", L""});
 
-    EXPECT_TRUE(host.front().shows(L"  a     1.0000  1500.0000  18849.5559                -\n"));
-    EXPECT_TRUE(host.front().shows(L"  b     1.0000  1500.0000  18849.5559  1500000000.0000\n"));
+    EXPECT_TRUE(host.front().shows(L"  a          1  1500*  18849.6        -   0.0000\n"));
+    EXPECT_TRUE(host.front().shows(L"  b          1  1500*  18849.6  1.5e+09   1.0000\n"));
 }
 
 TEST_F(LightTable, LeavesOutAColumnThatIsEmptyForEveryLight) {
@@ -108,7 +199,7 @@ TEST_F(LightTable, LeavesOutAColumnThatIsEmptyForEveryLight) {
 
     host.run({L"LIGHTTABLE", L""});
 
-    EXPECT_TRUE(host.front().shows(L"  Name  Factor         cd          lm\n"));
+    EXPECT_TRUE(host.front().shows(L"  Handle  Name  Factor     cd       lm Distance\n"));
 }
 
 TEST_F(LightTable, TellsOfEachShapeTheSizesThatItHas) {
@@ -148,7 +239,7 @@ TEST_F(LightTable, ShowsTheFileOfAWebWithoutItsFolder) {
 
     host.run({L"LIGHTTABLE", L""});
 
-    EXPECT_TRUE(host.front().shows(L"  Name  Kind      Status  Layer  Web file\n"));
+    EXPECT_TRUE(host.front().shows(L"  Handle  Name  Kind      Status  Layer  Web file\n"));
     EXPECT_TRUE(host.front().shows(L"  a     free web  on      0      lamp.ies\n"));
 }
 
