@@ -109,7 +109,8 @@ ZrString TextTable::line(const Block& block, const std::vector<ZrString>& texts)
     auto text = texts.begin();
     for (const Place& place : block) {
         const Column& column = columns_[place.column];
-        const ZrString shown = cutToColumns(*text++, place.width);
+        const ZrString shown = place.width < column.width ? cutToColumns(*text, place.width) : *text;
+        ++text;
         const auto blanks = static_cast<std::size_t>(place.width - columnsOf(shown));
         result.append(static_cast<std::size_t>(column.gap) + (column.align == Align::Right ? blanks : 0), L' ');
         result += shown;
