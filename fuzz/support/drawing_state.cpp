@@ -11,6 +11,8 @@ namespace quor::fuzz {
 
 namespace {
 
+// Before this version a drawing has no dictionaries: its lighting units last for the session.
+constexpr std::wstring_view kFirstWithDictionaries = L"AC1012";
 // Before this version a drawing has no place for the names of colours.
 constexpr const wchar_t* kFirstWithColorNames = L"AC1018";
 
@@ -122,7 +124,8 @@ std::string shown(const Fact& fact) { return fact.what + " " + toUtf8(fact.text)
 DrawingState stateOf(db::Database& drawing) {
     Notes notes(drawing);
     notes.text("version", drawing.version());
-    notes.text("lighting units", drawing.dictionaryVariable(L"LIGHTINGUNITS").value_or(L"none"));
+    if (drawing.version() >= kFirstWithDictionaries)
+        notes.text("lighting units", drawing.dictionaryVariable(L"LIGHTINGUNITS").value_or(L"none"));
     notes.choice("model tab", drawing.isModelTab());
     notes.triple("origin", drawing.ucs().origin);
     notes.triple("x axis", drawing.ucs().xAxis);

@@ -8,7 +8,6 @@ namespace {
 using namespace drawings;
 using testing::Contains;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 struct Settings : testing::Test {
     std::unique_ptr<Database> database = Database::makeNew();
