@@ -8,8 +8,8 @@ namespace quor::texts {
 // Questions.
 inline constexpr Text kAskLights{L"\n选择光源 <全部>: ", L"\nSelect lights <all>: "};
 inline constexpr Text kAskTableFormat{L"\n输入格式 [表格(T)/CSV(C)/JSON(J)] <CSV>: ",
-                                      L"\nFormat [Table/Csv/Json] <Csv>: "};
-inline constexpr Text kAskTableFile{L"\n输入文件名 <%s>: ", L"\nFile name <%s>: "};
+                                      L"\nEnter format [Table/Csv/Json] <Csv>: "};
+inline constexpr Text kAskTableFile{L"\n输入文件名 <%s>: ", L"\nEnter file name <%s>: "};
 
 // The tables.
 inline constexpr Text kTableWhat{L"光源", L"Lights"};

@@ -78,7 +78,7 @@ inline constexpr Text kByKelvin{L"按色温", L"by temperature"};
 
 inline constexpr Text kKindDistant{L"平行光", L"distant light"};
 inline constexpr Text kKindPoint{L"点光源", L"point light"};
-inline constexpr Text kKindSpot{L"聚光灯", L"spot light"};
+inline constexpr Text kKindSpot{L"聚光灯", L"spotlight"};
 inline constexpr Text kKindWeb{L"光域灯光", L"web light"};
 
 inline constexpr Text kAttenuations[] = {
