@@ -2,8 +2,8 @@
 #pragma once
 
 #include "bench/support/drawing_maker.h"
-#include "bench/support/silent_front_end.h"
 #include "host/session.h"
+#include "tests/support/silent_front_end.h"
 
 #include <string>
 
@@ -28,7 +28,7 @@ private:
     [[nodiscard]] bool prepare();
 
     ScratchFolder folder_;
-    SilentFrontEnd front_;
+    test::SilentFrontEnd front_;
     Session session_;
 };
 

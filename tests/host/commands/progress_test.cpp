@@ -1,5 +1,7 @@
 #include "host/commands/progress.h"
 
+#include "tests/support/silent_front_end.h"
+
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -9,26 +11,15 @@ namespace quor::commands {
 
 namespace {
 
-// Nobody is there to ask.
-class NobodysFrontEnd : public FrontEnd {
-public:
-    void print(std::wstring_view) override {}
-    Answer ask(const Question&) override { return {}; }
-    void echo(const Question&, std::wstring_view) override {}
-    Answer drag(const Question&, const std::function<void(const ZrGePoint3d&)>&) override { return {}; }
-    TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog&) override { return {}; }
-    FileAnswer chooseFile(const FileQuestion&) override { return {}; }
-};
-
 // Keeps what it is told.
-class Teller : public NobodysFrontEnd {
+class Teller : public test::SilentFrontEnd {
 public:
     void progress(std::wstring_view, double fraction) override { told.push_back(fraction); }
 
     std::vector<double> told;
 };
 
-class BrokenFrontEnd : public NobodysFrontEnd {
+class BrokenFrontEnd : public test::SilentFrontEnd {
 public:
     void progress(std::wstring_view, double) override { throw std::runtime_error("the display is gone"); }
 };

@@ -2,6 +2,7 @@
 
 #include "sdk/db/database.h"
 #include "sdk/rx/result_codes.h"
+#include "tests/light/commands/opened_command.h"
 #include "tests/light/lightcmd/translated_session.h"
 
 #include <functional>
@@ -13,99 +14,23 @@ constexpr const wchar_t* fromPrompt = L"\n指定光源来向 <0,0,0> 或 [矢量
 constexpr const wchar_t* toPrompt = L"\n指定光源去向 <1,1,1>: ";
 constexpr const wchar_t* vectorPrompt = L"\n指定矢量方向 <0.0000,-0.0100,1.0000>: ";
 
-// Either the command as it is, or, with a step, its light with that step in place of its option loop. Its light begins
-// as one of another kind.
-class DistantCommand : public CZrDistantLightCmd {
+class DistantCommand : public test::OpenedCommand<CZrDistantLightCmd> {
 public:
     using CZrDistantLightCmd::m_physicalIntensity;
-    using CZrDistantLightCmd::m_pLight;
     using CZrDistantLightCmd::promptDistantDirection;
     using CZrDistantLightCmd::promptPhotometricIntensity;
-
-    std::function<void()> step;
-    ZrDbObjectId made; // the light of the last run
-
-    [[nodiscard]] const wchar_t* kindWord() const { return m_kindWord; }
-    [[nodiscard]] ZrString namePrefix() {
-        ZrString prefix = L"another";
-        return defaultNamePrefix(prefix);
-    }
-    void loseLight() {
-        m_pLight->close();
-        m_pLight = nullptr;
-    }
-    // From here on the light refuses every change.
-    void reopenForRead() {
-        m_pLight->close();
-        ASSERT_EQ(zrdbOpenObject(m_pLight, made, ZrDb::kForRead), Quor::eOk);
-    }
-
-protected:
-    bool placeLight() override {
-        m_pLight->setLightType(DrawableType::kWebLight);
-        m_pLight->setHasTarget(false);
-        return CZrDistantLightCmd::placeLight();
-    }
-    int optionLoop() override {
-        made = m_pLight->objectId();
-        if (!step)
-            return CZrDistantLightCmd::optionLoop();
-        step();
-        return RTNORM;
-    }
 };
 
-class DistantLightTest : public testing::Test {
+class DistantLightTest : public test::OpenedCommandTest<DistantCommand> {
 protected:
-    DistantLightTest() {
-        session_.addCommand(L"DISTANT", [this] { return command_.execute(); });
-        session_.addCommand(
-            L"LOSE", [this] { return command_.loseLight(), RTNORM; }, ed::kTransparent);
-        zwutads::setVar(L"DEFAULTLIGHTING", 0);
-        zwutads::SetValueFromReg(L"allowParallelLightDialog", 1);
-    }
+    DistantLightTest() { zwutads::SetValueFromReg(L"allowParallelLightDialog", 1); }
 
-    int run(std::initializer_list<ZrString> lines) {
-        front().type(lines);
-        return session_.session().processor().run(L"DISTANT", false).result;
-    }
-    // The same with input that breaks behind the lines.
-    int runToBreak(std::initializer_list<ZrString> lines) {
-        front().type(lines);
-        front().breakInput();
-        return run({});
-    }
-    // What the prompt answers in place of the option loop when these lines are typed.
-    int answerOf(int (DistantCommand::*prompt)(), std::initializer_list<ZrString> lines) {
-        int answer = 0;
-        command_.step = [&] {
-            if (before)
-                before();
-            front().type(lines);
-            answer = (command_.*prompt)();
-        };
-        EXPECT_EQ(run({L"0,0,0", L"0,0,-1"}), RTNORM);
-        return answer;
-    }
     int direction(std::initializer_list<ZrString> lines) {
-        return answerOf(&DistantCommand::promptDistantDirection, lines);
+        return answerOf(&DistantCommand::promptDistantDirection, lines, {L"0,0,0", L"0,0,-1"});
     }
     int candela(std::initializer_list<ZrString> lines) {
-        return answerOf(&DistantCommand::promptPhotometricIntensity, lines);
+        return answerOf(&DistantCommand::promptPhotometricIntensity, lines, {L"0,0,0", L"0,0,-1"});
     }
-
-    [[nodiscard]] test::ScriptedFrontEnd& front() { return session_.front(); }
-    [[nodiscard]] const ZrString& lastQuestion() { return front().asked().back(); }
-    // The light of the last run.
-    [[nodiscard]] ZrDbObjectPointer<ZrDbLight> light() const { return {command_.made, ZrDb::kForRead}; }
-    static std::size_t lightCount() {
-        const ZrDbObjectPointer<ZrDbBlockTableRecord> space(zrdbWorkingDatabase()->currentSpaceId(), ZrDb::kForRead);
-        return space->entityCount(ZrDbLight::desc());
-    }
-
-    test::TestSession session_;
-    DistantCommand command_;
-    std::function<void()> before; // what happens to the light before the prompt
 };
 
 TEST_F(DistantLightTest, ItsTypeWordIsInSmallLetters) { EXPECT_STREQ(command_.typeName(), L"distantlightCmd"); }

@@ -1,11 +1,14 @@
 #include "light/commands/free_web.h"
 
-#include "tests/light/commands/web_command.h"
+#include "tests/light/commands/opened_command.h"
 
 namespace quor {
 namespace {
 
-class FreeWebTest : public test::WebCommandTest<CZrFreeWebCmd> {};
+class FreeWebTest : public test::OpenedCommandTest<test::OpenedCommand<CZrFreeWebCmd>> {
+protected:
+    FreeWebTest() { command_.beginsAs = DrawableType::kSpotLight; }
+};
 
 TEST_F(FreeWebTest, ItsTypeWordIsInCapitals) { EXPECT_STREQ(command_.typeName(), L"FREEWEBCMD"); }
 

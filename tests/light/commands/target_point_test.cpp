@@ -1,60 +1,13 @@
 #include "light/commands/target_point.h"
 
-#include "sdk/db/database.h"
-#include "sdk/rx/result_codes.h"
-#include "sdk/sys/ads.h"
-#include "tests/support/test_session.h"
-
-#include <gtest/gtest.h>
+#include "tests/light/commands/opened_command.h"
 
 namespace quor {
 namespace {
 
-// TargetPoint that begins with a light of another kind.
-class OpenTargetPoint : public CZrTargetPointCmd {
-public:
-    ZrDbObjectId made; // the light of the last run
-
-    [[nodiscard]] const wchar_t* kindWord() const { return m_kindWord; }
-    void loseLight() {
-        m_pLight->close();
-        m_pLight = nullptr;
-    }
-
+class TargetPointTest : public test::OpenedCommandTest<test::OpenedCommand<CZrTargetPointCmd>> {
 protected:
-    bool placeLight() override {
-        m_pLight->setLightType(DrawableType::kSpotLight);
-        m_pLight->setHasTarget(false);
-        return CZrTargetPointCmd::placeLight();
-    }
-    int optionLoop() override {
-        made = m_pLight->objectId();
-        return CZrTargetPointCmd::optionLoop();
-    }
-};
-
-class TargetPointTest : public testing::Test {
-protected:
-    TargetPointTest() {
-        session_.addCommand(L"TARGET", [this] { return command_.execute(); });
-        session_.addCommand(
-            L"LOSE", [this] { return command_.loseLight(), RTNORM; }, ed::kTransparent);
-        zwutads::setVar(L"DEFAULTLIGHTING", 0);
-    }
-
-    // Runs the command with these lines behind its two points.
-    int run(std::initializer_list<ZrString> lines) {
-        front().type({L"1,2,3", L"4,5,6"});
-        front().type(lines);
-        return runOnTyped();
-    }
-    int runOnTyped() { return session_.session().processor().run(L"TARGET", false).result; }
-    [[nodiscard]] test::ScriptedFrontEnd& front() { return session_.front(); }
-    // The light of the last run.
-    [[nodiscard]] ZrDbObjectPointer<ZrDbLight> light() const { return {command_.made, ZrDb::kForRead}; }
-
-    test::TestSession session_;
-    OpenTargetPoint command_;
+    TargetPointTest() : OpenedCommandTest({L"1,2,3", L"4,5,6"}) { command_.beginsAs = DrawableType::kSpotLight; }
 };
 
 TEST_F(TargetPointTest, ItsTypeWordIsInMixedCase) { EXPECT_STREQ(command_.typeName(), L"TargetPointCmd"); }
@@ -83,10 +36,7 @@ TEST_F(TargetPointTest, OptionsAreAskedWithoutALightToo) {
 }
 
 TEST_F(TargetPointTest, InputThatBreaksAtTheOptionsThrowsTheLightAway) {
-    front().type({L"1,2,3", L"4,5,6", L"H"});
-    front().breakInput();
-
-    EXPECT_EQ(runOnTyped(), RTCAN);
+    EXPECT_EQ(runToBreak({L"H"}), RTCAN);
 
     EXPECT_FALSE(light());
 }

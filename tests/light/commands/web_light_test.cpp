@@ -1,11 +1,14 @@
 #include "light/commands/web_light.h"
 
-#include "tests/light/commands/web_command.h"
+#include "tests/light/commands/opened_command.h"
 
 namespace quor {
 namespace {
 
-class WebLightTest : public test::WebCommandTest<CZrWebLightCmd> {};
+class WebLightTest : public test::OpenedCommandTest<test::OpenedCommand<CZrWebLightCmd>> {
+protected:
+    WebLightTest() { command_.beginsAs = DrawableType::kSpotLight; }
+};
 
 TEST_F(WebLightTest, ItsTypeWordIsInCapitals) { EXPECT_STREQ(command_.typeName(), L"WEBLIGHTCMD"); }
 

@@ -1,11 +1,11 @@
-// A front end that shows nothing and has no person behind it: what is left is the host's own cost.
+// A front end that shows nothing and has no person behind it.
 #pragma once
 
 #include "host/front.h"
 
-namespace quor::bench {
+namespace quor::test {
 
-class SilentFrontEnd final : public FrontEnd {
+class SilentFrontEnd : public FrontEnd {
 public:
     void print(std::wstring_view) override {}
     Answer ask(const Question&) override { return {}; }
@@ -15,4 +15,4 @@ public:
     FileAnswer chooseFile(const FileQuestion&) override { return {}; }
 };
 
-} // namespace quor::bench
+} // namespace quor::test
