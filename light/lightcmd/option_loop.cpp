@@ -26,18 +26,19 @@ const LightOption* findOption(const OptionLoop& loop, const ZrString& keyword) {
 
 enum class Next { Ask, Leave, End };
 
-Next nextWithoutLight(WithoutLight rule, bool isExit) {
+// What follows a keyword when the light is gone; `usual` is what would follow it otherwise.
+Next nextWithoutLight(WithoutLight rule, Next usual) {
     switch (rule) {
     case WithoutLight::EndsAtOnce:
         return Next::End;
     case WithoutLight::EndsButForExit:
-        return isExit ? Next::Leave : Next::End;
+        return usual == Next::Leave ? Next::Leave : Next::End;
     case WithoutLight::LeavesTheLoop:
         return Next::Leave;
     case WithoutLight::IsIgnored:
         break;
     }
-    return isExit ? Next::Leave : Next::Ask;
+    return usual;
 }
 
 } // namespace
@@ -73,8 +74,8 @@ int CZrMultiLight::runOptionLoop(const OptionLoop& loop) {
             break;
         if (result != RTNORM)
             continue;
-        const bool isExit = quor::equalFolded(keyword, L"eXit");
-        const Next next = nextWithoutLight(m_pLight != nullptr ? WithoutLight::IsIgnored : loop.withoutLight, isExit);
+        const Next usual = quor::equalFolded(keyword, L"eXit") ? Next::Leave : Next::Ask;
+        const Next next = m_pLight != nullptr ? usual : nextWithoutLight(loop.withoutLight, usual);
         if (next == Next::End)
             return RTNORM;
         if (next == Next::Leave)
