@@ -34,7 +34,7 @@ constexpr PlaceTexts kPlaceOfATable{.isFolder = texts::kTableIsFolder,
 
 void sayOthers(const LightSelection& selection) {
     if (selection.others > 0)
-        say(texts::kTableOthers, selection.others);
+        say(selection.others == 1 ? texts::kTableOneOther : texts::kTableOthers, selection.others);
 }
 
 void sayNoLights(const LightSelection& selection) {
@@ -134,10 +134,11 @@ int write(Session& session, const LightSelection& selection, const LightFileForm
     const auto written = writeLightFile(session, selection, format, path);
     if (!written)
         return failToSave(written.error(), path);
-    sayShown(texts::kTableWritten, written.value().count, textOf(path));
+    sayShown(written.value().count == 1 ? texts::kTableOneWritten : texts::kTableWritten, written.value().count,
+             textOf(path));
     sayOthers(selection);
     if (format.isForSpreadsheets && written.value().formulas > 0)
-        say(texts::kTableFormulas, written.value().formulas);
+        say(written.value().formulas == 1 ? texts::kTableOneFormula : texts::kTableFormulas, written.value().formulas);
     return RTNORM;
 }
 

@@ -43,6 +43,8 @@ inline constexpr Text kTableKindCount{L"%s %d", L"%s %d"};
 inline constexpr Text kTableComma{L"，", L", "};
 inline constexpr Text kTableOthers{L"\n未列出 %d 个不是光源的对象。\n",
                                    L"\n%d objects that are not lights were not listed.\n"};
+inline constexpr Text kTableOneOther{L"\n未列出 %d 个不是光源的对象。\n",
+                                     L"\n%d object that is not a light was not listed.\n"};
 inline constexpr Text kTableNoLights{L"\n图形中没有光源。\n", L"\nThere are no lights in the drawing.\n"};
 inline constexpr Text kTableNoneSelected{L"\n所选对象中没有光源。\n",
                                          L"\nThere are no lights among the selected objects.\n"};
@@ -54,9 +56,13 @@ inline constexpr Text kTableWriting{L"正在写入 %s", L"Writing %s"};
 
 // Files.
 inline constexpr Text kTableWritten{L"\n已将 %d 个光源写入 %s。\n", L"\n%d lights written to %s.\n"};
+inline constexpr Text kTableOneWritten{L"\n已将 %d 个光源写入 %s。\n", L"\n%d light written to %s.\n"};
 inline constexpr Text kTableFormulas{
     L"\n%d 个光源含有电子表格会当作公式的文字。用电子表格打开时，请将各列作为文本导入。\n",
     L"\n%d lights have text that a spreadsheet would take for a formula. Import the columns as text.\n"};
+inline constexpr Text kTableOneFormula{
+    L"\n%d 个光源含有电子表格会当作公式的文字。用电子表格打开时，请将各列作为文本导入。\n",
+    L"\n%d light has text that a spreadsheet would take for a formula. Import the columns as text.\n"};
 inline constexpr Text kTableNotWritten{L"\n未写入 %s。\n", L"\nNothing was written to %s.\n"};
 inline constexpr Text kTableIsFolder{L"\n%s 是文件夹。请给出其中文件的名称。\n",
                                      L"\n%s is a folder. Give the name of a file in it.\n"};
