@@ -4,9 +4,15 @@
 #include "host/session.h"
 #include "sdk/rx/result_codes.h"
 
-int zredMenuMacro(const wchar_t* macro) {
+namespace {
+
+constexpr const wchar_t* kCancel = L"^C^C";
+
+} // namespace
+
+int zredMenuMacro(const wchar_t* macro, bool cancelFirst, bool /*focusToDrawing*/) {
     if (macro == nullptr || !quor::Session::exists())
         return RTERROR;
-    quor::Session::current().input().queueMacro(macro);
+    quor::Session::current().input().queueMacro(cancelFirst ? ZrString(kCancel) + macro : ZrString(macro));
     return RTNORM;
 }
