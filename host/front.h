@@ -4,12 +4,16 @@
 
 #include "sdk/ge/point3d.h"
 #include "sdk/sys/string.h"
+#include "sdk/ui/geometry.h"
 
 #include <functional>
 #include <optional>
 #include <span>
 #include <vector>
 
+class CMenu;
+class CWnd;
+class CZkUiPaletteSet;
 class CZrUiTaskDialog;
 
 namespace quor {
@@ -83,6 +87,12 @@ public:
     virtual Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) = 0;
     virtual TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) = 0;
     virtual FileAnswer chooseFile(const FileQuestion& question) = 0;
+    // A window at the top was made: a program with a screen attaches its peers here.
+    virtual void realise(CWnd& /*window*/) {}
+    // A palette was brought to view by the command that has just ended, or in between: what it shows is up to date.
+    virtual void paletteShown(const CZkUiPaletteSet& /*palette*/) {}
+    // Shows a menu at a point of the screen and waits: the command that was chosen, or 0.
+    virtual unsigned trackMenu(const CMenu& /*menu*/, CPoint /*screen*/) { return 0; }
     // Something that is shown has changed.
     virtual void redraw() {}
     // How far something long has come, 0 to 1; 1 takes the display away.

@@ -15,8 +15,12 @@ public:
     virtual bool unregisterVariable(const wchar_t* name) = 0;
 };
 
+class ZwUiService;
+
 class CZwSystem {
 public:
     static CZwSystem& instance();
     [[nodiscard]] ZwSystemVariableService& systemVariables() const;
+    // Theme colours, and what palettes need (sdk/ui/ui_service.h).
+    [[nodiscard]] ZwUiService& ui() const;
 };

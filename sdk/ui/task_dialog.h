@@ -2,11 +2,9 @@
 #pragma once
 
 #include "sdk/sys/string.h"
+#include "sdk/ui/dpi.h"
 
 #include <vector>
-
-// A length of the user interface, given for 96 dots per inch, in pixels of the screen in use.
-[[nodiscard]] int ZkUiGetCtrlDPISize(int size);
 
 // Option bits of SetOptions and bits of SetCommonButtons.
 inline constexpr int kTaskDialogEnableHyperlinks = 1;

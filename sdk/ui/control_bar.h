@@ -1,0 +1,39 @@
+// Bars of the main frame, docked or floating.
+#pragma once
+
+#include "sdk/ui/window.h"
+
+// A window that the main frame shows and hides.
+class CControlBar : public CWnd {
+public:
+    // Whether it is shown, as far as it is up to the bar.
+    [[nodiscard]] virtual bool IsVisible() const { return IsWindow() && isShown(); }
+
+protected:
+    friend class CZrMainFrame;
+    // Makes its window, hidden, when it is shown for the first time.
+    virtual bool createWindow(CWnd& frame) = 0;
+    // Its visibility has really changed.
+    virtual void visibilityChanged(bool /*shown*/) {}
+};
+
+// A bar that can be docked. Without a toolkit it floats.
+class CZkUiDockControlBar : public CControlBar {
+public:
+    // Where it floats at first, on the screen, in its pixels.
+    void SetInitialFloatingRect(const CRect& rect) { floating_ = rect; }
+    [[nodiscard]] const CRect& GetFloatingRect() const { return floating_; }
+    // The person, or the program that shows it, has moved or sized it; it is laid out anew.
+    void SetFloatingRect(const CRect& rect);
+    // Width and height below which it cannot be made.
+    virtual void GetMinSize(CSize& size) const { size = {}; }
+
+protected:
+    // Lays out what is inside; called when the frame recalculates its layout and when the size has changed.
+    virtual void layOut(const CRect& /*client*/) {}
+    void OnSize(int width, int height) override;
+
+private:
+    friend class CZrMainFrame;
+    CRect floating_;
+};
