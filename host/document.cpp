@@ -23,15 +23,6 @@ void drop(std::vector<Listener*>& listeners, Listener* listener) {
     listeners.erase(std::remove(listeners.begin(), listeners.end(), listener), listeners.end());
 }
 
-// A listener may take itself or others off while it is told.
-template <class Listener, class Tell>
-void tellAll(const std::vector<Listener*>& listeners, Tell&& tell) {
-    const std::vector<Listener*> copy(listeners.begin(), listeners.end());
-    for (Listener* listener : copy)
-        if (std::find(listeners.begin(), listeners.end(), listener) != listeners.end())
-            tell(*listener);
-}
-
 } // namespace
 
 Document::Document(std::unique_ptr<db::Database> database, std::filesystem::path path, ZrString name)
@@ -72,31 +63,49 @@ Document& DocumentManager::adopt(std::unique_ptr<db::Database> database, const s
     return add(std::make_unique<Document>(std::move(database), path, fromUtf8(path.string())));
 }
 
+void DocumentManager::tell(const std::function<void(ZrApDocumentReactor&)>& message) const {
+    const std::vector<ZrApDocumentReactor*> listeners = reactors_;
+    for (ZrApDocumentReactor* listener : listeners)
+        if (std::find(reactors_.begin(), reactors_.end(), listener) != reactors_.end())
+            message(*listener);
+}
+
+void DocumentManager::sayDeactivated() const {
+    if (Document* const document = current_)
+        tell([&](ZrApDocumentReactor& listener) { listener.documentToBeDeactivated(*document); });
+}
+
 Document& DocumentManager::add(std::unique_ptr<Document> document) {
+    sayDeactivated();
     Document& added = *documents_.emplace_back(std::move(document));
     // Code that is told of it finds it as the working drawing.
     current_ = &added;
-    tellAll(reactors_, [&](ZrApDocumentReactor& listener) { listener.documentCreated(added); });
-    tellAll(reactors_, [&](ZrApDocumentReactor& listener) { listener.documentBecameCurrent(&added); });
+    tell([&](ZrApDocumentReactor& listener) { listener.documentCreated(added); });
+    tell([&](ZrApDocumentReactor& listener) { listener.documentBecameCurrent(&added); });
     return added;
 }
 
 void DocumentManager::setCurrent(Document* document) {
     if (document == current_)
         return;
+    sayDeactivated();
     current_ = document;
-    tellAll(reactors_, [&](ZrApDocumentReactor& listener) { listener.documentBecameCurrent(document); });
+    tell([&](ZrApDocumentReactor& listener) { listener.documentBecameCurrent(document); });
 }
 
 void DocumentManager::close(Document& document) {
+    if (current_ == &document)
+        sayDeactivated();
+    tell([&](ZrApDocumentReactor& listener) { listener.documentToBeDestroyed(document); });
     const auto at =
         std::find_if(documents_.begin(), documents_.end(), [&](const auto& known) { return known.get() == &document; });
     assert(at != documents_.end());
-    tellAll(reactors_, [&](ZrApDocumentReactor& listener) { listener.documentToBeDestroyed(document); });
     const std::unique_ptr<Document> closed = std::move(*at);
     documents_.erase(at);
-    if (current_ == closed.get())
-        setCurrent(documents_.empty() ? nullptr : documents_.back().get());
+    if (current_ != closed.get())
+        return;
+    current_ = documents_.empty() ? nullptr : documents_.back().get();
+    tell([&](ZrApDocumentReactor& listener) { listener.documentBecameCurrent(current_); });
 }
 
 ZrApDocument* DocumentManager::curDocument() const { return current_; }

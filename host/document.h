@@ -6,6 +6,7 @@
 #include "sdk/ed/selection.h"
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -64,6 +65,8 @@ public:
     [[nodiscard]] bool hasUnsavedChanges() const;
     [[nodiscard]] const std::vector<ZrApDocumentReactor*>& reactors() const { return reactors_; }
     [[nodiscard]] const std::vector<ZrEdSelectionReactor*>& selectionReactors() const { return selectionReactors_; }
+    // Tells every document listener; one that is taken off on the way is not told any more.
+    void tell(const std::function<void(ZrApDocumentReactor&)>& message) const;
     void addSelectionReactor(ZrEdSelectionReactor* reactor);
     void removeSelectionReactor(ZrEdSelectionReactor* reactor);
 
@@ -76,6 +79,7 @@ public:
 
 private:
     Document& add(std::unique_ptr<Document> document);
+    void sayDeactivated() const;
     [[nodiscard]] Document* own(const ZrApDocument& document) const;
 
     std::vector<std::unique_ptr<Document>> documents_;

@@ -8,6 +8,8 @@
 #include "host/ed/command_processor.h"
 #include "host/ed/input_stack.h"
 #include "host/ed/input_state.h"
+#include "host/ed/modeless_operation.h"
+#include "host/ed/selection_sets.h"
 #include "host/ed/support_files.h"
 #include "host/rx/module_loader.h"
 #include "host/sys/language_choice.h"
@@ -80,6 +82,8 @@ Session::Session(FrontEnd& front, SessionOptions options) : front_(front) {
     documents_ = std::make_unique<DocumentManager>();
     input_ = std::make_unique<ed::InputStack>(front_);
     inputState_ = std::make_unique<ed::InputState>();
+    selectionSets_ = std::make_unique<ed::SelectionSets>(*documents_);
+    modelessOperation_ = std::make_unique<ed::ModelessOperation>(*documents_);
     commands_ = std::make_unique<ed::CommandTable>();
     processor_ = std::make_unique<ed::CommandProcessor>(*this);
     modules_ = std::make_unique<rx::ModuleLoader>(*this);
@@ -95,6 +99,8 @@ Session::~Session() {
     db::setWebFinder(nullptr);
     processor_.reset();
     commands_.reset();
+    modelessOperation_.reset();
+    selectionSets_.reset();
     inputState_.reset();
     input_.reset();
     documents_.reset();

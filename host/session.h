@@ -15,6 +15,8 @@ class CommandTable;
 class CommandProcessor;
 class InputStack;
 struct InputState;
+class ModelessOperation;
+class SelectionSets;
 } // namespace ed
 namespace sys {
 class SystemVariables;
@@ -50,6 +52,8 @@ public:
     [[nodiscard]] ed::CommandTable& commands() { return *commands_; }
     [[nodiscard]] ed::InputStack& input() { return *input_; }
     [[nodiscard]] ed::InputState& inputState() { return *inputState_; }
+    [[nodiscard]] ed::SelectionSets& selectionSets() { return *selectionSets_; }
+    [[nodiscard]] ed::ModelessOperation& modelessOperation() { return *modelessOperation_; }
     [[nodiscard]] ed::CommandProcessor& processor() { return *processor_; }
     [[nodiscard]] sys::SystemVariables& variables() { return *variables_; }
     [[nodiscard]] sys::ResourceLibrary& resources() { return *resources_; }
@@ -67,6 +71,8 @@ private:
     std::unique_ptr<DocumentManager> documents_;
     std::unique_ptr<ed::InputStack> input_;
     std::unique_ptr<ed::InputState> inputState_;
+    std::unique_ptr<ed::SelectionSets> selectionSets_;
+    std::unique_ptr<ed::ModelessOperation> modelessOperation_;
     std::unique_ptr<ed::CommandTable> commands_;
     std::unique_ptr<ed::CommandProcessor> processor_;
     std::unique_ptr<rx::ModuleLoader> modules_;

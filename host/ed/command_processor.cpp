@@ -20,17 +20,6 @@ namespace {
 
 constexpr const wchar_t* kSetVariable = L"SETVAR";
 
-// Tells every document listener; one that is taken off on the way is not told any more.
-template <class Tell>
-void tellDocumentReactors(Session& session, Tell&& tell) {
-    const std::vector<ZrApDocumentReactor*> listeners = session.documents().reactors();
-    for (ZrApDocumentReactor* listener : listeners) {
-        const auto& present = session.documents().reactors();
-        if (std::find(present.begin(), present.end(), listener) != present.end())
-            tell(*listener);
-    }
-}
-
 } // namespace
 
 std::optional<Verdict> CommandProcessor::step() {
@@ -156,7 +145,7 @@ Verdict CommandProcessor::runInner(const Command& command) {
 
 Verdict CommandProcessor::runOutermost(const Command& command) {
     const ZrString name = command.globalName; // the command may take itself off the table
-    tellDocumentReactors(session_, [&](ZrApDocumentReactor& listener) { listener.commandWillStart(name); });
+    session_.documents().tell([&](ZrApDocumentReactor& listener) { listener.commandWillStart(name); });
     Document* const document = session_.documents().current();
     const std::size_t selectionChanges = document != nullptr ? document->selectionChanges : 0;
     const bool grouped = document != nullptr && (command.flags & kNoUndo) == 0;
@@ -191,7 +180,7 @@ Verdict CommandProcessor::runOutermost(const Command& command) {
     Frame frame = std::move(frames_.back());
     frames_.pop_back();
     const Verdict verdict = judge(std::move(frame));
-    tellDocumentReactors(session_, [&](ZrApDocumentReactor& listener) {
+    session_.documents().tell([&](ZrApDocumentReactor& listener) {
         if (verdict.kind == Verdict::Kind::Done)
             listener.commandEnded(name);
         else

@@ -1,10 +1,10 @@
 #include "sdk/ed/selection.h"
 
 #include "host/document.h"
+#include "host/ed/id_set.h"
 #include "host/session.h"
 
 #include <algorithm>
-#include <unordered_set>
 
 namespace {
 
@@ -16,10 +16,12 @@ Document* currentDocument() { return Session::exists() ? Session::current().docu
 // What can be selected of it: each object of this drawing once, in order, without those that are erased.
 ZrDbObjectIdArray usable(const ZrDbObjectIdArray& ids, const Document& document) {
     ZrDbObjectIdArray result;
-    std::unordered_set<ZrDbObjectId> seen;
+    quor::ed::IdSet seen;
     result.reserve(ids.size());
+    seen.reserve(ids.size());
+    const ZrDbDatabase* const drawing = document.database();
     for (const ZrDbObjectId id : ids)
-        if (!id.isNull() && id.database() == document.database() && !id.isErased() && seen.insert(id).second)
+        if (!id.isNull() && id.database() == drawing && !id.isErased() && seen.insert(id))
             result.push_back(id);
     return result;
 }
@@ -28,7 +30,12 @@ ZrDbObjectIdArray usable(const ZrDbObjectIdArray& ids, const Document& document)
 
 ZrDbObjectIdArray zredImpliedSelection() {
     const Document* const document = currentDocument();
-    return document != nullptr ? usable(document->impliedSelection, *document) : ZrDbObjectIdArray();
+    if (document == nullptr)
+        return {};
+    // What was usable when it was selected may have been erased since.
+    ZrDbObjectIdArray selected = document->impliedSelection;
+    std::erase_if(selected, [](ZrDbObjectId id) { return id.isErased(); });
+    return selected;
 }
 
 void zredSetImpliedSelection(const ZrDbObjectIdArray& ids) {

@@ -26,10 +26,15 @@ public:
     virtual ~ZrApDocumentReactor() = default;
     virtual void documentCreated(ZrApDocument&) {}
     virtual void documentBecameCurrent(ZrApDocument*) {}
+    // Another document becomes current, or none; it still is while this is told. Of one that is closed: told first.
+    virtual void documentToBeDeactivated(ZrApDocument&) {}
     virtual void documentToBeDestroyed(ZrApDocument&) {}
     virtual void commandWillStart(const ZrString& /*globalName*/) {}
     virtual void commandEnded(const ZrString& /*globalName*/) {}
     virtual void commandCancelled(const ZrString& /*globalName*/) {}
+    // The outermost of the operations of sdk/ed/modeless_operation.h.
+    virtual void modelessOperationWillStart(const ZrString& /*name*/) {}
+    virtual void modelessOperationEnded(const ZrString& /*name*/) {}
 };
 
 class ZrApDocManager {

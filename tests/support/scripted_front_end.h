@@ -39,6 +39,8 @@ public:
     [[nodiscard]] const std::optional<CZrUiTaskDialog>& lastDialog() const { return lastDialog_; }
     // The file that was to be chosen last, as it was asked for.
     [[nodiscard]] const std::optional<FileQuestion>& lastFileQuestion() const { return lastFileQuestion_; }
+    // How often something that is shown had changed.
+    [[nodiscard]] int redraws() const { return redraws_; }
     [[nodiscard]] std::size_t linesLeft() const { return lines_.size(); }
 
     void print(std::wstring_view text) override;
@@ -47,6 +49,7 @@ public:
     Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) override;
     TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) override;
     FileAnswer chooseFile(const FileQuestion& question) override;
+    void redraw() override { ++redraws_; }
 
 private:
     struct Break {};
@@ -70,6 +73,7 @@ private:
     std::vector<ZrString> lastKeywords_;
     std::optional<ZrGePoint3d> lastBase_;
     std::vector<ZrGePoint3d> samples_;
+    int redraws_ = 0;
 };
 
 } // namespace quor::test

@@ -211,6 +211,24 @@ TEST_F(Processor, QueuedMacrosRunInTheirOrder) {
     EXPECT_EQ(order, (std::vector<ZrString>{L"A", L"B"}));
 }
 
+TEST_F(Processor, MacroLeavesWhatWasTypedAheadToTheNextQuestions) {
+    test_.session().input().typeAhead(L"ASK 5");
+    EXPECT_EQ(zredMenuMacro(L"WHO"), RTNORM);
+    test_.run({});
+    EXPECT_TRUE(calledByProgram_);
+    EXPECT_EQ(number_, 5);
+}
+
+TEST_F(Processor, MacroThatCancelsFirstDropsWhatWasTypedAhead) {
+    test_.session().input().typeAhead(L"ASK 5");
+    EXPECT_EQ(zredMenuMacro(L"WHO", true), RTNORM);
+    test_.run({});
+    EXPECT_TRUE(calledByProgram_);
+    EXPECT_EQ(number_, 0);
+}
+
+TEST_F(Processor, NoMacroIsRefused) { EXPECT_EQ(zredMenuMacro(nullptr, true, true), RTERROR); }
+
 TEST_F(Processor, PersonGoesOnWhereAMacroEnds) {
     zredMenuMacro(L"ASK");
     EXPECT_EQ(test_.run({L"8"}).kind, Verdict::Kind::Done);

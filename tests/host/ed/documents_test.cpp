@@ -15,6 +15,10 @@ public:
     void documentBecameCurrent(ZrApDocument* document) override {
         events.push_back(document != nullptr ? L"current " + document->fileName() : L"none current");
     }
+    void documentToBeDeactivated(ZrApDocument& document) override {
+        const bool isStillCurrent = zrapDocManager()->curDocument() == &document;
+        events.push_back((isStillCurrent ? L"leaving " : L"left ") + document.fileName());
+    }
     void documentToBeDestroyed(ZrApDocument& document) override { events.push_back(L"closing " + document.fileName()); }
     std::vector<ZrString> events;
 };
@@ -45,8 +49,37 @@ TEST_F(Documents, ListenersHearOfEachInOrder) {
     manager().close(second);
     manager().setCurrent(manager().current());
     manager().removeReactor(&listener);
-    EXPECT_EQ(listener.events, (std::vector<ZrString>{L"created Drawing2", L"current Drawing2", L"closing Drawing2",
-                                                      L"current Drawing1"}));
+    EXPECT_EQ(listener.events, (std::vector<ZrString>{L"leaving Drawing1", L"created Drawing2", L"current Drawing2",
+                                                      L"leaving Drawing2", L"closing Drawing2", L"current Drawing1"}));
+}
+
+TEST_F(Documents, DocumentThatIsSwitchedFromIsLeftFirst) {
+    quor::Document& first = *manager().current();
+    manager().newDocument();
+    Listener listener;
+    manager().addReactor(&listener);
+    manager().setCurrent(&first);
+    manager().setCurrent(&first);
+    manager().removeReactor(&listener);
+    EXPECT_EQ(listener.events, (std::vector<ZrString>{L"leaving Drawing2", L"current Drawing1"}));
+}
+
+TEST_F(Documents, DocumentThatIsNotCurrentIsClosedWithoutBeingLeft) {
+    quor::Document& first = *manager().current();
+    manager().newDocument();
+    Listener listener;
+    manager().addReactor(&listener);
+    manager().close(first);
+    manager().removeReactor(&listener);
+    EXPECT_EQ(listener.events, (std::vector<ZrString>{L"closing Drawing1"}));
+}
+
+TEST_F(Documents, LastDocumentLeavesNoneCurrent) {
+    Listener listener;
+    manager().addReactor(&listener);
+    manager().closeAll();
+    manager().removeReactor(&listener);
+    EXPECT_EQ(listener.events, (std::vector<ZrString>{L"leaving Drawing1", L"closing Drawing1", L"none current"}));
 }
 
 TEST_F(Documents, WorkingDatabaseIsTheCurrentDrawings) {
