@@ -42,6 +42,8 @@ Quor::ErrorStatus ZrDbObject::close() {
 
 bool ZrDbObject::isWriteEnabled() const { return id_.isNull() || id_.entry()->writing; }
 
+bool ZrDbObject::isModified() const { return id_.isNull() || id_.entry()->changed; }
+
 Quor::ErrorStatus ZrDbObject::aboutToModify() {
     if (id_.isNull())
         return Quor::eOk;

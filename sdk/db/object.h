@@ -47,6 +47,9 @@ public:
     virtual Quor::ErrorStatus erase(bool erasing = true);
     [[nodiscard]] bool isErased() const { return id_.isErased(); }
     [[nodiscard]] bool isWriteEnabled() const;
+    // Whether its values differ from what the file that the drawing came from holds: true of an object that was made or
+    // changed since, false of one as it was read, and of one whose changes were all undone.
+    [[nodiscard]] bool isModified() const;
 
     // For the host: the values as they are, exchanged by undo.
     [[nodiscard]] std::unique_ptr<ZrDbObjectData>& hostData() { return data_; }
