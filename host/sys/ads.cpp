@@ -1,5 +1,7 @@
 #include "sdk/sys/ads.h"
 
+#include "host/db/ref_edit.h"
+#include "host/document.h"
 #include "host/ed/command_processor.h"
 #include "host/session.h"
 #include "host/sys/settings_store.h"
@@ -13,6 +15,12 @@ using quor::sys::SetResult;
 
 // Where the user's choices in dialogs are kept.
 constexpr const wchar_t* dialogOptions = L"Dialogs.Options";
+
+// What is being edited in place in the current drawing; null when no drawing is open.
+const quor::db::RefEdit* currentRefEdit() {
+    const quor::Document* const document = Session::exists() ? Session::current().documents().current() : nullptr;
+    return document == nullptr ? nullptr : &document->drawing().refEdit();
+}
 
 bool refuse(const wchar_t* name, SetResult result, bool quiet) {
     if (!quiet)
@@ -41,7 +49,10 @@ bool getVar(const wchar_t* name, short& value, bool quiet) {
 bool setVar(const wchar_t* name, short value, bool quiet) {
     if (name == nullptr || !Session::exists())
         return false;
-    const SetResult result = Session::current().variables().set(name, value);
+    auto& variables = Session::current().variables();
+    if (variables.touchRegistered(name))
+        return true;
+    const SetResult result = variables.set(name, value);
     return result == SetResult::Ok || refuse(name, result, quiet);
 }
 
@@ -57,6 +68,16 @@ bool GetValueFromReg(const wchar_t* name, int& value) {
 
 bool SetValueFromReg(const wchar_t* name, int value) {
     return name != nullptr && Session::exists() && !Session::current().settings().setInt(dialogOptions, name, value);
+}
+
+bool isRefEditting() {
+    const quor::db::RefEdit* const editing = currentRefEdit();
+    return editing != nullptr && editing->isActive();
+}
+
+bool isObjInWorkset(ZrDbObjectId id) {
+    const quor::db::RefEdit* const editing = currentRefEdit();
+    return editing != nullptr && !id.isNull() && editing->holds(*id.entry());
 }
 
 } // namespace zwutads

@@ -151,17 +151,45 @@ SetResult SystemVariables::set(std::wstring_view name, const VariableValue& give
     const VariableRow* row = this->row(name);
     if (row == nullptr)
         return has(name) ? SetResult::ReadOnly : SetResult::Unknown;
-    if (row->readOnly)
+    const SetResult result = assign(*row, given);
+    if (result == SetResult::Ok || result == SetResult::NotSaved)
+        announce(row->name);
+    return result;
+}
+
+SetResult SystemVariables::assign(const VariableRow& row, const VariableValue& given) {
+    if (row.readOnly)
         return SetResult::ReadOnly;
     const Document* document = session_.documents().current();
-    if (livesInDrawing(row->home) && document == nullptr)
+    if (livesInDrawing(row.home) && document == nullptr)
         return SetResult::NoDrawing;
-    if (const auto* whole = std::get_if<short>(&given); whole != nullptr && row->type == VariableType::Real)
-        return set(name, static_cast<double>(*whole));
-    if (const SetResult checked = check(*row, given); checked != SetResult::Ok)
+    if (const auto* whole = std::get_if<short>(&given); whole != nullptr && row.type == VariableType::Real)
+        return assign(row, static_cast<double>(*whole));
+    if (const SetResult checked = check(row, given); checked != SetResult::Ok)
         return checked;
-    const std::optional<VariableValue> value = chosen(*row, given);
-    return value ? write(*row, *value) : SetResult::NotInList;
+    const std::optional<VariableValue> value = chosen(row, given);
+    return value ? write(row, *value) : SetResult::NotInList;
+}
+
+bool SystemVariables::touchRegistered(std::wstring_view name) {
+    const auto at = registered_.find(upperCase(name));
+    if (at == registered_.end())
+        return false;
+    announce(ZrString(at->first));
+    return true;
+}
+
+int SystemVariables::addListener(Listener listener) {
+    listeners_.emplace(++lastListener_, std::move(listener));
+    return lastListener_;
+}
+
+// Listeners may come and go while they are told.
+void SystemVariables::announce(const ZrString& name) const {
+    const std::map<int, Listener> told = listeners_;
+    for (const auto& [number, listener] : told)
+        if (listeners_.contains(number))
+            listener(name);
 }
 
 SetResult SystemVariables::write(const VariableRow& row, const VariableValue& value) {

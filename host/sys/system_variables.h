@@ -74,6 +74,9 @@ public:
     // Undoable when it lives in a drawing. A whole number is taken for a real one. Refused values change nothing,
     // except that NotSaved means that the value holds for this process.
     SetResult set(std::wstring_view name, const VariableValue& value);
+    // Sets one that a module registered, which keeps nothing: its listeners are told, no more. False when no module
+    // did.
+    bool touchRegistered(std::wstring_view name);
     // Converts typed text to the type of the variable, then sets it.
     SetResult setFromText(std::wstring_view name, std::wstring_view text);
     // Why a value was not taken, as one line for people; names the range of a number. Empty for Ok.
@@ -93,6 +96,14 @@ public:
     bool registerVariable(const wchar_t* name, std::function<short()> read) override;
     bool unregisterVariable(const wchar_t* name) override;
 
+    // Told of every variable that was set, by its name in capitals, also where its value is the one that it had. What
+    // undo gives back, and header variables that commands change by themselves, the drawing's own listeners are told
+    // of.
+    using Listener = std::function<void(const ZrString& name)>;
+    // The number by which it is taken off again.
+    int addListener(Listener listener);
+    void removeListener(int number) { listeners_.erase(number); }
+
     // Whole number of a variable that is known to exist; `fallback` without a drawing.
     [[nodiscard]] short number(std::wstring_view name, short fallback = 0) const;
 
@@ -100,6 +111,9 @@ public:
     [[nodiscard]] ZrGlobalVarManager& globals() { return globals_; }
 
 private:
+    // Sets a variable that has a row, and tells nobody.
+    SetResult assign(const VariableRow& row, const VariableValue& given);
+    void announce(const ZrString& name) const;
     // A value that was checked, where the variable lives.
     SetResult write(const VariableRow& row, const VariableValue& value);
     [[nodiscard]] VariableValue fromUser(const VariableRow& row) const;
@@ -108,6 +122,8 @@ private:
     Session& session_;
     std::map<ZrString, std::function<short()>> registered_; // upper case
     std::map<ZrString, VariableValue> process_;
+    std::map<int, Listener> listeners_;
+    int lastListener_ = 0;
     ZrGlobalVarManager globals_;
 };
 

@@ -210,6 +210,79 @@ TEST_F(Variables, ModuleReadsAndSetsWholeNumbers) {
     EXPECT_EQ(variables().number(L"DEFAULTLIGHTING"), 0);
 }
 
+// Writes down the names of the variables that are set.
+class ToldVariables : public Variables {
+protected:
+    std::vector<ZrString> told_;
+    int number_ = variables().addListener([this](const ZrString& name) { told_.push_back(name); });
+};
+
+TEST_F(ToldVariables, AreThoseThatWereSetWhereverTheyLive) {
+    variables().set(L"lunits", short{4});
+    variables().set(L"LTSCALE", short{2});
+    variables().setFromText(L"LIGHTINGUNITS", L"0");
+    variables().set(L"DEFAULTLIGHTING", short{0});
+    variables().set(L"SUPPORTPATH", ZrString(L"/lamps"));
+    variables().set(L"CVPORT", short{2});
+    EXPECT_EQ(told_, (std::vector<ZrString>{L"LUNITS", L"LTSCALE", L"LIGHTINGUNITS", L"DEFAULTLIGHTING", L"SUPPORTPATH",
+                                            L"CVPORT"}));
+}
+
+TEST_F(ToldVariables, AreNoneThatWereRefused) {
+    variables().set(L"LUNITS", short{99});
+    variables().set(L"LUNITS", ZrString(L"four"));
+    variables().set(L"DWGNAME", ZrString(L"other"));
+    variables().set(L"ABSENT", short{1});
+    variables().setFromText(L"LUNITS", L"four");
+    EXPECT_TRUE(told_.empty());
+}
+
+TEST_F(ToldVariables, AreOnesWhoseValueCannotBeKeptToo) {
+    std::filesystem::create_directory(session_.folder() / "settings.ini");
+    EXPECT_EQ(variables().set(L"SUPPORTPATH", ZrString(L"/lamps")), SetResult::NotSaved);
+    EXPECT_EQ(told_, std::vector<ZrString>{L"SUPPORTPATH"});
+}
+
+TEST_F(ToldVariables, AreNoneAfterTheListenerIsTakenOff) {
+    variables().removeListener(number_);
+    variables().set(L"LUNITS", short{4});
+    EXPECT_TRUE(told_.empty());
+}
+
+TEST_F(ToldVariables, ListenersMayTakeEachOtherOffWhileTheyAreTold) {
+    int first = 0;
+    first = variables().addListener([&](const ZrString&) { variables().removeListener(first); });
+    const int second = variables().addListener([this](const ZrString&) { told_.push_back(L"second"); });
+    variables().addListener([this, second](const ZrString&) { variables().removeListener(second); });
+    variables().set(L"LUNITS", short{4});
+    variables().set(L"LUNITS", short{2});
+    EXPECT_EQ(told_, (std::vector<ZrString>{L"LUNITS", L"second", L"LUNITS"}));
+}
+
+TEST_F(ToldVariables, VariableOfAModuleIsToldAndKeepsWhatItsModuleGives) {
+    short state = 0;
+    variables().registerVariable(L"PaletteState", [] { return short{7}; });
+    EXPECT_TRUE(zwutads::setVar(L"PALETTESTATE", 1));
+    EXPECT_TRUE(zwutads::getVar(L"PALETTESTATE", state));
+    EXPECT_EQ(state, 7);
+    EXPECT_EQ(told_, std::vector<ZrString>{L"PALETTESTATE"});
+}
+
+TEST_F(ToldVariables, VariableOfAModuleStaysReadOnlyForPeople) {
+    variables().registerVariable(L"PALETTESTATE", [] { return short{0}; });
+    session_.run({L"SETVAR", L"palettestate"});
+    EXPECT_TRUE(session_.front().shows(L"PALETTESTATE = 0 (read-only)"));
+    EXPECT_EQ(variables().setFromText(L"PALETTESTATE", L"1"), SetResult::ReadOnly);
+    EXPECT_TRUE(told_.empty());
+}
+
+TEST_F(ToldVariables, VariableOfAModuleThatIsGoneIsUnknown) {
+    variables().registerVariable(L"PALETTESTATE", [] { return short{0}; });
+    variables().unregisterVariable(L"PALETTESTATE");
+    EXPECT_FALSE(zwutads::setVar(L"PALETTESTATE", 1));
+    EXPECT_TRUE(told_.empty());
+}
+
 TEST_F(Variables, FailureIsToldUnlessItIsToBeQuiet) {
     EXPECT_FALSE(zwutads::setVar(L"DEFAULTLIGHTING", 2, true));
     EXPECT_EQ(session_.front().screen(), L"");
