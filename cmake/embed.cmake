@@ -1,11 +1,12 @@
-# Writes a C++ source that holds the bytes of a file: cmake -DIN=… -DOUT=… -DHEADER=… -DFUNCTION=… -P embed.cmake
+# Writes a C++ source that holds the bytes of a file:
+# cmake -DIN=… -DOUT=… -DNAME=… -DNAMESPACE=… -DHEADER=… -DFUNCTION=… -P embed.cmake
 file(READ ${IN} hex HEX)
 string(REGEX REPLACE "([0-9a-f][0-9a-f])" "0x\\1," bytes "${hex}")
 string(REGEX REPLACE "(................................................................................)" "\\1\n" bytes "${bytes}")
 file(WRITE ${OUT} "// Made from ${NAME}; do not edit.
 #include \"${HEADER}\"
 
-namespace quor::db {
+namespace ${NAMESPACE} {
 
 namespace {
 constexpr unsigned char kBytes[] = {
@@ -15,5 +16,5 @@ ${bytes}
 
 std::string_view ${FUNCTION}() { return {reinterpret_cast<const char*>(kBytes), sizeof kBytes}; }
 
-} // namespace quor::db
+} // namespace ${NAMESPACE}
 ")

@@ -29,3 +29,17 @@ function(quor_sources out)
   endforeach()
   set(${out} ${found} PARENT_SCOPE)
 endfunction()
+
+# quor_embed(OUT FILE NAMESPACE HEADER FUNCTION): adds a source to the list OUT in which FUNCTION, declared in HEADER as
+# std::string_view FUNCTION(), answers the bytes of FILE (a path in the project).
+function(quor_embed out file namespace header function)
+  set(script ${PROJECT_SOURCE_DIR}/cmake/embed.cmake)
+  set(source ${CMAKE_CURRENT_BINARY_DIR}/embedded/${function}.cpp)
+  add_custom_command(
+    OUTPUT ${source}
+    COMMAND ${CMAKE_COMMAND} -DIN=${PROJECT_SOURCE_DIR}/${file} -DOUT=${source} -DNAME=${file} -DNAMESPACE=${namespace}
+            -DHEADER=${header} -DFUNCTION=${function} -P ${script}
+    DEPENDS ${PROJECT_SOURCE_DIR}/${file} ${script}
+    COMMENT "Embedding ${file}")
+  set(${out} ${${out}} ${source} PARENT_SCOPE)
+endfunction()

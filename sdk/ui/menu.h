@@ -42,7 +42,7 @@ public:
     bool TrackPopupMenu(CPoint screen, CWnd& owner) const;
 
 private:
-    [[nodiscard]] Entry* find(unsigned command);
+    [[nodiscard]] const Entry* find(unsigned command) const;
     void load(std::span<const quor::ui::MenuEntry> entries);
 
     std::vector<Entry> entries_;
