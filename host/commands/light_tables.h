@@ -4,7 +4,7 @@
 #pragma once
 
 #include "host/commands/light_facts.h"
-#include "host/commands/text_table.h"
+#include "host/sys/text_table.h"
 
 #include <array>
 #include <cstddef>

@@ -1,10 +1,10 @@
-#include "host/commands/text_table.h"
+#include "host/sys/text_table.h"
 
 #include <gtest/gtest.h>
 
 #include <vector>
 
-namespace quor::commands {
+namespace quor {
 
 namespace {
 
@@ -207,4 +207,4 @@ TEST(CutToColumns, CutsANameOf255Characters) {
 
 } // namespace
 
-} // namespace quor::commands
+} // namespace quor

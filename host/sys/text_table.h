@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace quor::commands {
+namespace quor {
 
 enum class Align { Left, Right };
 
@@ -69,4 +69,4 @@ private:
 // The beginning of a long text, "…" behind it, together no wider than `columns`.
 [[nodiscard]] ZrString cutToColumns(const ZrString& text, int columns);
 
-} // namespace quor::commands
+} // namespace quor

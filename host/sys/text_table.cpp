@@ -1,4 +1,4 @@
-#include "host/commands/text_table.h"
+#include "host/sys/text_table.h"
 
 #include "host/sys/text_width.h"
 #include "host/sys/utf8.h"
@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <string_view>
 
-namespace quor::commands {
+namespace quor {
 
 namespace {
 
@@ -153,4 +153,4 @@ ZrString cutToColumns(const ZrString& text, int columns) {
     return text.substr(0, length) + L"…";
 }
 
-} // namespace quor::commands
+} // namespace quor
