@@ -1,6 +1,6 @@
 #include "host/ui/dpi.h"
 
-#include "sdk/ui/task_dialog.h"
+#include "sdk/ui/dpi.h"
 
 #include <cmath>
 
@@ -20,3 +20,5 @@ void setScreenDpi(int dpi) {
 int ZkUiGetCtrlDPISize(int size) {
     return static_cast<int>(std::lround(static_cast<double>(size) * quor::ui::screenDpi / quor::ui::kReferenceDpi));
 }
+
+double ZkUiGetDisplayScale() { return static_cast<double>(quor::ui::screenDpi) / quor::ui::kReferenceDpi; }

@@ -26,7 +26,7 @@ struct InputMessage {
     enum class Kind { MouseMove, LeftDown, LeftUp, LeftDouble, RightDown, RightUp, Wheel, KeyDown };
     Kind kind = Kind::MouseMove;
     CWnd* window = nullptr; // that it is meant for
-    CPoint point;           // of the mouse, in that window's client coordinates
+    CPoint point{};         // of the mouse, in that window's client coordinates
     unsigned flags = 0;     // MK_…
     unsigned key = 0;       // VK_…, of KeyDown
     int lines = 0;          // of Wheel: downwards

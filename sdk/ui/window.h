@@ -69,7 +69,7 @@ public:
     };
 
     CWnd() = default;
-    // The window goes with the object; its children lose theirs.
+    // The window goes with the object; its children lose theirs. OnDestroy() is not called any more.
     virtual ~CWnd();
     CWnd(const CWnd&) = delete;
     CWnd& operator=(const CWnd&) = delete;
@@ -122,7 +122,8 @@ public:
     bool EnableWindow(bool enable = true);
     [[nodiscard]] bool IsWindowEnabled() const { return (style_ & WS_DISABLED) == 0; }
 
-    // Gives it the keyboard. The window that had it before, or null (the drawing had it).
+    // Gives it the keyboard, unless it is disabled or one above it is. The window that had it before, or null (the
+    // drawing had it). A window that is hidden, disabled or destroyed, or one above it, loses it to the drawing.
     CWnd* SetFocus();
     // The window that has the keyboard; null while the drawing or another program has it.
     [[nodiscard]] static CWnd* GetFocus();
@@ -143,10 +144,12 @@ public:
     void attachPeer(std::unique_ptr<quor::ui::WindowPeer> peer) { peer_ = std::move(peer); }
     [[nodiscard]] quor::ui::WindowPeer* peer() const { return peer_.get(); }
 
-    // For the host (host/ui/input.h, host/ui/painting.h): hands a message to the handlers below.
+    // For the host (host/ui/input.h, host/ui/focus.h, host/ui/painting.h): hands a message to the handlers below.
     bool dispatchPreTranslate(const InputMessage& message) { return PreTranslateMessage(message); }
     void dispatchInput(const InputMessage& message);
     void dispatchContextMenu(CWnd* from, CPoint screen) { OnContextMenu(from, screen); }
+    void dispatchSetFocus(CWnd* before) { OnSetFocus(before); }
+    void dispatchKillFocus(CWnd* after) { OnKillFocus(after); }
     void dispatchPaint(CDC& dc);
     // The window that is meant at a point of the client area: the last made visible child there, and so on; itself.
     [[nodiscard]] CWnd* childAt(CPoint point);
@@ -193,7 +196,11 @@ protected:
     void contentChanged();
 
 private:
+    void destroyChildren();
+    void dropWindow();
     void leaveParent();
+    void loseFocus();
+    bool sendCommand(unsigned id);
     void tellPeer(quor::ui::WindowPeer::Change change);
 
     CWnd* parent_ = nullptr;
@@ -203,6 +210,7 @@ private:
     unsigned id_ = 0;
     unsigned style_ = 0;
     bool exists_ = false;
+    bool isGoing_ = false;
     bool needsPaint_ = false;
     const quor::ui::PictureResource* icon_ = nullptr;
     std::unique_ptr<quor::ui::WindowPeer> peer_;
