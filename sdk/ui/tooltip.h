@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sdk/ui/window.h"
+#include "sdk/ui/window_ref.h"
 
 class CToolTipCtrl : public CWnd {
 public:
@@ -11,23 +12,23 @@ public:
     // Empty for a window without a tip.
     [[nodiscard]] const ZrString& GetText(CWnd& window) const;
     // Looks at a message of one of its windows: a move of the mouse brings its tip up (none for an empty text), a
-    // pressed button takes it away.
+    // pressed button takes it away. Messages of other windows change nothing.
     void RelayEvent(const InputMessage& message);
     // Takes the tip away.
     void Pop();
-    // The window whose tip is shown, or null.
-    [[nodiscard]] CWnd* shown() const { return shown_; }
+    // The window whose tip is shown, or null; null too when that window is gone.
+    [[nodiscard]] CWnd* shown() const { return shown_.get(); }
 
 private:
     struct Tool {
-        CWnd* window;
+        quor::ui::WindowRef window;
         ZrString text;
     };
     [[nodiscard]] Tool* find(const CWnd& window);
-    [[nodiscard]] const Tool* find(const CWnd& window) const;
+    void show(CWnd* window);
 
     std::vector<Tool> tools_;
-    CWnd* shown_ = nullptr;
+    quor::ui::WindowRef shown_;
 };
 
 // The tooltips of dialogs, in the host's look.

@@ -64,7 +64,7 @@ public:
         CWnd* parent = nullptr;
         unsigned id = 0;
         unsigned style = 0;
-        CRect rect; // in the parent's client coordinates; on the screen without a parent
+        CRect rect{}; // in the parent's client coordinates; on the screen without a parent
         ZrString text{};
     };
 
