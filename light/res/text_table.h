@@ -173,6 +173,19 @@ struct TextTable {
     Text distantToOnFrom{7002, lib, L"请输入除“自”位置以外的位置。"};
     Text vectorPrompt{7003, lib, L"\n指定矢量方向 <0.0000,-0.0100,1.0000>: "};
     Text vectorInvalid{7004, lib, L"\n矢量方向无效。"};
+    Text closePalette{7501, lib, L"关闭"};
+    Text showTips{7502, lib, L"显示提示"};
+    Text paletteLabel{7506, lib, L"模型空间中的光源"};
+    Text deleteLights{7507, lib, L"删除"};
+    Text showProperties{7508, lib, L"特性"};
+    Text glyphAutomatic{7509, lib, L"自动"};
+    Text glyphOn{7510, lib, L"开"};
+    Text glyphOff{7511, lib, L"关"};
+    Text showTipsInList{7512, lib, L"显示提示"};
+    Text pointLightPicture{7513, lib, L"点光源"};
+    Text distantLightPicture{7514, lib, L"平行光"};
+    Text spotLightPicture{7515, lib, L"聚光灯"};
+    Text webLightPicture{7516, lib, L"光域灯光"};
     Text paletteTipSelect{7517, lib, L"单击列表上的光源以在模型中选择它。使用CTRL键进行多重选择。"};
     Text paletteTipDistant{7518, lib, L"注意：平行光和阳光在模型中不作为界面对象显示。"};
     Text paletteTypeColumn{7519, lib, L""};
@@ -220,6 +233,9 @@ struct TextTable {
     Text freeWebHelp{64006, lib, L"放置一个自由光域灯光: 没有目标，配光来自光域网文件(.ies)，沿当前 UCS 的 Z 轴向下照射。\n只问源位置(Enter 为 0,0,0；在世界原点时沿世界坐标系的 Z 轴照射)，然后问要更改的选项，直到按 Enter 或 X；Esc 放弃这个光源。\n选项与 WEBLIGHT 相同。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: FREEWEB 0,0,3000 B F\ndownlight.ies\nE X"};
     Text distantLightHelp{64007, lib, L"放置一个平行光，例如阳光: 只有方向，亮度不随距离减弱。\n先问光源来向(Enter 为 0,0,0)和光源去向(Enter 为 1,1,1)，或用矢量(V)给出世界坐标系中的方向，例如 0,-0.5,-1；\n然后问要更改的选项，直到按 Enter 或 X；Esc 放弃这个光源。\n光度控制单位下平行光可能过度曝光，所以先问是否允许；脚本中不问。\n勾选复选框后，即使选的是禁用，以后也总是允许平行光并且不再询问；要恢复询问，请从设置文件(~/.config/quor/settings.ini)中删去 allowParallelLightDialog。\n选项与 POINTLIGHT 相同，但没有衰减，光度(P)中的强度只用 Cd。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: DISTANTLIGHT 0,0,10 0,0,0 I 0.5 X"};
     Text lightHelp{64008, lib, L"问光源的类型，然后与该类型自己的命令一样放置光源。\n点光源(P): POINTLIGHT。聚光灯(S): SPOTLIGHT。光域网(W): WEBLIGHT。目标点光源(T): TARGETPOINT。\n自由聚光灯(F): FREESPOT。自由光域(B): FREEWEB。平行光(D): DISTANTLIGHT。\nEnter 取上一次的类型；第一次为自由聚光灯。默认光源打开时先问是否关闭它；脚本中不问。\n只能在模型空间中使用，并且 LIGHTINGUNITS 不能为 0。\n例: LIGHT P 0,0,3000 X"};
+    Text lightListHelp{64009, lib, L"打开“模型中的光源”选项板: 模型空间中的每个光源占一行，有类型和名称，按名称排序。\n它已打开时重新列出。列表随图形更新；参照编辑时只列出工作集中的光源。\n单击一行即在图形中选择该光源，用 Ctrl 或 Shift 选择多个；在图形中选择光源时，列表中也随之选择。\n双击: 显示特性。Delete 键: 删除选定的光源。单击列标题: 按类型或名称排序，再次单击时反向。\n在行上单击右键: 删除，特性，轮廓显示(自动、开、关；只对一个光源，平行光没有轮廓)。在列表旁单击右键: 显示或隐藏提示。\n没有窗口的程序将列表显示为表格。\nLIGHTLISTCLOSE 关闭选项板；它打开时，系统变量 LIGHTLISTSTATE 为 1，否则为 0。\n例: LIGHTLIST"};
+    Text lightListCloseHelp{64010, lib, L"关闭“模型中的光源”选项板；它已关闭时什么也不做。\n此后系统变量 LIGHTLISTSTATE 为 0。LIGHTLIST 再次打开选项板。\n例: LIGHTLISTCLOSE"};
+    Text glyphDisplay{64011, lib, L"轮廓显示"};
     // clang-format on
 };
 

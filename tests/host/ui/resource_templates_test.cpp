@@ -1,0 +1,131 @@
+#include "sdk/ui/resource_templates.h"
+
+#include "host/ui/host_resources.h"
+#include "host/ui/resource_lookup.h"
+#include "sdk/ui/image_list.h"
+#include "tests/support/test_session.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+
+using namespace quor;
+using ui::DialogTemplate;
+using ui::PictureResource;
+
+namespace {
+
+constexpr DialogTemplate dialogs[] = {{7, {100, 50}, {}}};
+constexpr PictureResource pictures[] = {{31, {0, L"圆"}, {21, 21}, "<svg/>"}, {32, {0, L"方"}, {16, 16}, "<svg/>"}};
+constexpr ZwUiResources own{{}, dialogs, pictures};
+
+TEST(ResourcesInUse, AreTheHostsUntilOthersAreSet) {
+    EXPECT_EQ(zwGetResourceInstance(), nullptr);
+    EXPECT_NE(ui::findPicture(zwGetResourceInstance(), 58013), nullptr);
+}
+
+TEST(ResourcesInUse, AnswerWhatTheyWereWhenOthersAreSet) {
+    EXPECT_EQ(zwSetResourceInstance(&own), nullptr);
+    EXPECT_EQ(zwGetResourceInstance(), &own);
+    EXPECT_EQ(zwSetResourceInstance(nullptr), &own);
+}
+
+TEST(ResourcesInUse, AreTheOnesBeforeAgainBehindABlock) {
+    const ZwUiResources inner{};
+    const ZwResourceScope outerBlock(&own);
+    {
+        const ZwResourceScope innerBlock(&inner);
+        EXPECT_EQ(zwGetResourceInstance(), &inner);
+    }
+    EXPECT_EQ(zwGetResourceInstance(), &own);
+}
+
+TEST(ResourcesInUse, FindDialogsByNumber) {
+    const ZwResourceScope scope(&own);
+
+    EXPECT_EQ(ui::findDialog(7), &dialogs[0]);
+    EXPECT_EQ(ui::findDialog(8), nullptr);
+}
+
+TEST(Bitmap, IsLoadedFromTheResourcesInUse) {
+    const ZwResourceScope scope(&own);
+    CBitmap bitmap;
+
+    EXPECT_TRUE(bitmap.LoadBitmap(32));
+    EXPECT_EQ(bitmap.picture(), &pictures[1]);
+}
+
+TEST(Bitmap, ThatIsNotThereLeavesNoPicture) {
+    const ZwResourceScope scope(&own);
+    CBitmap bitmap;
+    bitmap.LoadBitmap(32);
+
+    EXPECT_FALSE(bitmap.LoadBitmap(33));
+    EXPECT_EQ(bitmap.picture(), nullptr);
+}
+
+TEST(Icon, IsLoadedFromTheGivenResourcesWhateverIsInUse) {
+    const ZwUiResources inUse{};
+    const ZwResourceScope scope(&inUse);
+    CIcon icon;
+
+    EXPECT_TRUE(icon.LoadIcon(&own, 31));
+    EXPECT_EQ(icon.picture(), &pictures[0]);
+    EXPECT_FALSE(icon.LoadIcon(&own, 58013));
+    EXPECT_EQ(icon.picture(), nullptr);
+}
+
+TEST(HostResources, HoldTheIconOfAListOfLights) {
+    const PictureResource* const picture = ui::findPicture(nullptr, ui::kLightListIcon);
+
+    ASSERT_NE(picture, nullptr);
+    EXPECT_EQ(picture->size, (CSize{16, 16}));
+    EXPECT_TRUE(picture->svg.starts_with("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"16\" height=\"16\""));
+    EXPECT_TRUE(picture->svg.ends_with("</svg>\n"));
+    EXPECT_EQ(zwResourceText(picture->name), L"光源列表");
+}
+
+TEST(HostResources, NameTheirPicturesInEnglishToo) {
+    test::TestSession english({.language = L"en", .newDrawing = false});
+
+    EXPECT_EQ(zwResourceText(ui::findPicture(nullptr, ui::kLightListIcon)->name), L"List of lights");
+}
+
+// A session whose command library has one text, 900.
+class ResourceText : public testing::Test {
+protected:
+    void translate(const char* translation) {
+        const std::filesystem::path language = folder_.path() / "lang" / "en";
+        std::filesystem::create_directories(language);
+        std::ofstream(language / "quorcmdres.txt") << "900 = \"" << translation << "\"\n";
+        session_.emplace(front_, SessionOptions{.settingsFile = folder_.path() / "settings.ini",
+                                                .resourceFolder = folder_.path(),
+                                                .moduleFolders = {},
+                                                .language = L"en"});
+    }
+
+private:
+    test::TemporaryFolder folder_;
+    test::ScriptedFrontEnd front_;
+    std::optional<Session> session_;
+};
+
+TEST_F(ResourceText, IsTheBuiltInOneWithoutASession) { EXPECT_EQ(zwResourceText({900, L"关闭"}), L"关闭"); }
+
+TEST_F(ResourceText, IsThatOfTheCommandLibrary) {
+    translate("Close");
+    EXPECT_EQ(zwResourceText({900, L"关闭"}), L"Close");
+}
+
+TEST_F(ResourceText, OfWhichTheCommandLibraryHasNoneIsTheBuiltInOne) {
+    translate("Close");
+    EXPECT_EQ(zwResourceText({901, L"打开"}), L"打开");
+}
+
+TEST_F(ResourceText, ThatIsEmptyThereIsTheBuiltInOne) {
+    translate("");
+    EXPECT_EQ(zwResourceText({900, L"关闭"}), L"关闭");
+}
+
+TEST_F(ResourceText, WithoutANumberIsTheBuiltInOne) { EXPECT_EQ(zwResourceText({0, L"圆"}), L"圆"); }
+
+} // namespace
