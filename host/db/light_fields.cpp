@@ -4,6 +4,7 @@
 #include "host/db/color_fields.h"
 #include "host/db/data.h"
 #include "host/db/database.h"
+#include "host/db/light_tags.h"
 #include "host/db/versions.h"
 
 #include <algorithm>
@@ -125,12 +126,11 @@ void readName(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext& con
 }
 
 void readType(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
-    if (const auto type = ranged<1, 3>(tag))
-        as<Light>(data).type = static_cast<DrawableType>(*type);
+    if (const auto type = light_tags::typeIn(tag))
+        as<Light>(data).type = *type;
 }
 
 FieldValue writeType(const ZrDbObjectData& data, const FieldContext&) {
-    // A web light has no number of its own: it is a point light whose photometric data name a web.
     const DrawableType type = as<Light>(data).type;
     return whole(static_cast<int>(type == DrawableType::kWebLight ? DrawableType::kPointLight : type));
 }
@@ -213,9 +213,9 @@ FieldValue writeEndLimit(const ZrDbObjectData& data, const FieldContext&) {
 
 constexpr std::array kLightFields{
     Field{90, readNothing, [](const ZrDbObjectData&, const FieldContext&) { return whole(kClassVersion); }},
-    Field{1, readName,
+    Field{light_tags::kName, readName,
           [](const ZrDbObjectData& data, const FieldContext&) -> FieldValue { return as<Light>(data).name; }},
-    Field{70, readType, writeType},
+    Field{light_tags::kType, readType, writeType},
     boolField<Light, &Light::on>(290),
     Field{63, readColorIndex, writeColorIndex},
     Field{421, readTrueColor, writeTrueColor},
@@ -238,13 +238,12 @@ constexpr std::array kLightFields{
     shadowFlag<&Shadow::shadowsOn, &Shadow::setShadowsOn>(293),
     shadowNumber<&Shadow::shadowType, &Shadow::setShadowType, Shadow::ShadowType>(73),
     shadowNumber<&Shadow::shadowMapSize, &Shadow::setShadowMapSize, std::uint16_t>(91),
-    shadowNumber<&Shadow::shadowMapSoftness, &Shadow::setShadowMapSoftness, std::uint8_t>(280),
+    shadowNumber<&Shadow::shadowMapSoftness, &Shadow::setShadowMapSoftness, std::uint8_t>(light_tags::kLast),
 };
 
 void readHasWeb(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
     Light& light = as<Light>(data);
-    if (tag.asInt().value_or(0) != 0 && light.type == DrawableType::kPointLight)
-        light.type = DrawableType::kWebLight;
+    light.type = light_tags::withWeb(light.type, tag);
 }
 
 FieldValue writeHasWeb(const ZrDbObjectData& data, const FieldContext&) {
@@ -263,7 +262,7 @@ FieldValue writeWebFile(const ZrDbObjectData& data, const FieldContext&) {
 }
 
 constexpr std::array kPhotometryFields{
-    Field{290, readHasWeb, writeHasWeb},
+    Field{light_tags::kHasWeb, readHasWeb, writeHasWeb},
     Field{300, readWebFile, writeWebFile},
     choice<&Light::method, 0, 2>(70),
     realField<Light, &Light::physicalIntensity>(40),
@@ -294,12 +293,12 @@ constexpr std::array kPhotometryFields{
 
 std::span<const FieldGroup> lightGroups() {
     static const std::array groups{FieldGroup{"AcDbEntity", entityFields()},
-                                   FieldGroup{"AcDbLight", kLightFields, true}};
+                                   FieldGroup{light_tags::kLight, kLightFields, true}};
     return groups;
 }
 
 std::span<const FieldGroup> photometryGroups() {
-    static const std::array groups{FieldGroup{"AcDbXrecord", kPhotometryFields}};
+    static const std::array groups{FieldGroup{light_tags::kPhotometry, kPhotometryFields}};
     return groups;
 }
 

@@ -141,3 +141,14 @@ private:
     Quor::ErrorStatus change(bool accepted, T Data::*member, const T& value);
     [[nodiscard]] const ZrDbLightData& data() const;
 };
+
+// What lists show of a light.
+struct ZrDbLightSummary {
+    ZrString name;
+    int type = 0; // as lightType() numbers them: 1 distant, 2 point, 3 spot, 10 web
+};
+
+// Reads it without opening the light, which for lights that nobody has opened yet costs a fraction. Refused as opening
+// for read is: eNullObjectId, eWasErased, eWasOpenForWrite; eNotThatKindOfClass for what is not exactly a ZrDbLight. A
+// refusal leaves `summary` alone.
+Quor::ErrorStatus zrdbLightSummary(ZrDbObjectId id, ZrDbLightSummary& summary);
