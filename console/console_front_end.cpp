@@ -4,6 +4,7 @@
 #include "host/session.h"
 #include "host/sys/visible_text.h"
 #include "host/ui/file_dialog_text.h"
+#include "host/ui/palette_text.h"
 #include "host/ui/task_dialog_text.h"
 
 namespace quor::console {
@@ -66,5 +67,7 @@ TaskDialogAnswer ConsoleFrontEnd::showTaskDialog(const CZrUiTaskDialog& dialog) 
 FileAnswer ConsoleFrontEnd::chooseFile(const FileQuestion& file) {
     return ui::askFile(file, [](const Question& question) { return Session::current().input().ask(question); });
 }
+
+void ConsoleFrontEnd::paletteShown(const CZkUiPaletteSet& palette) { print(ui::paletteText(palette, columns())); }
 
 } // namespace quor::console

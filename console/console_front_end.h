@@ -25,6 +25,8 @@ public:
     Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) override;
     TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) override;
     FileAnswer chooseFile(const FileQuestion& question) override;
+    // There are no windows: what it shows is printed.
+    void paletteShown(const CZkUiPaletteSet& palette) override;
     void progress(std::wstring_view what, double fraction) override { progress_.update(what, fraction); }
 
 private:

@@ -19,6 +19,7 @@
 #include "host/sys/settings_store.h"
 #include "host/sys/system_variables.h"
 #include "host/texts/text.h"
+#include "host/ui/user_interface.h"
 #include "sdk/sys/resources.h"
 
 #include <cassert>
@@ -86,15 +87,17 @@ Session::Session(FrontEnd& front, SessionOptions options) : front_(front) {
     modelessOperation_ = std::make_unique<ed::ModelessOperation>(*documents_);
     commands_ = std::make_unique<ed::CommandTable>();
     processor_ = std::make_unique<ed::CommandProcessor>(*this);
+    ui_ = std::make_unique<ui::UserInterface>(*this);
     modules_ = std::make_unique<rx::ModuleLoader>(*this);
     registerHostCommands(*this);
     setUpColors(*settings_, options_);
     db::setWebFinder([this](const ZrString& kept) { return ed::findKeptFile(*this, kept); });
 }
 
-// Modules go first, then the drawings; both may use everything else while they do.
+// Modules go first, then the windows, then the drawings; all may use everything else while they do.
 Session::~Session() {
     modules_.reset();
+    ui_.reset();
     documents_->closeAll();
     db::setWebFinder(nullptr);
     processor_.reset();

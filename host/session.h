@@ -25,6 +25,9 @@ class ResourceLibrary;
 namespace rx {
 class ModuleLoader;
 }
+namespace ui {
+class UserInterface;
+}
 class DocumentManager;
 class SettingsStore;
 
@@ -57,6 +60,7 @@ public:
     [[nodiscard]] ed::CommandProcessor& processor() { return *processor_; }
     [[nodiscard]] sys::SystemVariables& variables() { return *variables_; }
     [[nodiscard]] sys::ResourceLibrary& resources() { return *resources_; }
+    [[nodiscard]] ui::UserInterface& ui() { return *ui_; }
     [[nodiscard]] rx::ModuleLoader& modules() { return *modules_; }
     [[nodiscard]] DocumentManager& documents() { return *documents_; }
     [[nodiscard]] SettingsStore& settings() { return *settings_; }
@@ -75,6 +79,7 @@ private:
     std::unique_ptr<ed::ModelessOperation> modelessOperation_;
     std::unique_ptr<ed::CommandTable> commands_;
     std::unique_ptr<ed::CommandProcessor> processor_;
+    std::unique_ptr<ui::UserInterface> ui_;
     std::unique_ptr<rx::ModuleLoader> modules_;
 };
 

@@ -25,8 +25,9 @@ public:
     [[nodiscard]] const CRect& GetFloatingRect() const { return floating_; }
     // The person, or the program that shows it, has moved or sized it; it is laid out anew.
     void SetFloatingRect(const CRect& rect);
-    // Width and height below which it cannot be made.
-    virtual void GetMinSize(CSize& size) const { size = {}; }
+    // Width and height below which it cannot be made; none at first.
+    void SetMinSize(const CSize& size) { minSize_ = size; }
+    virtual void GetMinSize(CSize& size) const { size = minSize_; }
 
 protected:
     // Lays out what is inside; called when the frame recalculates its layout and when the size has changed.
@@ -35,5 +36,9 @@ protected:
 
 private:
     friend class CZrMainFrame;
+    // Where it floats, large enough.
+    [[nodiscard]] CRect floatingPlace() const;
+
     CRect floating_;
+    CSize minSize_;
 };

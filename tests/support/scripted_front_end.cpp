@@ -1,7 +1,9 @@
 #include "tests/support/scripted_front_end.h"
 
 #include "host/ui/file_dialog_text.h"
+#include "host/ui/palette_text.h"
 #include "host/ui/task_dialog_text.h"
+#include "sdk/ui/menu.h"
 
 namespace quor::test {
 
@@ -14,6 +16,15 @@ std::optional<T> takeFirst(std::deque<T>& waiting) {
     std::optional<T> first = std::move(waiting.front());
     waiting.pop_front();
     return first;
+}
+
+void addMenuLines(const CMenu& menu, const ZrString& indent, std::vector<ZrString>& lines) {
+    for (const CMenu::Entry& entry : menu.entries()) {
+        const ZrString text = entry.isSeparator() ? ZrString(L"---") : entry.text;
+        lines.push_back(indent + (entry.checked ? L"[x] " : L"") + text);
+        if (entry.submenu != nullptr)
+            addMenuLines(*entry.submenu, indent + L"  ", lines);
+    }
 }
 
 } // namespace
@@ -91,6 +102,20 @@ FileAnswer ScriptedFrontEnd::chooseFile(const FileQuestion& question) {
     if (std::optional<std::optional<ZrString>> ready = takeFirst(files_))
         return {std::move(*ready), false};
     return ui::askFile(question, [this](const Question& asked) { return ask(asked); });
+}
+
+void ScriptedFrontEnd::realise(CWnd& window) {
+    realised_.push_back(&window);
+    if (whenRealised_)
+        whenRealised_(window);
+}
+
+void ScriptedFrontEnd::paletteShown(const CZkUiPaletteSet& palette) { print(ui::paletteText(palette, columns())); }
+
+unsigned ScriptedFrontEnd::trackMenu(const CMenu& menu, CPoint /*screen*/) {
+    lastMenu_.clear();
+    addMenuLines(menu, {}, lastMenu_);
+    return takeFirst(menuAnswers_).value_or(0);
 }
 
 } // namespace quor::test

@@ -25,6 +25,10 @@ public:
     void answerDialog(const TaskDialogAnswer& answer) { dialogAnswers_.push_back(answer); }
     // The file that is chosen next; none: cancelled. Without one the path is typed.
     void choose(std::optional<ZrString> file) { files_.push_back(std::move(file)); }
+    // The command that is chosen in the next menu; without one nothing is chosen.
+    void chooseMenu(unsigned command) { menuAnswers_.push_back(command); }
+    // Done to each window at the top when it is made; may throw, as a program that cannot show it.
+    void whenRealised(std::function<void(CWnd&)> action) { whenRealised_ = std::move(action); }
 
     // Everything that a screen would show: prompts with their answers, messages.
     [[nodiscard]] const ZrString& screen() const { return screen_; }
@@ -39,6 +43,11 @@ public:
     [[nodiscard]] const std::optional<CZrUiTaskDialog>& lastDialog() const { return lastDialog_; }
     // The file that was to be chosen last, as it was asked for.
     [[nodiscard]] const std::optional<FileQuestion>& lastFileQuestion() const { return lastFileQuestion_; }
+    // The menu that was shown last, a line for each entry: "[x] " before those that are checked, those of submenus
+    // indented, "---" for a separator.
+    [[nodiscard]] const std::vector<ZrString>& lastMenu() const { return lastMenu_; }
+    // The windows at the top that were made, in their order; they may be gone.
+    [[nodiscard]] const std::vector<CWnd*>& realised() const { return realised_; }
     // How often something that is shown had changed.
     [[nodiscard]] int redraws() const { return redraws_; }
     [[nodiscard]] std::size_t linesLeft() const { return lines_.size(); }
@@ -49,6 +58,10 @@ public:
     Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) override;
     TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) override;
     FileAnswer chooseFile(const FileQuestion& question) override;
+    void realise(CWnd& window) override;
+    // As text on the screen.
+    void paletteShown(const CZkUiPaletteSet& palette) override;
+    unsigned trackMenu(const CMenu& menu, CPoint screen) override;
     void redraw() override { ++redraws_; }
 
 private:
@@ -66,6 +79,10 @@ private:
     std::optional<FileQuestion> lastFileQuestion_;
     std::deque<TaskDialogAnswer> dialogAnswers_;
     std::deque<std::optional<ZrString>> files_;
+    std::deque<unsigned> menuAnswers_;
+    std::vector<ZrString> lastMenu_;
+    std::vector<CWnd*> realised_;
+    std::function<void(CWnd&)> whenRealised_;
     ZrString screen_;
     ScreenText screenText_;
     std::vector<ZrString> asked_;

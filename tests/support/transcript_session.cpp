@@ -10,6 +10,7 @@
 #include "host/sys/system_variables.h"
 #include "host/sys/utf8.h"
 #include "host/ui/file_dialog_text.h"
+#include "host/ui/palette_text.h"
 #include "host/ui/task_dialog_text.h"
 #include "sdk/db/database.h"
 #include "sdk/db/light.h"
@@ -60,6 +61,7 @@ public:
     FileAnswer chooseFile(const FileQuestion& file) override {
         return ui::askFile(file, [this](const Question& question) { return ask(question); });
     }
+    void paletteShown(const CZkUiPaletteSet& palette) override { print(ui::paletteText(palette, columns())); }
 
 private:
     void newLine() {

@@ -1,0 +1,19 @@
+#include "sdk/ui/control_bar.h"
+
+#include <algorithm>
+
+void CZkUiDockControlBar::SetFloatingRect(const CRect& rect) {
+    floating_ = rect;
+    if (IsWindow())
+        MoveWindow(floatingPlace());
+}
+
+void CZkUiDockControlBar::OnSize(int width, int height) { layOut({0, 0, width, height}); }
+
+CRect CZkUiDockControlBar::floatingPlace() const {
+    CSize least;
+    GetMinSize(least);
+    const int width = std::max({floating_.Width(), least.cx, 0});
+    const int height = std::max({floating_.Height(), least.cy, 0});
+    return {floating_.left, floating_.top, floating_.left + width, floating_.top + height};
+}

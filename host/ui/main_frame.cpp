@@ -1,0 +1,63 @@
+#include "sdk/ui/main_frame.h"
+
+#include "host/ed/command_processor.h"
+#include "host/session.h"
+#include "host/ui/user_interface.h"
+
+#include <algorithm>
+#include <utility>
+
+void CZrMainFrame::ShowControlBar(CControlBar* bar, bool show, bool delay) {
+    if (bar == nullptr || (!bar->IsWindow() && (!show || !make(*bar))))
+        return;
+    known(*bar).broughtToView = show;
+    if (show && !delay)
+        place(*bar);
+    // What is told of it may show and hide bars too.
+    if (bar->ShowWindow(show) != show)
+        bar->visibilityChanged(show);
+    quor::Session& session = quor::Session::current();
+    if (!session.processor().isRunning())
+        session.ui().settle();
+}
+
+void CZrMainFrame::RecalcLayout() {
+    for (std::size_t i = 0; i < bars_.size(); ++i)
+        if (bars_[i].exists() && bars_[i].bar->IsVisible())
+            place(*bars_[i].bar);
+}
+
+CControlBar* CZrMainFrame::takeBroughtToView() {
+    for (Bar& each : bars_)
+        if (std::exchange(each.broughtToView, false) && each.exists() && each.bar->IsVisible())
+            return each.bar;
+    return nullptr;
+}
+
+bool CZrMainFrame::make(CControlBar& bar) {
+    try {
+        return bar.createWindow(*this);
+    } catch (...) {
+        bar.DestroyWindow();
+        throw;
+    }
+}
+
+CZrMainFrame::Bar& CZrMainFrame::known(CControlBar& bar) {
+    std::erase_if(bars_, [](const Bar& each) { return !each.exists(); });
+    const auto at = std::find_if(bars_.begin(), bars_.end(), [&](const Bar& each) { return each.bar == &bar; });
+    return at != bars_.end() ? *at : bars_.emplace_back(Bar{&bar, quor::ui::WindowRef(&bar)});
+}
+
+void CZrMainFrame::place(CControlBar& bar) {
+    auto* const floating = dynamic_cast<CZkUiDockControlBar*>(&bar);
+    if (floating == nullptr)
+        return;
+    floating->MoveWindow(floating->floatingPlace());
+    floating->layOut(floating->GetClientRect());
+}
+
+CZrMainFrame* zredGetQuorFrame() {
+    quor::ui::UserInterface* const ui = quor::ui::UserInterface::existing();
+    return ui != nullptr ? &ui->frame() : nullptr;
+}
