@@ -21,7 +21,7 @@ struct Row {
     int (*run)(Session&);
     bool needsDrawing;
     int flags;
-    std::array<const wchar_t*, 3> aliases = {};
+    std::array<const wchar_t*, 4> aliases = {};
 };
 
 using namespace commands;
@@ -45,10 +45,13 @@ const Row kCommands[] = {
     {L"SELECT",     commands::select, kWithDrawing, 0},
     {L"ERASE",      erase,          kWithDrawing, 0, {L"E"}},
     {L"LIST",       list,           kWithDrawing, 0, {L"LI", L"LS"}},
+    {L"PROPERTIES", properties,     kWithDrawing, 0, {L"PROPS", L"PR", L"CH", L"MO"}},
     {L"LIGHTTABLE", lightTable,     kWithDrawing, 0},
     {L"-LIGHTTABLE", lightTableAsFile, kWithDrawing, 0},
     {L"LINE",       line,           kWithDrawing, 0, {L"L"}},
     {L"3DFACE",     face,           kWithDrawing, 0, {L"3F"}},
+    {L"REFEDIT",    commands::refEdit, kWithDrawing, 0},
+    {L"REFCLOSE",   refClose,       kWithDrawing, 0},
     {L"IESINFO",    iesInfo,        kAnytime,     kNoUndo},
     {L"COLORBOOKS", colorBooks,     kAnytime,     kNoUndo | kTransparent},
     {L"UCS",        ucs,            kWithDrawing, 0},

@@ -27,10 +27,13 @@ int redo(Session& session);
 int select(Session& session);
 int erase(Session& session);
 int list(Session& session);
+int properties(Session& session);
 int lightTable(Session& session);
 int lightTableAsFile(Session& session);
 int line(Session& session);
 int face(Session& session);
+int refEdit(Session& session);
+int refClose(Session& session);
 
 // Photometric web files, colour books.
 int iesInfo(Session& session);

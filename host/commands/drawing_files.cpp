@@ -2,9 +2,11 @@
 
 #include "host/commands/ask.h"
 #include "host/commands/save_place.h"
+#include "host/db/ref_edit.h"
 #include "host/db/versions.h"
 #include "host/session.h"
 #include "host/texts/files.h"
+#include "host/texts/ref_edit.h"
 
 #include <algorithm>
 
@@ -102,6 +104,10 @@ fs::path withExtension(fs::path path, const char* extension) {
 }
 
 int askSavePath(Session& session, const Document& document, fs::path& path) {
+    if (const db::RefEdit& editing = document.drawing().refEdit(); editing.isActive()) {
+        printText(L"\n" + fillShown(texts::kNotSavedWhileEditing, editing.blockName()) + L"\n");
+        return RTERROR;
+    }
     const std::optional<ZrString> answer = askLine(texts::kAskSavePath.get());
     if (!answer || answer->empty())
         return RTCAN;

@@ -18,8 +18,8 @@ int openPath(Session& session, const std::filesystem::path& file, bool recover);
 // is.
 [[nodiscard]] std::filesystem::path withExtension(std::filesystem::path path, const char* extension = ".dxf");
 // Asks where to save. A name without extension gets ".dxf". Asks before it replaces a file other than the drawing's
-// own. RTNORM with a path, RTCAN for Esc or Enter, RTERROR after a message for a file that is to be kept and a place
-// where nothing can be saved.
+// own. RTNORM with a path, RTCAN for Esc or Enter, RTERROR after a message for a file that is to be kept, a place where
+// nothing can be saved, and a drawing of which a block is being edited in place.
 [[nodiscard]] int askSavePath(Session& session, const Document& document, std::filesystem::path& path);
 // Saves and says where; a file that broke off is given its end. RTNORM or RTERROR.
 int saveTo(Document& document, const std::filesystem::path& path);

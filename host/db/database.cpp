@@ -6,6 +6,7 @@
 #include "host/db/light_names.h"
 #include "host/db/new_drawing.h"
 #include "host/db/object_reader.h"
+#include "host/db/ref_edit.h"
 #include "host/db/saver.h"
 #include "host/dxf/file_saver.h"
 #include "host/dxf/number_check.h"
@@ -31,7 +32,8 @@ Database::Database(dxf::Image image, dxf::Layout layout, bool isNew)
     : file_(std::move(image), std::move(layout)), objects_(*this), structure_(file_, objects_),
       layers_(structure_.table("LAYER"), file_), headers_(file_), tileMode_(headers_.place(L"$TILEMODE")),
       currentLayerName_(headers_.place(L"$CLAYER")), modelUcs_(ucsPlaces(true)), paperUcs_(ucsPlaces(false)),
-      variables_(file_, objects_, structure_), journal_(*this), interface_(makeInterface(*this)), isNew_(isNew) {
+      variables_(file_, objects_, structure_), journal_(*this), refEdit_(std::make_unique<RefEdit>(*this)),
+      interface_(makeInterface(*this)), isNew_(isNew) {
     for (const LayoutRecord& sheet : structure_.layouts())
         if (sheet.block == &structure_.paperSpace())
             currentLayout_ = sheet.name;

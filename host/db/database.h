@@ -22,6 +22,8 @@ struct ZrDbLightData;
 
 namespace quor::db {
 
+class RefEdit;
+
 // Why a drawing could not be read or saved, in words for a person.
 struct FileProblem {
     ZrString message;
@@ -102,6 +104,9 @@ public:
     [[nodiscard]] Ucs ucs() const;
     void setUcs(const Ucs& ucs);
 
+    // The editing of a block in place, of which a drawing has one at a time. It cannot be saved meanwhile.
+    [[nodiscard]] RefEdit& refEdit() const { return *refEdit_; }
+
     // Every entity of a space that is not erased, in drawing order.
     [[nodiscard]] std::vector<ZrDbObjectId> entities(ZrDbObjectId space) const;
     // The last of them; null when there is none.
@@ -172,6 +177,7 @@ private:
     UcsPlaces paperUcs_;
     VariableDictionary variables_;
     Journal journal_;
+    std::unique_ptr<RefEdit> refEdit_;
     std::unique_ptr<ZrDbDatabase> interface_;
     std::vector<ZrString> problems_;
     std::optional<bool> defaultLighting_;     // as it was set

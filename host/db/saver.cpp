@@ -4,10 +4,12 @@
 #include "host/db/object_reader.h"
 #include "host/db/object_writer.h"
 #include "host/db/owned_objects.h"
+#include "host/db/ref_edit.h"
 #include "host/db/save_settings.h"
 #include "host/db/versions.h"
 #include "host/sys/utf8.h"
 #include "host/texts/drawing_files.h"
+#include "host/texts/ref_edit.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -163,6 +165,9 @@ private:
 } // namespace
 
 Result<dxf::PatchList, FileProblem> collectPatches(Database& database, const ZrString& file) {
+    // The working set stands where its block is: a file would have both.
+    if (const RefEdit& editing = database.refEdit(); editing.isActive())
+        return fail(FileProblem{fill(texts::kNotSavedWhileEditing, editing.blockName())});
     return Collector(database).run(file);
 }
 

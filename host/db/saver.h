@@ -9,7 +9,7 @@
 namespace quor::db {
 
 // The patches that turn the file into the drawing; none for a drawing without changes. Fails when the version of the
-// file cannot hold what is in the drawing.
+// file cannot hold what is in the drawing, and while a block is being edited in place.
 [[nodiscard]] Result<dxf::PatchList, FileProblem> collectPatches(Database& database, const ZrString& file);
 
 // The tags of one object as they would be saved.

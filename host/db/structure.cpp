@@ -158,6 +158,7 @@ void Structure::readBlocks(const dxf::Section& section) {
         const std::string_view type = file_.typeName(record.type);
         if (type == "BLOCK") {
             open = &blockForRecord(record);
+            open->begin = static_cast<std::uint32_t>(i);
             ++i;
         } else if (type == "ENDBLK") {
             if (open != nullptr)

@@ -35,6 +35,8 @@ struct Block {
     std::size_t erasedTail = 0;         // so many of the last ones are known to be erased
     // Where new entities go in the file; 0: at the end of the ENTITIES section.
     std::uint64_t insertAt = 0;
+    // Its BLOCK record in the file, with the base point and the flags.
+    std::uint32_t begin = ObjectEntry::kNoRecord;
     // Entities of one type: of lights from the start, so that the first light of a large drawing does not wait for a
     // walk through it; of others when first asked for.
     std::map<dxf::NameId, std::vector<ObjectEntry*>> byType;
@@ -57,6 +59,8 @@ public:
     // The sheet whose entities stand in the ENTITIES section.
     [[nodiscard]] Block& paperSpace() const { return *paperSpace_; }
     [[nodiscard]] Block* blockOf(const ObjectEntry* record) const;
+    // By name, without regard to case; null when there is none.
+    [[nodiscard]] Block* findBlock(std::wstring_view name) const;
     // Sheets in tab order, without the model tab.
     [[nodiscard]] const std::vector<LayoutRecord>& layouts() const { return layouts_; }
 
@@ -96,7 +100,6 @@ private:
     std::size_t addEntity(Block& block, std::size_t record, std::size_t end);
     static void addToLists(Block& block, ObjectEntry& entity);
     Block& addBlock(ObjectEntry* record, const ZrString& name);
-    [[nodiscard]] Block* findBlock(std::wstring_view name) const;
     Block& blockForRecord(const dxf::Record& record);
 
     DrawingFile& file_;

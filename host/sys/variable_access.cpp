@@ -1,5 +1,6 @@
 #include "host/sys/variable_access.h"
 
+#include "host/db/ref_edit.h"
 #include "host/document.h"
 #include "host/ed/command_processor.h"
 #include "host/session.h"
@@ -91,6 +92,8 @@ VariableValue readUcsName(Session& session) { return drawing(session).ucs().name
 VariableValue readUcsOrigin(Session& session) { return drawing(session).ucs().origin; }
 VariableValue readUcsXDirection(Session& session) { return asPoint(drawing(session).ucs().xAxis); }
 VariableValue readUcsYDirection(Session& session) { return asPoint(drawing(session).ucs().yAxis); }
+
+VariableValue readRefEditName(Session& session) { return drawing(session).refEdit().blockName(); }
 
 VariableValue readWorldUcs(Session& session) {
     const db::Ucs ucs = drawing(session).ucs();

@@ -30,6 +30,8 @@ VariableValue readDrawingName(Session& session);
 VariableValue readDrawingPrefix(Session& session);
 VariableValue readDrawingModified(Session& session);
 VariableValue readDrawingVersion(Session& session);
+// The block that is being edited in place, empty when none is.
+VariableValue readRefEditName(Session& session);
 VariableValue readLastPoint(Session& session);
 SetResult writeLastPoint(Session& session, const VariableValue& value);
 

@@ -66,6 +66,7 @@ const VariableRow rows[] = {
     {.name = L"LUPREC", .type = Short, .home = Header, .headerCode = 70, .high = 8, .initial = short{4}},
     {.name = L"MEASUREMENT", .type = Short, .home = Header, .headerCode = 70, .high = 1},
     {.name = L"QUORVERSION", .type = Text, .home = Process, .readOnly = true, .initial = ZrString(kVersion)},
+    {.name = L"REFEDITNAME", .type = Text, .home = Drawing, .readOnly = true, .read = readRefEditName},
     {.name = L"SUPPORTPATH", .type = Text, .home = User, .initial = ZrString()},
     {.name = L"TILEMODE",
      .type = Short,

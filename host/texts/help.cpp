@@ -100,6 +100,12 @@ constexpr HelpPage kPages[] = {
      {L"选择对象，与 SELECT 相同。",
       L"Select objects as in SELECT."},
      L"LIST ALL "},
+    {L"PROPERTIES", kObjects,
+     {L"显示对象的特性，内容与 LIST 相同；对象保持选定。",
+      L"Shows the properties of objects as LIST does; they stay selected."},
+     {L"选择对象，与 SELECT 相同；已经选好的对象直接显示，显示后仍然选定。",
+      L"Select objects as in SELECT; objects already selected are shown at once and stay selected."},
+     L"PROPERTIES ALL "},
     {L"LIGHTTABLE", kObjects,
      {L"以表格列出图形中的光源。",
       L"Lists the lights of the drawing in tables."},
@@ -161,6 +167,26 @@ constexpr HelpPage kPages[] = {
       L"First to fourth point; Enter at the fourth makes a triangle. Each additional face takes two more points; Enter ends.\n"
       L"Invisible: entered before a point, hides the edge that starts there."},
      L"3DFACE 0,0 10,0 10,10 0,10 "},
+    {L"REFEDIT", kObjects,
+     {L"在位编辑块: 通过一个块参照修改块中的对象。",
+      L"Edits a block in place, through one of its references."},
+     {L"选择一个块参照，与 SELECT 相同；已经选好的参照直接编辑。块中的光源、直线和面成为工作集，可以像其他对象一样修改和删除；"
+      L"在同一空间中新画的对象也加入工作集。其他类型的对象保留在块中。参照本身暂时不可见。\n"
+      L"光源在缩放或旋转的参照中只移动位置和目标，其他值不变。\n"
+      L"完成后用 REFCLOSE；在此之前不能保存图形。REFEDITNAME 是正在编辑的块的名称。",
+      L"Select one block reference as in SELECT; a reference already selected is edited at once. The lights, lines, and faces "
+      L"of the block become the working set and can be changed and erased like any object; what you draw in the same space "
+      L"joins it. Objects of other types stay in the block. The reference itself is invisible for the time.\n"
+      L"In a scaled or rotated reference, only the position and target of a light move; its other values stay.\n"
+      L"When done, use REFCLOSE; until then, the drawing cannot be saved. REFEDITNAME is the name of the block being edited."},
+     L"REFEDIT L "},
+    {L"REFCLOSE", kObjects,
+     {L"结束在位编辑，保存或放弃对块的修改。",
+      L"Ends editing a block in place and saves or discards the changes."},
+     {L"保存(S): 修改写入块的定义，该块的所有参照都随之改变；没有改动的对象保持原样。放弃(D): 块不变，工作集中的对象全部删除。Enter 为保存。",
+      L"Save: the changes are written to the block definition and show in all its references; objects that were not changed "
+      L"stay exactly as they were. Discard: the block stays as it was and all objects of the working set are erased. Enter saves."},
+     L"REFCLOSE S"},
 
     {L"UCS", kSpaces,
      {L"设置用户坐标系。",

@@ -1,0 +1,27 @@
+// References to blocks (INSERT): which block a reference shows, and where.
+#pragma once
+
+#include "host/db/structure.h"
+#include "sdk/ge/matrix3d.h"
+
+#include <optional>
+
+namespace quor::db {
+
+class Database;
+
+struct BlockReference {
+    ZrString name;          // of the block
+    Block* block = nullptr; // null when the drawing has none of that name
+    ZrGeMatrix3d placement; // from the coordinates of the block to those around the reference
+    bool isArray = false;   // shows the block several times, in rows and columns
+    bool isFlat = false;    // a scale factor is zero: there is no way back from what it shows
+};
+
+// What a reference shows, as it stands in the file; nothing for an entity that is no reference.
+[[nodiscard]] std::optional<BlockReference> readBlockReference(Database& database, const ObjectEntry& entity);
+
+// Whether the block is another drawing, or comes with one.
+[[nodiscard]] bool isExternal(const DrawingFile& file, const Block& block);
+
+} // namespace quor::db
