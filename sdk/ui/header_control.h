@@ -19,12 +19,13 @@ public:
         int order = 0; // its place from the left
     };
 
-    // Its index, or -1 for a bad one.
+    // Its index, or -1 for a bad one. It stands as far from the left as its index says, whatever its order.
     int InsertItem(int index, const Item& item);
     bool DeleteItem(int index);
     [[nodiscard]] int GetItemCount() const { return static_cast<int>(items_.size()); }
     // An item as it is; null for a bad index. `order` is kept up to date.
     [[nodiscard]] const Item* GetItem(int index) const;
+    // False for a bad index, width or order.
     bool SetItem(int index, const Item& item);
     // In its client coordinates; from the left in their order, over the whole height.
     [[nodiscard]] CRect GetItemRect(int index) const;
@@ -41,6 +42,8 @@ protected:
     void takeContent(CWnd& other) override;
 
 private:
+    void itemsChanged();
+
     std::vector<Item> items_;
     CImageList* images_ = nullptr;
 };

@@ -112,8 +112,9 @@ public:
     // Scrolls as little as needed. False for a bad index.
     bool EnsureVisible(int index);
 
-    // Asks the parent (BeginLabelEdit); false when it refuses, or labels cannot be edited at all. EndLabelEdit() with a
-    // text asks the parent to take it over, without one gives up.
+    // Asks the parent (BeginLabelEdit); false when it refuses, or labels cannot be edited at all. EndEditLabel() with a
+    // text asks the parent too (EndLabelEdit), and takes it as text of column 0 unless that refuses; without one it
+    // gives up. F2 asks for the focused row, and so does a second click on the only selected row.
     bool EditLabel(int index);
     void EndEditLabel(const std::optional<ZrString>& text);
     [[nodiscard]] int editedItem() const;
@@ -155,8 +156,15 @@ protected:
 
 private:
     void layOutHeader();
+    void rowsChanged();
+    [[nodiscard]] int lastTopIndex() const;
+    [[nodiscard]] bool isSingleSelection() const;
+    void selectRow(unsigned id, bool select);
     void chooseRow(int index, unsigned flags);
+    void chooseAll();
+    void pressBesideRows(unsigned held);
     [[nodiscard]] int keyTarget(unsigned key) const;
+    void goTo(int index, unsigned held, bool movesFocusOnly);
     void tellClick(quor::ui::Notification::Code code, int index);
 
     std::unique_ptr<CHeaderCtrl> ownHeader_;
