@@ -1,6 +1,7 @@
 #include "light/app/cmds_app.h"
 
 #include "light/app/command_rows.h"
+#include "light/palette/show_light_list.h"
 #include "light/res/load_text.h"
 #include "sdk/rx/command_manager.h"
 
@@ -23,11 +24,13 @@ Zr::AppRetCode CQUORCmdsApp::onInitAppMsg(void* applicationId) {
         manager->registerCmd2(row.make, row.run, quor::light::commandGroup, row.globalName, localName.c_str(), 0);
     }
     addHelp(*manager);
+    quor::light::addLightList();
     return result;
 }
 
 Zr::AppRetCode CQUORCmdsApp::onUnloadAppMsg(void* applicationId) {
     const Zr::AppRetCode result = ZrRxZpxApp::onUnloadAppMsg(applicationId);
     RxCmdManager::releaseInstance();
+    quor::light::releaseLightList();
     return result;
 }

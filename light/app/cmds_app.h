@@ -5,7 +5,7 @@
 
 class CQUORCmdsApp : public ZrRxZpxApp {
 protected:
-    // Registers the commands with the host's command library.
+    // Registers the commands with the host's command library, then the palette and LIGHTLISTSTATE.
     Zr::AppRetCode onInitAppMsg(void* applicationId) override;
     // Takes back what the initialisation did.
     Zr::AppRetCode onUnloadAppMsg(void* applicationId) override;

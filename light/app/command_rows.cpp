@@ -8,6 +8,7 @@
 #include "light/commands/spot_light.h"
 #include "light/commands/target_point.h"
 #include "light/commands/web_light.h"
+#include "light/palette/light_list_commands.h"
 
 #include <new>
 
@@ -39,6 +40,8 @@ constexpr CommandRow rows[] = {
     row<CZrFreeSpotCmd>(L"FREESPOT", texts.freeSpotCommand, texts.freeSpotHelp),
     row<CZrFreeWebCmd>(L"FREEWEB", texts.freeWebCommand, texts.freeWebHelp),
     row<CZrLightCmd>(L"Light", texts.lightCommand, texts.lightHelp),
+    row<CZrLightListCmd>(L"LightList", texts.lightListCommand, texts.lightListHelp),
+    row<CZrLightListCloseCmd>(L"LightListClose", texts.lightListCloseCommand, texts.lightListCloseHelp),
 };
 
 } // namespace

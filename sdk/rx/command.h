@@ -15,6 +15,8 @@ class RxCommand : public ZrEdInputPointMonitor {
 public:
     // A fixed word for the kind of command, e.g. "POINTLIGHTCMD".
     [[nodiscard]] virtual const wchar_t* typeName() const = 0;
+    // The command's flag word, for the command library. What registers the command has flags of its own.
+    [[nodiscard]] virtual int commandFlags() const { return 0; }
     // Asked by the command library before it executes the command: whether the command can be used now. One that
     // cannot has said why, and is not executed.
     [[nodiscard]] virtual bool canExecute() { return true; }

@@ -72,7 +72,6 @@ public:
     virtual void paletteShownChanged(bool /*shown*/) {}
     // Whether the person can see it.
     [[nodiscard]] virtual bool IsWindowVisibleEx() const { return IsVisible() && IsWindowVisible(); }
-    void GetMinSize(CSize& size) const override { size = {}; }
 
 protected:
     void visibilityChanged(bool shown) override { paletteShownChanged(shown); }

@@ -1,0 +1,14 @@
+// When the glyph of a light is shown in the drawing: asked and set from the list.
+#pragma once
+
+#include "sdk/db/object_id.h"
+
+enum class GlyphDisplay;
+
+namespace quor::light {
+
+// Sets it as one step of undo. Nothing happens to a light that cannot be opened, and none while the drawing cannot be
+// locked.
+void setGlyphDisplay(ZrDbObjectId light, GlyphDisplay display);
+
+} // namespace quor::light
