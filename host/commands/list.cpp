@@ -76,4 +76,13 @@ int list(Session& session) {
     return RTNORM;
 }
 
+int properties(Session& session) {
+    const ZrDbObjectIdArray selected = zredImpliedSelection();
+    const int result = list(session);
+    // What a command selects stays selected when it ends.
+    if (!selected.empty())
+        zredSetImpliedSelection(selected);
+    return result;
+}
+
 } // namespace quor::commands
