@@ -1,5 +1,6 @@
 #include "sdk/ui/resource_templates.h"
 
+#include "host/texts/text.h"
 #include "host/ui/host_resources.h"
 #include "host/ui/resource_lookup.h"
 #include "sdk/ui/image_list.h"
@@ -74,25 +75,30 @@ TEST(Icon, IsLoadedFromTheGivenResourcesWhateverIsInUse) {
     EXPECT_EQ(icon.picture(), nullptr);
 }
 
-TEST(HostResources, HoldTheIconOfAListOfLights) {
-    const PictureResource* const picture = ui::findPicture(nullptr, ui::kLightListIcon);
+class HostResources : public testing::Test {
+protected:
+    HostResources() { setLanguage(Language::Chinese); }
+    ~HostResources() override { setLanguage(Language::Chinese); }
+    static const PictureResource* lightList() { return ui::findPicture(nullptr, ui::kLightListIcon); }
+};
 
-    ASSERT_NE(picture, nullptr);
-    EXPECT_EQ(picture->size, (CSize{16, 16}));
-    EXPECT_TRUE(picture->svg.starts_with("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"16\" height=\"16\""));
-    EXPECT_TRUE(picture->svg.ends_with("</svg>\n"));
-    EXPECT_EQ(zwResourceText(picture->name), L"光源列表");
+TEST_F(HostResources, HoldTheIconOfAListOfLights) {
+    ASSERT_NE(lightList(), nullptr);
+    EXPECT_EQ(lightList()->size, (CSize{16, 16}));
+    EXPECT_TRUE(lightList()->svg.starts_with("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"16\" height=\"16\""));
+    EXPECT_TRUE(lightList()->svg.ends_with("</svg>\n"));
+    EXPECT_EQ(zwResourceText(lightList()->name), L"光源列表");
 }
 
-TEST(HostResources, NameTheirPicturesInEnglishToo) {
-    test::TestSession english({.language = L"en", .newDrawing = false});
-
-    EXPECT_EQ(zwResourceText(ui::findPicture(nullptr, ui::kLightListIcon)->name), L"List of lights");
+TEST_F(HostResources, NameTheirPicturesInEnglishToo) {
+    setLanguage(Language::English);
+    EXPECT_EQ(zwResourceText(lightList()->name), L"List of lights");
 }
 
 // A session whose command library has one text, 900.
 class ResourceText : public testing::Test {
 protected:
+    ~ResourceText() override { setLanguage(Language::Chinese); }
     void translate(const char* translation) {
         const std::filesystem::path language = folder_.path() / "lang" / "en";
         std::filesystem::create_directories(language);

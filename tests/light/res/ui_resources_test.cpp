@@ -1,6 +1,7 @@
 // The palette's menus, dialog and pictures, as the host finds them.
 #include "light/res/ui_resources.h"
 
+#include "host/texts/text.h"
 #include "host/ui/resource_lookup.h"
 #include "light/res/text_table.h"
 #include "sdk/ui/list_control.h"
@@ -17,6 +18,7 @@ using testing::ElementsAre;
 
 class Menus : public testing::Test {
 protected:
+    ~Menus() override { setLanguage(Language::Chinese); }
     // The menu that pops up.
     const CMenu& popup(unsigned id) {
         menu_.LoadMenu(id);
