@@ -7,6 +7,7 @@
 #include "sdk/ed/get.h"
 #include "sdk/ed/macro.h"
 #include "sdk/ed/selection.h"
+#include "sdk/ui/window.h"
 #include "tests/support/test_session.h"
 
 #include <gtest/gtest.h>
@@ -225,6 +226,16 @@ TEST_F(Processor, MacroThatCancelsFirstDropsWhatWasTypedAhead) {
     test_.run({});
     EXPECT_TRUE(calledByProgram_);
     EXPECT_EQ(number_, 0);
+}
+
+TEST_F(Processor, MacroGivesTheKeyboardToTheDrawingWhereThatIsWished) {
+    CWnd window;
+    ASSERT_TRUE(window.Create({.style = WS_VISIBLE}));
+    window.SetFocus();
+    zredMenuMacro(L"WHO");
+    EXPECT_TRUE(window.hasFocus());
+    zredMenuMacro(L"WHO", false, true);
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
 }
 
 TEST_F(Processor, NoMacroIsRefused) { EXPECT_EQ(zredMenuMacro(nullptr, true, true), RTERROR); }
