@@ -1,6 +1,7 @@
 #include "host/dxf/tag_reader.h"
 
 #include "host/dxf/binary_tags.h"
+#include "host/dxf/code_line.h"
 
 #include <algorithm>
 #include <cstring>
@@ -12,6 +13,14 @@ namespace {
 std::size_t findLineFeed(std::string_view file, std::size_t at, std::size_t end) {
     const auto* found = static_cast<const char*>(std::memchr(file.data() + at, '\n', end - at));
     return found != nullptr ? static_cast<std::size_t>(found - file.data()) : end;
+}
+
+// The group code on the line file[begin, end).
+int codeAt(std::string_view file, std::size_t begin, std::size_t end) {
+    const std::size_t length = end - begin;
+    if (begin + 4 <= file.size())
+        return readCodeLine(file.data() + begin, length);
+    return parseGroupCode(file.substr(begin, length)).value_or(kBadCode);
 }
 
 std::string_view lineBody(std::string_view file, std::size_t begin, std::size_t end) {
@@ -43,12 +52,12 @@ bool TagReader::stop() {
 
 bool TagReader::nextAscii(Tag& tag) {
     const std::size_t codeEnd = findLineFeed(file_, at_, end_);
-    const auto code = parseGroupCode(file_.substr(at_, codeEnd - at_));
-    if (!code || codeEnd + 1 >= end_) {
+    const int code = codeAt(file_, at_, codeEnd);
+    if (code == kBadCode || codeEnd + 1 >= end_) {
         return stop();
     }
     const std::size_t valueEnd = findLineFeed(file_, codeEnd + 1, end_);
-    tag.code = *code;
+    tag.code = code;
     tag.raw = lineBody(file_, codeEnd + 1, valueEnd);
     tag.begin = at_;
     tag.end = std::min(valueEnd + 1, end_);
