@@ -31,7 +31,7 @@ constexpr ThemeColor kElements[] = {
     {kThemeHeaderSeparator, RGB(0x5B, 0x62, 0x6E), RGB(0xB4, 0xBB, 0xC5)},
     {kThemeListBackground, kDarkSheet, kLightSheet},
     {kThemeListText, kDarkInk, kLightInk},
-    {kThemeUnfocusedSelection, RGB(0x47, 0x4D, 0x58), RGB(0xD6, 0xDB, 0xE2)},
+    {kThemeUnfocusedSelection, RGB(0x47, 0x4D, 0x58), RGB(0xD2, 0xD7, 0xDF)},
     {kThemeLabelBackground, kDarkGround, kLightGround},
     {kThemeLabelText, RGB(0xE3, 0xE6, 0xEA), RGB(0x24, 0x28, 0x2E)},
     {kThemeDialogBackground, kDarkGround, kLightGround},
