@@ -34,11 +34,24 @@ bool CWnd::Create(const Creation& creation) {
     }
     if (!exists_)
         return false;
-    if (parent_ != nullptr)
-        parent_->tellPeer(WindowPeer::Change::Content);
-    else if (quor::Session::exists())
-        quor::Session::current().front().realise(*this);
+    announce();
     return true;
+}
+
+// Those who show windows have a new one. What they throw comes through, and there is no window.
+void CWnd::announce() {
+    if (parent_ != nullptr) {
+        parent_->tellPeer(WindowPeer::Change::Content);
+        return;
+    }
+    if (!quor::Session::exists())
+        return;
+    try {
+        quor::Session::current().front().realise(*this);
+    } catch (...) {
+        DestroyWindow();
+        throw;
+    }
 }
 
 bool CWnd::SubclassWindow(CWnd& other) {

@@ -74,14 +74,16 @@ public:
     CWnd(const CWnd&) = delete;
     CWnd& operator=(const CWnd&) = delete;
 
-    // Makes the window of this object: PreSubclassWindow(), then OnCreate(). False, and no window, when it has one, or
-    // OnCreate() refuses.
+    // Makes the window of this object: PreSubclassWindow(), then OnCreate(). False when it has one already or the
+    // parent has none; false, and no window, when OnCreate() refuses. Without a parent the program that runs may show
+    // it: what that throws comes through, and there is no window.
     bool Create(const Creation& creation);
     // Takes the place of another window: its text, rectangle, styles, number, children, its place among its siblings,
-    // and what the control holds. The other object has no window afterwards. Then calls PreSubclassWindow(). False when
-    // this object has a window or the other has none.
+    // and what the control holds, with its peer and the keyboard. The other object has no window afterwards. Then calls
+    // PreSubclassWindow(). False when this object has a window or the other has none.
     bool SubclassWindow(CWnd& other);
-    // Its children's windows go first. OnDestroy() is called while all is still there. Nothing without a window.
+    // OnDestroy() is called while all is still there; then its children's windows go, then its own. Nothing without a
+    // window.
     void DestroyWindow();
     [[nodiscard]] bool IsWindow() const { return exists_; }
 
@@ -98,7 +100,7 @@ public:
     [[nodiscard]] const ZrString& GetWindowText() const { return text_; }
 
     [[nodiscard]] unsigned GetStyle() const { return style_; }
-    // Whether they have changed.
+    // Whether they have changed. WS_VISIBLE and WS_DISABLED do what ShowWindow() and EnableWindow() do.
     bool ModifyStyle(unsigned remove, unsigned add);
 
     // On the screen.
@@ -196,6 +198,7 @@ protected:
     void contentChanged();
 
 private:
+    void announce();
     void destroyChildren();
     void dropWindow();
     void leaveParent();
