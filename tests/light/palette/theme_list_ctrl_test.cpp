@@ -186,6 +186,15 @@ TEST_F(ThemedList, GivesTheColorsOfTheContextBack) {
     EXPECT_EQ(dc.GetBkColor(), RGB(4, 5, 6));
 }
 
+TEST_F(ThemedList, ThatIsMadeWithItsWindowHasSuchAHeaderToo) {
+    ThemeListCtrl other;
+    other.Create({.parent = &parent_, .id = 2, .style = LVS_REPORT, .rect = {0, 0, 200, 200}});
+
+    EXPECT_EQ(other.GetStyle() & 0x400U, 0x400U);
+    EXPECT_NE(dynamic_cast<ThemeHeaderCtrl*>(other.GetHeaderCtrl()), nullptr);
+    EXPECT_TRUE(other.GetHeaderCtrl()->IsWindow());
+}
+
 TEST_F(ThemedList, GoesWithItsWindow) {
     {
         ThemeListCtrl other;
