@@ -12,7 +12,7 @@ inline constexpr int HDF_IMAGE = 0x800;
 class CHeaderCtrl : public CWnd {
 public:
     struct Item {
-        ZrString text;
+        ZrString text{};
         int width = 0; // pixels
         int format = HDF_LEFT;
         int image = -1;
