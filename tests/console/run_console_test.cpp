@@ -187,6 +187,16 @@ TEST_F(RunConsoleTest, FailedSaveCountsForMoreThanAFailedCommandThatWasPassedOve
     EXPECT_EQ(run(), kNotSaved);
 }
 
+TEST_F(RunConsoleTest, DoesNotSaveADrawingOfWhichABlockIsBeingEdited) {
+    options_.drawing = QUOR_TEST_DATA "/dxf/own/luminaires.dxf";
+    options_.output = path("out.dxf");
+    command("REFEDIT #60 ");
+    EXPECT_EQ(run(), kNotSaved);
+    EXPECT_TRUE(has(err_, "Block \"LAMP\" is being edited"));
+    EXPECT_TRUE(has(err_, "REFCLOSE"));
+    EXPECT_FALSE(std::filesystem::exists(path("out.dxf")));
+}
+
 TEST_F(RunConsoleTest, AnswersThatRunOutAreAFailureOfTheScript) {
     command("LINE 0,0");
     EXPECT_EQ(run(), kCommandFailed);
