@@ -176,7 +176,7 @@ constexpr HelpPage kPages[] = {
       L"完成后用 REFCLOSE；在此之前不能保存图形。REFEDITNAME 是正在编辑的块的名称。",
       L"Select one block reference as in SELECT; a reference already selected is edited at once. The lights, lines, and faces "
       L"of the block become the working set and can be changed and erased like any object; what you draw in the same space "
-      L"joins it. Objects of other types stay in the block. The reference itself is invisible for the time.\n"
+      L"joins it. Objects of other types stay in the block. The reference itself is invisible meanwhile.\n"
       L"In a scaled or rotated reference, only the position and target of a light move; its other values stay.\n"
       L"When done, use REFCLOSE; until then, the drawing cannot be saved. REFEDITNAME is the name of the block being edited."},
      L"REFEDIT L "},
