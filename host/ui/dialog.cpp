@@ -59,7 +59,7 @@ bool CDialog::Create(unsigned templateId, CWnd& parent) {
 
 bool CDialog::SubclassDlgItem(unsigned id, CWnd& control) {
     const auto found = std::ranges::find_if(templateControls_, [id](const std::unique_ptr<CWnd>& placeholder) {
-        return placeholder->IsWindow() && placeholder->GetDlgCtrlID() == id;
+        return placeholder->GetDlgCtrlID() == id;
     });
     if (found == templateControls_.end() || !control.SubclassWindow(**found))
         return false;

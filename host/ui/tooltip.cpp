@@ -5,6 +5,7 @@
 bool CToolTipCtrl::AddTool(CWnd& window, const ZrString& text) {
     if (!window.IsWindow())
         return false;
+    std::erase_if(tools_, [](const Tool& tool) { return !tool.window; });
     if (find(window) == nullptr)
         tools_.push_back({quor::ui::WindowRef(&window), {}});
     UpdateTipText(text, window);
@@ -50,9 +51,7 @@ void CToolTipCtrl::show(CWnd* window) {
     contentChanged();
 }
 
-// Tools whose windows are gone are left out on the way.
 CToolTipCtrl::Tool* CToolTipCtrl::find(const CWnd& window) {
-    std::erase_if(tools_, [](const Tool& tool) { return !tool.window; });
     const auto found = std::ranges::find(tools_, &window, [](const Tool& tool) { return tool.window.get(); });
     return found == tools_.end() ? nullptr : &*found;
 }

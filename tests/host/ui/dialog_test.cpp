@@ -183,6 +183,26 @@ TEST_F(Dialogs, AControlIsTakenOverOnce) {
     EXPECT_EQ(dialog.GetDlgItem(11), &first);
 }
 
+TEST_F(Dialogs, AControlCanBeTakenOverInEachDialogThatIsMade) {
+    CStatic label;
+    dialog.Create(1, parent);
+    dialog.SubclassDlgItem(11, label);
+    dialog.DestroyWindow();
+    dialog.Create(1, parent);
+
+    EXPECT_TRUE(dialog.SubclassDlgItem(11, label));
+
+    EXPECT_EQ(dialog.GetDlgItem(11), &label);
+}
+
+TEST_F(Dialogs, AControlThatIsGoneCannotBeTakenOver) {
+    CStatic label;
+    dialog.Create(1, parent);
+    dialog.GetDlgItem(11)->DestroyWindow();
+
+    EXPECT_FALSE(dialog.SubclassDlgItem(11, label));
+}
+
 TEST_F(Dialogs, ThereIsNothingToTakeOverUnderAnotherNumber) {
     CStatic label;
     dialog.Create(1, parent);

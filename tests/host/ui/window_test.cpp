@@ -316,6 +316,16 @@ TEST_F(Windows, ADestroyedWindowCanBeMadeAgain) {
     EXPECT_EQ(a.GetWindowText(), L"again");
 }
 
+TEST_F(Windows, AWindowThatIsMadeAgainCanBeDestroyedAgain) {
+    a.Create({});
+    a.DestroyWindow();
+    a.Create({});
+
+    a.DestroyWindow();
+
+    EXPECT_FALSE(a.IsWindow());
+}
+
 TEST_F(Windows, AnObjectThatGoesLeavesItsParentWithoutBeingTold) {
     top.Create({});
     auto gone = std::make_unique<LoggedWindow>(log, "gone");
