@@ -41,6 +41,15 @@ TEST_F(BlockReferences, PutTheBasePointWhereTheyStand) { EXPECT_EQ(shown(0x60, k
 
 TEST_F(BlockReferences, TurnByAQuarterWithoutARoundingError) {
     EXPECT_EQ(shown(0x61, kSpot), ZrGePoint3d(200, 52, 15));
+    EXPECT_EQ(reference(0x61)->placement * ZrGeVector3d::kXAxis, ZrGeVector3d::kYAxis);
+}
+
+TEST_F(BlockReferences, TurnBackwardsToo) {
+    std::string bytes = fileBytes("own/luminaires.dxf");
+    const std::string turn = " 50\n90.0\n";
+    bytes.replace(bytes.find(turn), turn.size(), " 50\n-450.0\n");
+    database = parsed(bytes);
+    EXPECT_EQ(reference(0x61)->placement * ZrGeVector3d::kXAxis, -ZrGeVector3d::kYAxis);
 }
 
 TEST_F(BlockReferences, MirrorAndTurn) { expectNear(shown(0x62, kSpot), {-2 * std::sqrt(3.0), 98, 10}); }

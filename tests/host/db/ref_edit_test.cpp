@@ -298,6 +298,7 @@ TEST_F(RefEditing, ALayerThatTheTableLacksStays) {
     bytes.replace(bytes.find(layer), layer.size(), "AcDbEntity\n  8\nGone\n100\nAcDbLine\n");
     database = parsed(bytes);
     begin(kPlain);
+    ZrDbObjectPointer<ZrDbLine>(copyOf<ZrDbLine>(), ZrDb::kForWrite)->setLayer(L"0"); // as it has been copied
     ZrDbObjectPointer<ZrDbLine>(copyOf<ZrDbLine>(), ZrDb::kForWrite)->setEndPoint({105, 0, 0});
 
     save();
