@@ -7,7 +7,7 @@ namespace quor::light {
 namespace {
 
 int listTop(const CRect& frame) {
-    // Each length is rounded for itself, so that the label may reach further than 25 of its pixels on a finer screen.
+    // Rounded lengths need not add up to the rounded sum: on a finer screen the list begins where the label ends.
     if (ZkUiGetDisplayScale() > 1.0)
         return frame.top + ZkUiGetCtrlDPISize(4) + ZkUiGetCtrlDPISize(20) + ZkUiGetCtrlDPISize(1);
     return frame.top + ZkUiGetCtrlDPISize(25);

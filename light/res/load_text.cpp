@@ -22,7 +22,7 @@ void checkTranslations(ZwResourceHandle module, TextSource source) {
     zwCheckResourceTexts(module, builtIn);
 }
 
-// Read when the first of its texts is needed: a program that is started has no use for any of them yet.
+// Held against the built-in texts when the first of its texts is needed.
 ZwResourceHandle commandLibraryModule() {
     static ZwResourceHandle checked = nullptr;
     const ZwResourceHandle module = zwCommandLibraryResources();

@@ -14,11 +14,12 @@
 #include <cwctype>
 #include <gtest/gtest.h>
 #include <memory>
+#include <span>
 
 namespace quor {
 namespace {
 
-constexpr std::size_t commandCount = 8;
+constexpr std::size_t commandCount = 10;
 
 // What a command is known by.
 struct Known {
@@ -31,6 +32,8 @@ struct Known {
     const wchar_t* example; // how the last part of its page begins
 };
 
+// Those that make lights come first.
+constexpr std::size_t lightCommandCount = 8;
 constexpr Known commands[] = {
     {"PointLight", 0, L"POINTLIGHT", 63301, L"POINTLIGHTCMD", 64001, L"\n例: POINTLIGHT "},
     {"SpotLight", 1, L"SPOTLIGHT", 63305, L"SPOTLIGHTCMD", 64002, L"\n例: SPOTLIGHT "},
@@ -40,6 +43,8 @@ constexpr Known commands[] = {
     {"FreeSpot", 5, L"FREESPOT", 63303, L"FREESPOTCMD", 64005, L"\n例: FREESPOT "},
     {"FreeWeb", 6, L"FREEWEB", 63304, L"FREEWEBCMD", 64006, L"\n例: FREEWEB "},
     {"Light", 7, L"Light", 63325, L"LightCmd", 64008, L"\n例: LIGHT "},
+    {"LightList", 8, L"LightList", 63318, L"LightListCmd", 64009, L"\n例: LIGHTLIST"},
+    {"LightListClose", 9, L"LightListClose", 63319, L"LightListCloseCmd", 64010, L"\n例: LIGHTLISTCLOSE"},
 };
 
 TEST(CommandRows, ThereIsOneForEachCommand) {
@@ -98,7 +103,9 @@ TEST_P(EachCommand, IsTakenAwayWithTheModule) {
     EXPECT_EQ(session_.session().commands().find(word()), nullptr);
 }
 
-TEST_P(EachCommand, RunsFromItsGlobalNameWhateverItsCase) {
+class EachLightCommand : public EachCommand {};
+
+TEST_P(EachLightCommand, RunsFromItsGlobalNameWhateverItsCase) {
     zwutads::setVar(L"LIGHTINGUNITS", 2);
     zwutads::setVar(L"TILEMODE", 0);
     const ed::Command* command = registered();
@@ -113,7 +120,7 @@ TEST_P(EachCommand, RunsFromItsGlobalNameWhateverItsCase) {
 }
 
 // Enter where a light is thrown away would keep it: every line of the page's example counts.
-TEST_P(EachCommand, TheExampleOfItsPageMakesOneLight) {
+TEST_P(EachLightCommand, TheExampleOfItsPageMakesOneLight) {
     const ZrString page = help();
     const std::size_t begin = page.rfind(GetParam().example);
     ASSERT_NE(begin, ZrString::npos);
@@ -143,7 +150,16 @@ TEST_P(EachCommand, HelpShowsItsPage) {
     EXPECT_TRUE(session_.front().shows(heading + ZrString(page.substr(0, page.find(L'\n')))));
 }
 
+// The last part of it, so that it can be typed.
+TEST_P(EachCommand, ItsPageEndsWithAnExample) {
+    const ZrString page = help();
+
+    EXPECT_NE(page.rfind(GetParam().example), ZrString::npos);
+}
+
 INSTANTIATE_TEST_SUITE_P(All, EachCommand, testing::ValuesIn(commands),
+                         [](const auto& info) { return std::string(info.param.test); });
+INSTANTIATE_TEST_SUITE_P(All, EachLightCommand, testing::ValuesIn(std::span(commands).first(lightCommandCount)),
                          [](const auto& info) { return std::string(info.param.test); });
 
 class EachTranslatedCommand : public test::TranslatedModuleTest, public testing::WithParamInterface<Known> {
