@@ -73,6 +73,18 @@ TEST_F(ThemedHeader, FollowsTheThemeFromOnePaintingToTheNext) {
                                            separator({119, 0, 120, 24}), text(L"Name", {5, 0, 120, 24})));
 }
 
+TEST_F(ThemedHeader, LeavesItsColorsInTheContext) {
+    header_.InsertItem(0, {.text = L"Name", .width = 120});
+    ui::RecordingDevice device;
+    CDC dc(device);
+
+    header_.dispatchPaint(dc);
+
+    EXPECT_EQ(dc.GetTextColor(), themeColor(31));
+    EXPECT_EQ(dc.GetBkColor(), themeColor(30));
+    EXPECT_EQ(dc.GetBkMode(), TRANSPARENT);
+}
+
 TEST_F(ThemedHeader, GivesTheFontBack) {
     header_.InsertItem(0, {.text = L"Name", .width = 120});
     ui::RecordingDevice device;
