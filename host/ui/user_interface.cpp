@@ -18,9 +18,9 @@ constexpr const wchar_t* kFrameTitle = L"Quor";
 
 UserInterface::UserInterface(Session& session) : session_(session) {
     assert(running == nullptr && "one user interface at a time");
-    running = this;
     frame_.Create({.style = WS_VISIBLE, .text = kFrameTitle});
     notifier_ = std::make_unique<PaletteNotifier>(session, *this);
+    running = this;
 }
 
 UserInterface::~UserInterface() {

@@ -76,6 +76,18 @@ TEST_F(RunConsoleTest, PipedAnswersReadLikeTheScreen) {
     EXPECT_EQ(err_, kUnsaved);
 }
 
+TEST_F(RunConsoleTest, PalettesAreShownAsTextBeforeTheNextPrompt) {
+    EXPECT_EQ(run("LIGHTLIST\n"), kSuccess);
+    EXPECT_EQ(out_, "Command: LIGHTLIST\nLights in Model\nThe list is empty.\nCommand: \n");
+}
+
+TEST_F(RunConsoleTest, PalettesAreNotShownQuietly) {
+    options_.quiet = true;
+    command("LIGHTLIST");
+    EXPECT_EQ(run(), kSuccess);
+    EXPECT_EQ(out_, "");
+}
+
 TEST_F(RunConsoleTest, PipedInputGoesOnBehindAFailedCommand) {
     EXPECT_EQ(run("NOSUCH\nLINE 0,0 1,1 \n"), kSuccess);
     EXPECT_TRUE(has(out_, "Unknown command \"NOSUCH\""));

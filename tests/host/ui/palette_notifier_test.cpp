@@ -123,6 +123,11 @@ TEST_F(ThePalette, IsToldHowDrawingsAreOpenedSwitchedAndClosed) {
     EXPECT_EQ(log_, (Log{"to be deactivated Drawing1", "to be destroyed Drawing1", "current none"}));
 }
 
+TEST_F(ThePalette, IsToldOfADrawingThatACommandOpensWithinThatCommand) {
+    EXPECT_EQ(toldBy({L"NEW"}),
+              (Log{"command starts", "to be deactivated Drawing1", "current Drawing2", "command finished"}));
+}
+
 TEST_F(ThePalette, IsToldOfAVariableThatIsOfNoDrawing) {
     variables().set(L"CMDECHO", short{0});
     EXPECT_EQ(log_, (Log{"variable CMDECHO"}));
