@@ -96,13 +96,21 @@ bool CListCtrl::DeleteItem(int index) {
 }
 
 bool CListCtrl::DeleteAllItems() {
-    SetRows({});
+    edited_ = kNoRow;
+    rows_->clear();
+    rowsChanged();
     return true;
 }
 
 void CListCtrl::SetRows(std::vector<Row> rows) {
     edited_ = kNoRow;
     rows_->assign(std::move(rows));
+    rowsChanged();
+}
+
+void CListCtrl::SetRows(std::vector<std::vector<ZrString>> columns, std::vector<int> images) {
+    edited_ = kNoRow;
+    rows_->assign(std::move(columns), std::move(images));
     rowsChanged();
 }
 
@@ -161,6 +169,13 @@ unsigned CListCtrl::nextID(unsigned id) const { return rows_->next(id); }
 void CListCtrl::SortItems(const std::function<bool(unsigned before, unsigned after)>& less) {
     rows_->sort(less);
     contentChanged();
+}
+
+bool CListCtrl::ReorderItems(const std::vector<unsigned>& ids) {
+    if (!rows_->reorder(ids))
+        return false;
+    contentChanged();
+    return true;
 }
 
 CImageList* CListCtrl::SetImageList(CImageList* images, int kind) {

@@ -16,11 +16,11 @@ ListRows::Id ListRows::freshId() {
     return id;
 }
 
-ListRows::Id ListRows::insert(int index, ZrString text, int image) {
+ListRows::Id ListRows::insert(int index, const ZrString& text, int image) {
     const Id id = freshId();
     images_[id] = image;
     if (!text.empty())
-        setText(id, 0, std::move(text));
+        setText(id, 0, text);
     order_.insert(static_cast<unsigned>(index), id);
     return id;
 }
@@ -39,12 +39,17 @@ void ListRows::erase(Id id) {
     unused_.push_back(id);
 }
 
-void ListRows::clear() { assign({}); }
+void ListRows::clear() {
+    const bool numbered = numbered_;
+    *this = ListRows();
+    numbered_ = numbered;
+}
 
 void ListRows::assign(std::vector<CListCtrl::Row> rows) {
     unused_.clear();
-    columns_.clear();
     data_.clear();
+    for (Texts& texts : columns_)
+        texts.clear();
     images_.resize(rows.size());
     focus_ = mark_ = kNone;
     std::vector<Id> ids(rows.size());
@@ -53,6 +58,18 @@ void ListRows::assign(std::vector<CListCtrl::Row> rows) {
         images_[id] = rows[id].image;
         takeTexts(id, rows[id].texts, rows.size());
     }
+    order_.assign(ids);
+}
+
+void ListRows::assign(std::vector<std::vector<ZrString>> columns, std::vector<int> images) {
+    assign({});
+    images_ = std::move(images);
+    columns_ = std::move(columns);
+    for (Texts& texts : columns_)
+        if (texts.size() > images_.size())
+            texts.resize(images_.size());
+    std::vector<Id> ids(images_.size());
+    std::iota(ids.begin(), ids.end(), Id{0});
     order_.assign(ids);
 }
 
@@ -87,6 +104,19 @@ void ListRows::sort(const std::function<bool(Id before, Id after)>& less) {
     order_.reorder(ids);
 }
 
+bool ListRows::reorder(std::span<const Id> ids) {
+    std::vector<bool> given(images_.size());
+    for (const Id id : ids) {
+        if (!has(id) || given[id])
+            return false;
+        given[id] = true;
+    }
+    if (ids.size() != order_.size())
+        return false;
+    order_.reorder(ids);
+    return true;
+}
+
 const ZrString& ListRows::text(Id id, int column) const {
     static const ZrString none;
     if (column < 0 || static_cast<std::size_t>(column) >= columns_.size())
@@ -95,12 +125,16 @@ const ZrString& ListRows::text(Id id, int column) const {
     return id < texts.size() ? texts[id] : none;
 }
 
-void ListRows::setText(Id id, int column, ZrString text) {
+// The text may be that of another row.
+void ListRows::setText(Id id, int column, const ZrString& text) {
     Texts& texts = this->column(static_cast<std::size_t>(column));
-    if (id >= texts.size() && !text.empty())
+    if (id < texts.size()) {
+        texts[id] = text;
+    } else if (!text.empty()) {
+        ZrString copy = text;
         texts.resize(id + 1);
-    if (id < texts.size())
-        texts[id] = std::move(text);
+        texts[id] = std::move(copy);
+    }
 }
 
 void ListRows::insertColumn(int column) {

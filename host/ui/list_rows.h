@@ -21,17 +21,20 @@ public:
     [[nodiscard]] Id next(Id id) const { return has(id) ? order_.next(id) : kNone; }
 
     // Rows. `index` is at most count(); the ids that are given are there.
-    Id insert(int index, ZrString text, int image);
+    Id insert(int index, const ZrString& text, int image);
     void erase(Id id);
     void clear();
     // All rows anew; none is selected.
     void assign(std::vector<CListCtrl::Row> rows);
+    void assign(std::vector<std::vector<ZrString>> columns, std::vector<int> images);
     void move(Id id, int to);
     void sort(const std::function<bool(Id before, Id after)>& less);
+    // False, and nothing changed, when these are not the rows that are there.
+    bool reorder(std::span<const Id> ids);
 
     // What a row holds; an empty text for an id or a column that is not there.
     [[nodiscard]] const ZrString& text(Id id, int column) const;
-    void setText(Id id, int column, ZrString text);
+    void setText(Id id, int column, const ZrString& text);
     // The texts of this and the following columns go to the next one.
     void insertColumn(int column);
     [[nodiscard]] int image(Id id) const { return images_[id]; }

@@ -72,6 +72,7 @@ private:
 
     void build(std::span<const Id> ids, const std::vector<bool>& marks);
     [[nodiscard]] std::vector<Entry> buildLevel(const std::vector<Entry>& below, unsigned height);
+    void fill(unsigned block, std::span<const Entry> entries);
     [[nodiscard]] unsigned newBlock(unsigned height);
     void adopt(unsigned block, unsigned begin, unsigned end);
     [[nodiscard]] Entry total(unsigned block) const;

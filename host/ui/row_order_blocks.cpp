@@ -27,13 +27,25 @@ std::vector<RowOrder::Entry> RowOrder::buildLevel(const std::vector<Entry>& belo
     const std::size_t count = std::max<std::size_t>(1, (below.size() + kFill - 1) / kFill);
     std::vector<Entry> result;
     result.reserve(count);
+    blocks_.reserve(blocks_.size() + count);
     for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t first = i * below.size() / count;
         const unsigned made = newBlock(height);
-        for (std::size_t e = i * below.size() / count; e < (i + 1) * below.size() / count; ++e)
-            put(made, blocks_[made].size, below[e]);
+        fill(made, std::span(below).subspan(first, (i + 1) * below.size() / count - first));
         result.push_back(total(made));
     }
     return result;
+}
+
+void RowOrder::fill(unsigned number, std::span<const Entry> entries) {
+    Block& block = blocks_[number];
+    for (const Entry& entry : entries) {
+        block.refs[block.size] = entry.ref;
+        block.rows[block.size] = entry.rows;
+        block.marked[block.size] = entry.marked;
+        ++block.size;
+    }
+    adopt(number, 0, block.size);
 }
 
 unsigned RowOrder::newBlock(unsigned height) {

@@ -53,6 +53,27 @@ TEST_F(Rows, UseTheIdOfAnErasedRowAgainWithNothingOfIt) {
     EXPECT_FALSE(rows.isSelected(id));
 }
 
+TEST_F(Rows, TakeATextOfAnotherRow) {
+    const ListRows::Id added = rows.insert(3, L"", -1);
+
+    rows.setText(added, 1, rows.text(rows.idAt(0), 1));
+    rows.setText(rows.idAt(1), 1, rows.text(added, 1));
+
+    EXPECT_EQ(names(), L"aaca");
+}
+
+TEST_F(Rows, ThatAreAllDeletedLeaveNothingButTheNumbering) {
+    rows.number();
+    rows.setFocus(rows.idAt(0));
+
+    rows.clear();
+
+    EXPECT_EQ(rows.count(), 0);
+    EXPECT_EQ(rows.focus(), ListRows::kNone);
+    EXPECT_EQ(rows.data(rows.insert(0, L"", -1)), 0);
+    EXPECT_EQ(rows.data(rows.insert(1, L"", -1)), 1);
+}
+
 TEST_F(Rows, AreWalkedFromTheFirstToTheLast) {
     const ListRows::Id first = rows.idAt(0);
 
