@@ -61,6 +61,8 @@ public:
     bool DeleteAllItems();
     // All rows at once in place of those that are there; costs less than one by one.
     void SetRows(std::vector<Row> rows);
+    // The same by columns, as many rows as there are images; costs least. Texts that a column lacks are empty.
+    void SetRows(std::vector<std::vector<ZrString>> columns, std::vector<int> images);
     // The row goes elsewhere with all that belongs to it; `to` counts without it.
     bool MoveItem(int from, int to);
     bool SetItemText(int index, int column, const ZrString& text);
@@ -85,6 +87,9 @@ public:
     // Sorts the rows; those that compare equal keep their order. The comparison gets ids. Selection, focus and mark
     // stay with their rows.
     void SortItems(const std::function<bool(unsigned before, unsigned after)>& less);
+    // Puts the rows in this order, each id once; what belongs to them stays with them. False, and nothing changed, when
+    // these are not the rows that are there.
+    bool ReorderItems(const std::vector<unsigned>& ids);
 
     // Selection and focus. Only the bits of `mask` are changed; setting the focus takes it from the row that had it.
     bool SetItemState(int index, unsigned state, unsigned mask);

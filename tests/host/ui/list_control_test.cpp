@@ -135,6 +135,41 @@ TEST_F(List, SortsRowsByTheirIds) {
     EXPECT_EQ(focus(), 9);
 }
 
+TEST_F(List, PutsRowsInTheOrderOfGivenIds) {
+    list.SetItemState(0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+
+    EXPECT_TRUE(list.ReorderItems({9, 0, 1, 2, 3, 4, 5, 6, 7, 8}));
+
+    EXPECT_EQ(names(), L"jabcdefghi");
+    EXPECT_THAT(selected(), ElementsAre(1));
+    EXPECT_EQ(focus(), 1);
+}
+
+TEST_F(List, RefusesAnOrderThatIsNotOneOfItsRows) {
+    EXPECT_FALSE(list.ReorderItems({0, 1, 2, 3, 4, 5, 6, 7, 8}));
+    EXPECT_FALSE(list.ReorderItems({0, 1, 2, 3, 4, 5, 6, 7, 8, 8}));
+    EXPECT_FALSE(list.ReorderItems({0, 1, 2, 3, 4, 5, 6, 7, 8, 10}));
+    EXPECT_FALSE(list.ReorderItems({0, 1, 2, 3, 4, 5, 6, 7, 8, 9, CListCtrl::kNoRow}));
+
+    EXPECT_EQ(names(), L"abcdefghij");
+}
+
+TEST_F(List, TakesRowsByColumns) {
+    list.SelectAll(true);
+    list.InsertItem(0, L"more");
+
+    list.SetRows({{L"icon"}, {L"x", L"y", L"past the last row"}}, {3, 4});
+
+    EXPECT_EQ(names(), L"xy");
+    EXPECT_EQ(list.GetItemText(0, 0), L"icon");
+    EXPECT_EQ(list.GetItemText(1, 0), L"");
+    EXPECT_EQ(list.GetItemImage(0), 3);
+    EXPECT_EQ(list.GetItemImage(1), 4);
+    EXPECT_THAT(selected(), IsEmpty());
+    EXPECT_EQ(list.InsertItem(2, L""), 2);
+    EXPECT_EQ(list.GetItemText(2, 1), L"");
+}
+
 TEST_F(List, WalksItsRowsById) {
     const unsigned first = list.MapIndexToID(0);
 
