@@ -22,7 +22,8 @@ constexpr std::size_t rowsPerMove = 64;
 
 struct ListedLights {
     std::vector<ZrDbObjectId> ids;
-    std::vector<CListCtrl::Row> rows;
+    std::vector<ZrString> names;
+    std::vector<int> images;
 };
 
 void addLights(ZrDbBlockTableRecordIterator& lights, ListedLights& listed) {
@@ -33,11 +34,8 @@ void addLights(ZrDbBlockTableRecordIterator& lights, ListedLights& listed) {
         if ((editing && !zwutads::isObjInWorkset(id)) || zrdbLightSummary(id, summary) != Quor::eOk)
             continue;
         listed.ids.push_back(id);
-        CListCtrl::Row& row = listed.rows.emplace_back();
-        row.texts.reserve(columnCount);
-        row.texts.emplace_back();
-        row.texts.push_back(std::move(summary.name));
-        row.image = imageOfType(summary.type);
+        listed.names.push_back(std::move(summary.name));
+        listed.images.push_back(imageOfType(summary.type));
     }
 }
 
@@ -58,7 +56,8 @@ ListedLights modelSpaceLights() {
         return listed;
     const std::size_t count = space->entityCount(ZrDbLight::desc());
     listed.ids.reserve(count);
-    listed.rows.reserve(count);
+    listed.names.reserve(count);
+    listed.images.reserve(count);
     addLights(*space->newIterator(ZrDbLight::desc()), listed);
     return listed;
 }
@@ -107,14 +106,16 @@ void LightRows::State::clear() {
 }
 
 void LightRows::State::append(ListedLights listed) {
-    list.SetRows(std::move(listed.rows));
+    std::vector<std::vector<ZrString>> columns(columnCount);
+    columns[nameColumn] = std::move(listed.names);
+    list.SetRows(std::move(columns), std::move(listed.images));
     list.NumberItems();
     names.reserve(listed.ids.size());
-    unsigned row = noRow;
+    unsigned row = list.MapIndexToID(0);
     for (const ZrDbObjectId id : listed.ids) {
-        row = list.nextID(row);
         names.addRow(row);
         names.enter(row, id);
+        row = list.nextID(row);
     }
 }
 
@@ -159,16 +160,12 @@ void LightRows::State::remove(unsigned row) {
 void LightRows::State::sortAll() {
     std::vector<SortRow> rows;
     rows.reserve(static_cast<std::size_t>(list.GetItemCount()));
-    for (unsigned row = list.nextID(noRow); row != noRow; row = list.nextID(row))
+    for (unsigned row = list.MapIndexToID(0); row != noRow; row = list.nextID(row))
         rows.push_back(sortRow(row));
     sortRows(rows, rowOrder);
-    std::vector<unsigned> places;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (rows[i].row >= places.size())
-            places.resize(rows[i].row + std::size_t{1});
-        places[rows[i].row] = static_cast<unsigned>(i);
-    }
-    list.SortItems([&](unsigned before, unsigned after) { return places[before] < places[after]; });
+    std::vector<unsigned> ids(rows.size());
+    std::ranges::transform(rows, ids.begin(), &SortRow::row);
+    list.ReorderItems(ids);
     names.rowsWereSorted();
     sortedBy = rowOrder;
     changed.clear();
