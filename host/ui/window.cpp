@@ -6,7 +6,8 @@
 #include "sdk/ui/image_list.h"
 #include "sdk/ui/window_ref.h"
 
-#include <ranges>
+#include <algorithm>
+#include <bit>
 #include <utility>
 
 using quor::ui::WindowPeer;
@@ -267,7 +268,7 @@ std::intptr_t CWnd::SendMessage(unsigned message, std::uintptr_t wParam, std::in
     if (message != WM_SETICON)
         return OnMessage(message, wParam, lParam);
     if (wParam == ICON_SMALL) {
-        const auto* const icon = reinterpret_cast<const CIcon*>(lParam);
+        const auto* const icon = std::bit_cast<const CIcon*>(lParam);
         icon_ = icon == nullptr ? nullptr : icon->picture();
         tellPeer(WindowPeer::Change::Icon);
     }
@@ -320,11 +321,13 @@ void CWnd::dispatchPaint(CDC& dc) {
 }
 
 CWnd* CWnd::childAt(CPoint point) {
-    for (CWnd* child : children_ | std::views::reverse) {
-        if (child->isShown() && child->rect_.PtInRect(point))
-            return child->childAt({point.x - child->rect_.left, point.y - child->rect_.top});
-    }
-    return this;
+    const auto found = std::find_if(children_.rbegin(), children_.rend(), [point](const CWnd* child) {
+        return child->isShown() && child->rect_.PtInRect(point);
+    });
+    if (found == children_.rend())
+        return this;
+    const CPoint origin = (*found)->rect_.TopLeft();
+    return (*found)->childAt({point.x - origin.x, point.y - origin.y});
 }
 
 void CWnd::OnRButtonUp(unsigned /*flags*/, CPoint point) { OnContextMenu(this, ClientToScreen(point)); }

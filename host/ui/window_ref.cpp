@@ -16,7 +16,8 @@ WindowRef::WindowRef(CWnd* window) : window_(window != nullptr && window->IsWind
 }
 
 WindowRef& WindowRef::operator=(const WindowRef& other) {
-    window_ = other.window_;
+    if (this != &other)
+        window_ = other.window_;
     return *this;
 }
 

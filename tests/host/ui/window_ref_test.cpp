@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <optional>
+#include <vector>
 
 namespace quor {
 namespace {
@@ -81,13 +82,14 @@ TEST_F(WindowReference, PointsToTheObjectThatTakesTheWindowOver) {
 
 TEST_F(WindowReference, CopiesBecomeNullToo) {
     const WindowRef reference(&window);
-    const WindowRef copied(reference);
+    const std::vector<WindowRef> copies(2, reference);
     WindowRef assigned;
     assigned = reference;
 
     window.DestroyWindow();
 
-    EXPECT_FALSE(copied);
+    EXPECT_FALSE(copies[0]);
+    EXPECT_FALSE(copies[1]);
     EXPECT_FALSE(assigned);
 }
 
