@@ -5,6 +5,7 @@
 #include "fuzz/support/drawing_state.h"
 #include "fuzz/support/fuzzed_front_end.h"
 #include "fuzz/support/scratch.h"
+#include "host/db/ref_edit.h"
 #include "host/document.h"
 #include "host/ed/command_processor.h"
 #include "host/rx/module_loader.h"
@@ -121,9 +122,21 @@ void checkUndo(db::Database& drawing, const fuzz::DrawingState& state, const std
     require(bytesOf(drawing) == bytes, "another file after undoing everything and redoing it");
 }
 
+// A block that is still being edited in place goes back first: a drawing is not saved meanwhile.
+void endEditing(db::Database& drawing) {
+    db::RefEdit& editing = drawing.refEdit();
+    if (!editing.isActive())
+        return;
+    drawing.journal().begin(L"REFCLOSE");
+    const bool isEnded = editing.save().ok() || editing.discard().ok();
+    drawing.journal().end();
+    require(isEnded, "a block is edited without an end");
+}
+
 void checkDrawing(const Document& document) {
     static const std::string fresh = db::Database::makeNew()->toBytes().value();
     db::Database& drawing = document.drawing();
+    endEditing(drawing);
     const bool isNew = drawing.isNew() && document.path().empty();
     const std::string bytes = bytesOf(drawing);
     if (drawing.journal().undoDepth() == 0) {
