@@ -55,6 +55,7 @@ void keepFiles() {
     scratch().keep("old.dxf", drawings / "own/light_2000.dxf");
     scratch().keep("binary.dxf", drawings / "own/light_2000_binary.dxf");
     scratch().keep("lit.dxf", drawings / "own/light_2018.dxf");
+    scratch().keep("lamps.dxf", drawings / "own/luminaires.dxf");
     scratch().keep("broken.dxf", drawings / "ez_layout_broken_links.dxf");
     scratch().keep("downlight.ies", source / "resources/webs/downlight.ies");
     scratch().keep("wall_washer.ies", source / "resources/webs/wall_washer.ies");
