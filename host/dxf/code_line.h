@@ -3,6 +3,7 @@
 
 #include "host/dxf/tag.h"
 
+#include <bit>
 #include <climits>
 #include <cstdint>
 #include <cstring>
@@ -11,15 +12,25 @@ namespace quor::dxf {
 
 constexpr int kBadCode = INT_MIN;
 
+// Four bytes, the first of them lowest.
+[[nodiscard]] inline std::uint32_t firstFour(const char* text) {
+    std::uint32_t bytes = 0;
+    if constexpr (std::endian::native == std::endian::little) {
+        std::memcpy(&bytes, text, sizeof bytes);
+    } else {
+        for (unsigned i = 0; i < sizeof bytes; ++i) {
+            bytes |= std::uint32_t{static_cast<unsigned char>(text[i])} << (8 * i);
+        }
+    }
+    return bytes;
+}
+
 // The code that stands in length bytes at text (no line feed among them), or kBadCode. Four bytes at text must be
 // readable.
 [[nodiscard]] inline int readCodeLine(const char* text, std::size_t length) {
     length -= length > 0 && text[length - 1] == '\r' ? 1 : 0;
     if (length - 1 < 4) {
-        std::uint32_t bytes = 0;
-        for (unsigned i = 0; i < 4; ++i) {
-            bytes |= std::uint32_t{static_cast<unsigned char>(text[i])} << (8 * i);
-        }
+        std::uint32_t bytes = firstFour(text);
         // Push the line to the high end and fill up with blanks: always four characters, the last of them highest.
         const unsigned shift = static_cast<unsigned>(8 * (4 - length));
         const std::uint32_t blanks = 0x20202020;
