@@ -13,6 +13,7 @@
 #include "sdk/ui/resource_templates.h"
 #include "sdk/ui/ui_service.h"
 
+#include <bit>
 #include <new>
 
 using quor::light::isListedLight;
@@ -141,7 +142,7 @@ std::intptr_t CZrLightList::OnMessage(unsigned message, std::uintptr_t wParam, s
         if (wParam == 0)
             toggleTips();
         else if (wParam == 1 && lParam != 0)
-            *reinterpret_cast<unsigned char*>(lParam) = tipsVisible() ? 1 : 0;
+            *std::bit_cast<unsigned char*>(lParam) = tipsVisible() ? 1 : 0;
         return 0;
     case quor::ui::kIconMessage:
         setIcon();

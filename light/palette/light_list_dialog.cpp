@@ -90,7 +90,7 @@ void CZrlightListDlg::layOutControls() {
     const quor::light::DialogLayout layout = quor::light::layOutDialog(ScreenToClient(GetWindowRect()), tipsShown_);
     label_.MoveWindow(layout.label);
     if (ZkUiGetDisplayScale() > 1.0)
-        label_.SetWindowText(ZrString(label_.GetWindowText()));
+        label_.SetWindowText(LoadedText(texts.paletteLabel).str());
     list_.MoveWindow(layout.list);
     tips_.MoveWindow(layout.tips);
 }
