@@ -14,6 +14,7 @@ namespace quor::light {
 
 namespace {
 
+constexpr int iconColumn = 0;
 constexpr int nameColumn = 1;
 constexpr int columnCount = 2;
 constexpr unsigned noRow = CListCtrl::kNoRow;
@@ -166,7 +167,8 @@ void LightRows::State::sortAll() {
     std::vector<unsigned> ids(rows.size());
     std::ranges::transform(rows, ids.begin(), &SortRow::row);
     list.ReorderItems(ids);
-    names.rowsWereSorted();
+    if (rowOrder.column == iconColumn) // by name alone, equal ones keep their order
+        names.rowsWereSorted();
     sortedBy = rowOrder;
     changed.clear();
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 namespace quor::light {
 
@@ -47,8 +48,7 @@ void NameIndex::addRow(unsigned row) {
         Name& name = names_[number];
         if (name.namesakes == nullptr)
             name.namesakes = std::make_unique<Namesakes>(RowsInOrder({name.row}, ByPlace{&list_}), arrangement_);
-        RowsInOrder& rows = inOrder(*name.namesakes);
-        rows.insert(rows.end(), row);
+        name.namesakes->others.push_back(row);
     }
     nameOfRow_[row] = number;
 }
@@ -56,9 +56,11 @@ void NameIndex::addRow(unsigned row) {
 void NameIndex::removeRow(unsigned row) {
     const unsigned number = nameOfRow_[row];
     Name& name = names_[number];
-    if (name.namesakes == nullptr || name.namesakes->rows.size() == 1)
+    if (name.namesakes == nullptr)
         return dropName(number);
     RowsInOrder& rows = inOrder(*name.namesakes);
+    if (rows.size() == 1)
+        return dropName(number);
     rows.erase(row);
     name.row = *rows.begin();
 }
@@ -135,15 +137,28 @@ void NameIndex::dropLight(Name& name, unsigned number) {
     name.light = {};
 }
 
-// Puts them in order again when the list was sorted in between.
 NameIndex::RowsInOrder& NameIndex::inOrder(Namesakes& namesakes) const {
-    if (namesakes.arrangement != arrangement_) {
-        std::vector<unsigned> rows(namesakes.rows.begin(), namesakes.rows.end());
-        std::ranges::sort(rows, {}, [&](unsigned row) { return list_.MapIDToIndex(row); });
-        namesakes.rows = RowsInOrder(rows.begin(), rows.end(), ByPlace{&list_});
-        namesakes.arrangement = arrangement_;
-    }
+    if (namesakes.arrangement != arrangement_ || namesakes.others.size() > namesakes.rows.size())
+        putInOrder(namesakes);
+    namesakes.rows.insert(namesakes.others.begin(), namesakes.others.end());
+    namesakes.others.clear();
     return namesakes.rows;
+}
+
+// All at once: each row's place is asked for as seldom as can be.
+void NameIndex::putInOrder(Namesakes& namesakes) const {
+    std::vector<std::pair<int, unsigned>> places;
+    places.reserve(namesakes.rows.size() + namesakes.others.size());
+    for (const unsigned row : namesakes.rows)
+        places.emplace_back(list_.MapIDToIndex(row), row);
+    for (const unsigned row : namesakes.others)
+        places.emplace_back(list_.MapIDToIndex(row), row);
+    std::ranges::sort(places);
+    namesakes.rows.clear();
+    for (const auto& [place, row] : places)
+        namesakes.rows.insert(namesakes.rows.end(), row);
+    namesakes.others.clear();
+    namesakes.arrangement = arrangement_;
 }
 
 } // namespace quor::light

@@ -40,7 +40,7 @@ public:
     // One row is about to move among those of its name; tell when it stands in its place.
     void rowLeaves(unsigned row);
     void rowIsBack(unsigned row);
-    // Rows of the same name may have changed places.
+    // Rows of the same name may have changed places with each other.
     void rowsWereSorted() { ++arrangement_; }
 
 private:
@@ -49,9 +49,11 @@ private:
         bool operator()(unsigned a, unsigned b) const { return list->MapIDToIndex(a) < list->MapIDToIndex(b); }
     };
     using RowsInOrder = std::set<unsigned, ByPlace>;
+    // Put in order when somebody asks for it.
     struct Namesakes {
         RowsInOrder rows;
-        unsigned arrangement; // of the list, in which they were put in order
+        unsigned arrangement;         // of the list, in which they were put in order
+        std::vector<unsigned> others; // that came since
     };
     struct Name {
         ZrDbObjectId light;
@@ -66,6 +68,7 @@ private:
     void dropName(unsigned number);
     void dropLight(Name& name, unsigned number);
     [[nodiscard]] RowsInOrder& inOrder(Namesakes& namesakes) const;
+    void putInOrder(Namesakes& namesakes) const;
 
     const CListCtrl& list_;
     std::vector<Name> names_;
