@@ -47,16 +47,26 @@ public:
     }
 };
 
-void setRows(benchmark::State& state) {
-    List list(0);
+template <class Prepare>
+void timeSetRows(benchmark::State& state, const Prepare& prepare) {
+    List list(state.range(0));
     for ([[maybe_unused]] auto _ : state) {
         state.PauseTiming();
+        prepare(list);
         std::vector<CListCtrl::Row> rows = makeRows(state.range(0));
         state.ResumeTiming();
         list.SetRows(std::move(rows));
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));
     state.SetComplexityN(state.range(0));
+}
+
+void setRows(benchmark::State& state) {
+    timeSetRows(state, [](List& list) { list.DeleteAllItems(); });
+}
+
+void replaceRows(benchmark::State& state) {
+    timeSetRows(state, [](List& /*list*/) {});
 }
 
 // Does something to one row after the other, all over the list.
@@ -201,6 +211,7 @@ void manySizes(benchmark::internal::Benchmark* benchmark) {
 }
 
 BENCHMARK(setRows)->Apply(manySizes);
+BENCHMARK(replaceRows)->Apply(manySizes);
 BENCHMARK(insertInTheMiddle)->Apply(sizes);
 BENCHMARK(deleteAndInsert)->Apply(sizes);
 BENCHMARK(rename)->Apply(sizes);

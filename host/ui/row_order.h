@@ -71,8 +71,9 @@ private:
     };
 
     void build(std::span<const Id> ids, const std::vector<bool>& marks);
-    [[nodiscard]] std::vector<Entry> buildLevel(const std::vector<Entry>& below, unsigned height);
-    void fill(unsigned block, std::span<const Entry> entries);
+    template <class EntryAt>
+    [[nodiscard]] std::vector<Entry> buildLevel(std::size_t entries, unsigned height, const EntryAt& entryAt);
+    static void append(Block& block, const Entry& entry);
     [[nodiscard]] unsigned newBlock(unsigned height);
     void adopt(unsigned block, unsigned begin, unsigned end);
     [[nodiscard]] Entry total(unsigned block) const;

@@ -5,47 +5,42 @@
 
 namespace quor::ui {
 
-void RowOrder::build(std::span<const Id> ids, const std::vector<bool>& marks) {
-    blocks_.clear();
-    unused_.clear();
-    leafOf_.assign(ids.empty() ? 0 : *std::max_element(ids.begin(), ids.end()) + 1, kNone);
-    std::vector<Entry> level;
-    level.reserve(ids.size());
-    for (const Id id : ids)
-        level.push_back({id, 1, id < marks.size() && marks[id] ? 1U : 0U});
-    unsigned height = 0;
-    do
-        level = buildLevel(level, height++);
-    while (level.size() > 1);
-    root_ = level.front().ref;
-    size_ = level.front().rows;
-    marked_ = level.front().marked;
-}
-
-// Blocks that hold these entries, evenly filled; at least one.
-std::vector<RowOrder::Entry> RowOrder::buildLevel(const std::vector<Entry>& below, unsigned height) {
-    const std::size_t count = std::max<std::size_t>(1, (below.size() + kFill - 1) / kFill);
+// Blocks that hold the given number of entries, evenly filled; at least one.
+template <class EntryAt>
+std::vector<RowOrder::Entry> RowOrder::buildLevel(std::size_t entries, unsigned height, const EntryAt& entryAt) {
+    const std::size_t count = std::max<std::size_t>(1, (entries + kFill - 1) / kFill);
     std::vector<Entry> result;
     result.reserve(count);
     blocks_.reserve(blocks_.size() + count);
     for (std::size_t i = 0; i < count; ++i) {
-        const std::size_t first = i * below.size() / count;
         const unsigned made = newBlock(height);
-        fill(made, std::span(below).subspan(first, (i + 1) * below.size() / count - first));
+        for (std::size_t e = i * entries / count; e < (i + 1) * entries / count; ++e)
+            append(blocks_[made], entryAt(e));
+        adopt(made, 0, blocks_[made].size);
         result.push_back(total(made));
     }
     return result;
 }
 
-void RowOrder::fill(unsigned number, std::span<const Entry> entries) {
-    Block& block = blocks_[number];
-    for (const Entry& entry : entries) {
-        block.refs[block.size] = entry.ref;
-        block.rows[block.size] = entry.rows;
-        block.marked[block.size] = entry.marked;
-        ++block.size;
-    }
-    adopt(number, 0, block.size);
+void RowOrder::build(std::span<const Id> ids, const std::vector<bool>& marks) {
+    blocks_.clear();
+    unused_.clear();
+    leafOf_.assign(ids.empty() ? 0 : *std::max_element(ids.begin(), ids.end()) + 1, kNone);
+    std::vector<Entry> level = buildLevel(ids.size(), 0, [&](std::size_t at) {
+        return Entry{ids[at], 1, !marks.empty() && marks[ids[at]] ? 1U : 0U};
+    });
+    for (unsigned height = 1; level.size() > 1; ++height)
+        level = buildLevel(level.size(), height, [&](std::size_t at) { return level[at]; });
+    root_ = level.front().ref;
+    size_ = level.front().rows;
+    marked_ = level.front().marked;
+}
+
+void RowOrder::append(Block& block, const Entry& entry) {
+    block.refs[block.size] = entry.ref;
+    block.rows[block.size] = entry.rows;
+    block.marked[block.size] = entry.marked;
+    ++block.size;
 }
 
 unsigned RowOrder::newBlock(unsigned height) {
