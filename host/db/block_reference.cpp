@@ -49,6 +49,12 @@ ZrGeVector3d turnedXAxis(double degrees) {
     return {std::cos(degrees * kDegree), std::sin(degrees * kDegree), 0};
 }
 
+// From the plane in which a reference stands to the world.
+ZrGeMatrix3d planeOf(const DrawingFile& file, const dxf::Record& record) {
+    ZrGeMatrix3d plane;
+    return plane.setToPlaneToWorld(pointOf(file, record, 210, {0, 0, 1}).asVector());
+}
+
 ZrGeMatrix3d placementOf(const DrawingFile& file, const dxf::Record& record, const ZrGePoint3d& base) {
     const ZrGeVector3d scale = scaleOf(file, record);
     const ZrGeVector3d xAxis = turnedXAxis(realOf(file, record, 50, 0));
@@ -58,9 +64,7 @@ ZrGeMatrix3d placementOf(const DrawingFile& file, const dxf::Record& record, con
                            ZrGeVector3d::kZAxis * scale.z);
     ZrGeMatrix3d fromBase;
     fromBase.setToTranslation(-base.asVector());
-    ZrGeMatrix3d toWorld;
-    toWorld.setToPlaneToWorld(pointOf(file, record, 210, {0, 0, 1}).asVector());
-    return toWorld * inPlane * fromBase;
+    return planeOf(file, record) * inPlane * fromBase;
 }
 
 } // namespace
@@ -74,6 +78,7 @@ std::optional<BlockReference> readBlockReference(Database& database, const Objec
     if (dxf::Tag tag; file.findTag(record, 2, tag))
         reference.name = file.text(tag);
     reference.block = database.structure().findBlock(reference.name);
+    reference.position = planeOf(file, record) * pointOf(file, record, 10, {});
     reference.placement = placementOf(file, record, basePoint(file, reference.block));
     reference.isArray = wholeOf(file, record, 70, 1) > 1 || wholeOf(file, record, 71, 1) > 1;
     reference.isFlat = reference.placement.isSingular();

@@ -13,6 +13,7 @@ class Database;
 struct BlockReference {
     ZrString name;          // of the block
     Block* block = nullptr; // null when the drawing has none of that name
+    ZrGePoint3d position;   // where it stands
     ZrGeMatrix3d placement; // from the coordinates of the block to those around the reference
     bool isArray = false;   // shows the block several times, in rows and columns
     bool isFlat = false;    // a scale factor is zero: there is no way back from what it shows

@@ -1,5 +1,6 @@
 #include "host/ed/pick.h"
 
+#include "host/db/block_reference.h"
 #include "sdk/db/database.h"
 #include "sdk/db/face.h"
 #include "sdk/db/light.h"
@@ -21,6 +22,8 @@ std::vector<ZrGePoint3d> knownPoints(ZrDbObjectId id) {
         return {light->position()};
     if (const auto* line = zrrxCast<ZrDbLine>(entity.object()))
         return {line->startPoint(), line->endPoint()};
+    if (const auto reference = db::readBlockReference(id.database()->host(), *id.entry()))
+        return {reference->position};
     std::vector<ZrGePoint3d> corners;
     if (const auto* face = zrrxCast<ZrDbFace>(entity.object()))
         for (int i = 0; i < 4; ++i)

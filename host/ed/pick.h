@@ -9,8 +9,8 @@ namespace quor::ed {
 
 // Every entity of the current space that is not erased, in drawing order.
 [[nodiscard]] ZrDbObjectIdArray entitiesOfCurrentSpace(const Document& document);
-// The points by which an entity is found (world coordinates): the place of a light, the ends of a line, the corners of
-// a face. Empty for other entities.
+// The points by which an entity is found (world coordinates): the place of a light or of a reference to a block, the
+// ends of a line, the corners of a face. Empty for other entities.
 [[nodiscard]] std::vector<ZrGePoint3d> knownPoints(ZrDbObjectId id);
 // "1F" or "#1F"; nothing when that is no handle of an entity of the current space.
 [[nodiscard]] std::optional<ZrDbObjectId> entityByHandle(const Document& document, std::wstring_view text);

@@ -76,6 +76,12 @@ TEST_F(RefEditCommands, ACommandThatIsRefusedHasFailed) {
     EXPECT_EQ(host.run({L"SAVEAS"}).kind, ed::Verdict::Kind::Failed);
 }
 
+TEST_F(RefEditCommands, AReferenceIsPickedWhereItStands) {
+    host.run({L"REFCLOSE", L"", L"SELECT", L"-300,0,0", L""});
+
+    EXPECT_EQ(zredImpliedSelection(), ZrDbObjectIdArray{host.document().database()->objectId(ZrDbHandle(0x64))});
+}
+
 TEST_F(RefEditCommands, ListenersHearThatTheBlockIsEdited) {
     struct Listener : ZrDbDatabaseReactor {
         void headerSysVarChanged(const ZrDbDatabase&, const wchar_t* name) override { heard = name; }

@@ -39,6 +39,11 @@ TEST_F(BlockReferences, AreNoLights) { EXPECT_FALSE(reference(0x69)); }
 
 TEST_F(BlockReferences, PutTheBasePointWhereTheyStand) { EXPECT_EQ(shown(0x60, kBase), ZrGePoint3d(100, 0, 0)); }
 
+TEST_F(BlockReferences, TellWhereTheyStand) {
+    EXPECT_EQ(reference(0x61)->position, ZrGePoint3d(200, 50, 10));
+    EXPECT_EQ(reference(0x64)->position, ZrGePoint3d(-300, 0, 0));
+}
+
 TEST_F(BlockReferences, TurnByAQuarterWithoutARoundingError) {
     EXPECT_EQ(shown(0x61, kSpot), ZrGePoint3d(200, 52, 15));
     EXPECT_EQ(reference(0x61)->placement * ZrGeVector3d::kXAxis, ZrGeVector3d::kYAxis);
