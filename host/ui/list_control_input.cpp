@@ -127,8 +127,9 @@ bool CListCtrl::EditLabel(int index) {
     const unsigned id = rows_->idAt(index);
     if (id == kNoRow || (GetStyle() & LVS_EDITLABELS) == 0)
         return false;
-    EndEditLabel(std::nullopt);
-    if (notifyParent({.code = Notification::Code::BeginLabelEdit, .index = index}) != 0 || !rows_->has(id))
+    const quor::ui::WindowRef self(this);
+    const bool isRefused = notifyParent({.code = Notification::Code::BeginLabelEdit, .index = index}) != 0;
+    if (isRefused || !self || !rows_->has(id))
         return false;
     edited_ = id;
     contentChanged();
@@ -140,8 +141,11 @@ void CListCtrl::EndEditLabel(const std::optional<ZrString>& text) {
     const int index = rows_->indexOf(id);
     if (index < 0)
         return;
+    const quor::ui::WindowRef self(this);
     const bool isTaken =
         text && notifyParent({.code = Notification::Code::EndLabelEdit, .index = index, .text = *text}) == 0;
+    if (!self)
+        return;
     if (isTaken && rows_->has(id))
         rows_->setText(id, 0, *text);
     contentChanged();

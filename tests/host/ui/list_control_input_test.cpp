@@ -163,6 +163,37 @@ TEST_F(ListMouse, ClickHitsIconAndLabelOnlyWithoutFullRows) {
     EXPECT_THAT(selected(), ElementsAre(1));
 }
 
+// Deletes its list when it is told of a click for the second time.
+class DeletingParent : public CWnd {
+public:
+    std::unique_ptr<CListCtrl> list = std::make_unique<CListCtrl>();
+
+protected:
+    std::intptr_t OnNotify(unsigned /*id*/, const Notification& /*notification*/) override {
+        if (++told_ == 2)
+            list.reset();
+        return 0;
+    }
+
+private:
+    int told_ = 0;
+};
+
+TEST(ListWithoutFixture, MayBeDeletedWhileItTellsOfASecondClick) {
+    DeletingParent parent;
+    parent.Create({.style = WS_VISIBLE, .rect = {0, 0, 100, 100}});
+    parent.list->Create(
+        {.parent = &parent, .style = LVS_REPORT | LVS_EDITLABELS | WS_VISIBLE, .rect = {0, 0, 100, 100}});
+    parent.list->InsertColumn(0, L"", HDF_LEFT, 50);
+    parent.list->InsertItem(0, L"a");
+
+    click(*parent.list, {10, 30});
+    click(*parent.list, {10, 30});
+
+    EXPECT_EQ(parent.list, nullptr);
+    EXPECT_TRUE(parent.children().empty());
+}
+
 // Takes its list's window away when it is told something.
 class DestroyingParent : public CWnd {
 public:
@@ -370,6 +401,15 @@ TEST_F(ListLabels, AreNotEditedByASecondClickThatDoesSomethingElse) {
     doubleClick(list, at(2));
     clickRow(2, MK_CONTROL);
     clickRow(3, MK_SHIFT);
+
+    EXPECT_EQ(list.editedItem(), -1);
+}
+
+TEST_F(ListLabels, AreNotEditedByTheClickThatBringsTheKeyboard) {
+    clickRow(1);
+    parent.SetFocus();
+
+    clickRow(1);
 
     EXPECT_EQ(list.editedItem(), -1);
 }
