@@ -57,6 +57,9 @@ inline constexpr VariableNote variableNotes[] = {
     {L"LIGHTINGUNITS",
      {L"0 为常规: 光源命令不可用；1 为光度控制，照度单位为英尺烛光(FC)；2 为光度控制，照度单位为勒克斯(Lx)。",
       L"0 is generic: light commands are not available. 1 is photometric with foot-candles (FC), 2 with lux (Lx)."}},
+    {L"REFEDITNAME",
+     {L"REFEDIT 正在编辑的块的名称；没有编辑时为空。",
+      L"The name of the block that is being edited with REFEDIT; empty when none is."}},
 };
 
 } // namespace quor::texts

@@ -1,8 +1,5 @@
-// luminaires.dxf: the block LAMP has the lights 43 (Pendant) and 46 (Spot), the line 49, the face 4A and the circle 4B.
-#include "host/db/ref_edit.h"
-
 #include "sdk/db/face.h"
-#include "tests/host/db/drawings.h"
+#include "tests/host/db/ref_editing.h"
 
 #include <gmock/gmock.h>
 
@@ -12,57 +9,6 @@ namespace {
 using namespace drawings;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::UnorderedElementsAre;
-
-constexpr std::uint64_t kPlain = 0x60;
-constexpr std::uint64_t kTurned = 0x61;
-constexpr std::uint64_t kMirrored = 0x62;
-constexpr std::uint64_t kStretched = 0x63;
-constexpr std::uint64_t kTurnedOver = 0x64;
-constexpr std::uint64_t kAslant = 0x6C;
-
-struct RefEditing : testing::Test {
-    ObjectEntry& entry(std::uint64_t handle) { return *database->objects().find(handle); }
-    ZrDbObjectId id(std::uint64_t handle) { return ZrDbObjectId(&entry(handle)); }
-    RefEdit& editing() { return database->refEdit(); }
-
-    RefEditStart begin(std::uint64_t reference) {
-        RefEditStart start;
-        group(*database, L"REFEDIT", [&] { start = editing().begin(entry(reference)).value(); });
-        return start;
-    }
-    RefEditResult save() {
-        RefEditResult result;
-        group(*database, L"REFCLOSE", [&] { result = editing().save().value(); });
-        return result;
-    }
-    std::size_t discard() {
-        std::size_t erased = 0;
-        group(*database, L"REFCLOSE", [&] { erased = editing().discard().value(); });
-        return erased;
-    }
-    std::vector<ZrDbObjectId> workset() {
-        std::vector<ZrDbObjectId> ids = database->entities(database->interface().modelSpaceId());
-        std::erase_if(ids, [&](ZrDbObjectId each) { return !editing().holds(*each.entry()); });
-        return ids;
-    }
-    template <class T>
-    ZrDbObjectId copyOf(std::size_t index = 0) {
-        std::vector<ZrDbObjectId> ids = workset();
-        std::erase_if(ids, [](ZrDbObjectId each) { return !ZrDbObjectPointer<T>(each, ZrDb::kForRead); });
-        return ids.at(index);
-    }
-    ZrDbObjectId pendant() { return copyOf<ZrDbLight>(0); }
-    ZrDbObjectId spot() { return copyOf<ZrDbLight>(1); }
-    bool isVisible(std::uint64_t handle) {
-        return ZrDbObjectPointer<ZrDbEntity>(id(handle), ZrDb::kForRead)->visibility() == ZrDb::kVisible;
-    }
-    // What a save would change in the file.
-    Difference changes() { return difference(original, bytesOf(*database)); }
-
-    const std::string original = fileBytes("own/luminaires.dxf");
-    std::unique_ptr<Database> database = parsed(original);
-};
 
 TEST_F(RefEditing, CopiesLightsLinesAndFacesAndLeavesTheRest) {
     const RefEditStart start = begin(kPlain);
@@ -322,6 +268,29 @@ TEST_F(RefEditing, ALightWithoutPhotometricDataGetsThemWhenTheyChange) {
               750);
 }
 
+TEST_F(RefEditing, ABlockWithoutAnythingToCopyCanGetSomething) {
+    EXPECT_EQ(begin(0x68).inWorkset, 0U);
+    addLight(*database, L"First");
+
+    EXPECT_EQ(save().added, 1U);
+
+    EXPECT_THAT(recordOf(bytesOf(*database), "LIGHT", "1|First"), testing::Contains("330|56"));
+}
+
+TEST_F(RefEditing, OfAReferenceOnASheetIsOnThatSheet) {
+    database =
+        with(original, "  5\n60\n330\n1F\n100\nAcDbEntity\n", "  5\n60\n330\n1B\n100\nAcDbEntity\n 67\n     1\n");
+    const ZrDbObjectId sheet = database->interface().paperSpaceId();
+
+    begin(kPlain);
+
+    EXPECT_EQ(database->entities(sheet).size(), 5U);
+    EXPECT_THAT(workset(), IsEmpty());
+    EXPECT_TRUE(editing().holds(*database->lastEntity(sheet).entry()));
+    EXPECT_FALSE(editing().holds(*addLight(*database).entry()));
+    EXPECT_EQ(save().added, 0U);
+}
+
 TEST_F(RefEditing, TheErasedReferenceStaysErased) {
     begin(kPlain);
     erase(id(kPlain));
@@ -341,185 +310,6 @@ TEST_F(RefEditing, OneBlockAfterTheOther) {
 
     EXPECT_EQ(ZrDbObjectPointer<ZrDbLight>(spot(), ZrDb::kForRead)->name(), L"First");
     EXPECT_EQ(workset().size(), 4U);
-}
-
-// Undo.
-
-TEST_F(RefEditing, UndoGoesOutOfAnEditingThatWasBegun) {
-    begin(kPlain);
-
-    database->journal().undo();
-
-    EXPECT_FALSE(editing().isActive());
-    EXPECT_TRUE(isVisible(kPlain));
-    EXPECT_EQ(bytesOf(*database), original);
-    EXPECT_FALSE(database->journal().isModified());
-}
-
-TEST_F(RefEditing, RedoGoesBackIn) {
-    begin(kPlain);
-    database->journal().undo();
-
-    database->journal().redo();
-
-    EXPECT_EQ(editing().blockName(), L"LAMP");
-    EXPECT_EQ(workset().size(), 4U);
-    EXPECT_FALSE(isVisible(kPlain));
-}
-
-TEST_F(RefEditing, UndoResumesAnEditingThatWasSaved) {
-    begin(kPlain);
-    group(*database, L"CHANGE", [&] { change(spot(), [](ZrDbLight& light) { light.setIntensity(3); }); });
-    erase(pendant());
-    addLight(*database);
-    const std::vector<ZrDbObjectId> before = workset();
-    save();
-
-    database->journal().undo();
-
-    EXPECT_EQ(workset(), before);
-    EXPECT_FALSE(isVisible(kPlain));
-    EXPECT_EQ(ZrDbObjectPointer<ZrDbLight>(id(0x46), ZrDb::kForRead)->intensity(), 0.8);
-    EXPECT_FALSE(id(0x43).isErased());
-    discard();
-    EXPECT_EQ(bytesOf(*database), original);
-}
-
-TEST_F(RefEditing, RedoSavesAgain) {
-    begin(kPlain);
-    change(spot(), [](ZrDbLight& light) { light.setIntensity(3); });
-    save();
-    const std::string saved = bytesOf(*database);
-    database->journal().undo();
-
-    database->journal().redo();
-
-    EXPECT_FALSE(editing().isActive());
-    EXPECT_EQ(bytesOf(*database), saved);
-}
-
-TEST_F(RefEditing, UndoResumesAnEditingThatWasDiscarded) {
-    begin(kPlain);
-    const ZrDbObjectId made = addLight(*database);
-    discard();
-
-    database->journal().undo();
-
-    EXPECT_TRUE(editing().holds(*made.entry()));
-    EXPECT_EQ(workset().size(), 5U);
-}
-
-TEST_F(RefEditing, WhatUndoTookAwayIsNotSaved) {
-    begin(kPlain);
-    group(*database, L"LINE", [&] { addLine(*database); });
-    database->journal().undo();
-
-    EXPECT_EQ(save().added, 0U);
-}
-
-// Refusals.
-
-TEST_F(RefEditing, SaysWhyAReferenceIsNotEdited) {
-    EXPECT_EQ(editing().whyNot(entry(0x69)), RefEditProblem::NoReference);
-    EXPECT_EQ(editing().whyNot(entry(0x65)), RefEditProblem::Array);
-    EXPECT_EQ(editing().whyNot(entry(0x66)), RefEditProblem::ExternalBlock);
-    EXPECT_EQ(editing().whyNot(entry(0x67)), RefEditProblem::EmptyBlock);
-    EXPECT_EQ(editing().whyNot(entry(kPlain)), std::nullopt);
-}
-
-TEST_F(RefEditing, AnErasedContentIsNone) {
-    begin(0x68);
-    discard();
-    erase(id(0x59));
-
-    EXPECT_EQ(editing().whyNot(entry(0x68)), RefEditProblem::EmptyBlock);
-}
-
-TEST_F(RefEditing, ABlockWithoutAnythingToCopyCanGetSomething) {
-    EXPECT_EQ(begin(0x68).inWorkset, 0U);
-    addLight(*database, L"First");
-
-    EXPECT_EQ(save().added, 1U);
-
-    EXPECT_THAT(recordOf(bytesOf(*database), "LIGHT", "1|First"), testing::Contains("330|56"));
-}
-
-TEST_F(RefEditing, OneAtATime) {
-    begin(kPlain);
-
-    EXPECT_EQ(editing().begin(entry(kTurned)).error(), RefEditProblem::AlreadyEditing);
-}
-
-// The drawing with a text replaced that stands in it once.
-std::unique_ptr<Database> with(std::string bytes, const std::string& text, const std::string& other) {
-    bytes.replace(bytes.find(text), text.size(), other);
-    return parsed(bytes);
-}
-
-TEST_F(RefEditing, NeedsABlockOfThatName) {
-    database = with(original, "  2\nPLAIN\n 10", "  2\nNOWHERE\n 10");
-    EXPECT_EQ(editing().whyNot(entry(0x68)), RefEditProblem::NoBlock);
-}
-
-TEST_F(RefEditing, RefusesTheModel) {
-    database = with(original, "  2\nPLAIN\n 10", "  2\n*Model_Space\n 10");
-    EXPECT_EQ(editing().whyNot(entry(0x68)), RefEditProblem::SpaceBlock);
-}
-
-TEST_F(RefEditing, RefusesAScaleOfZero) {
-    database = with(original, " 43\n0.5\n", " 43\n0\n");
-    EXPECT_EQ(editing().whyNot(entry(kStretched)), RefEditProblem::ZeroScale);
-}
-
-TEST_F(RefEditing, RefusesABlockWithoutAnEnd) {
-    database = with(original, "  0\nENDBLK\n  5\n58\n", "  0\nTRASH\n  5\n58\n");
-    EXPECT_EQ(editing().whyNot(entry(0x68)), RefEditProblem::BrokenBlock);
-}
-
-TEST_F(RefEditing, RefusesAReferenceThatIsOpen) {
-    const ZrDbObjectPointer<ZrDbEntity> reader(id(kPlain), ZrDb::kForRead);
-
-    EXPECT_EQ(editing().begin(entry(kPlain)).error(), RefEditProblem::InUse);
-}
-
-TEST_F(RefEditing, ChangesNothingWhileAnObjectIsOpen) {
-    begin(kPlain);
-    change(spot(), [](ZrDbLight& light) { light.setIntensity(3); });
-    const ZrDbObjectPointer<ZrDbLight> reader(id(0x46), ZrDb::kForRead);
-    const ZrDbObjectPointer<ZrDbLight> copyReader(pendant(), ZrDb::kForRead);
-
-    EXPECT_EQ(editing().save().error(), RefEditProblem::InUse);
-    EXPECT_EQ(editing().discard().error(), RefEditProblem::InUse);
-
-    EXPECT_EQ(workset().size(), 4U);
-    EXPECT_EQ(reader->intensity(), 0.8);
-}
-
-TEST_F(RefEditing, KeepsAPointThatHasNoPlaceInTheBlock) {
-    database = with(original, " 43\n0.5\n", " 43\n1e-9\n");
-    begin(kStretched);
-    change(spot(), [](ZrDbLight& light) { light.setPosition({0, 0, 1e300}); });
-
-    EXPECT_EQ(editing().save().error(), RefEditProblem::TooFar);
-
-    EXPECT_TRUE(editing().isActive());
-    EXPECT_EQ(workset().size(), 4U);
-}
-
-TEST_F(RefEditing, LeavesWhatWouldLieBeyondAllNumbersInTheBlock) {
-    database = with(original, " 43\n0.5\n", " 43\n1e308\n");
-
-    const RefEditStart start = begin(kStretched);
-
-    EXPECT_EQ(start.inWorkset, 2U); // the line and the face lie lower
-    EXPECT_EQ(start.left, 3U);
-}
-
-TEST_F(RefEditing, TheDrawingIsNotSavedMeanwhile) {
-    begin(kPlain);
-
-    EXPECT_FALSE(database->toBytes().ok());
-    EXPECT_NE(database->toBytes().error().message.find(L"LAMP"), ZrString::npos);
 }
 
 } // namespace
