@@ -257,7 +257,7 @@ void LightRows::sortByClick(int column) {
 
 void LightRows::select(const std::vector<ZrDbObjectId>& ids) {
     std::vector<ZrDbObjectId> wanted = ids;
-    std::ranges::sort(wanted);
+    std::ranges::sort(wanted, {}, &ZrDbObjectId::entry);
     std::vector<unsigned> rows;
     for (auto first = wanted.begin(); first != wanted.end();) {
         const auto next = std::find_if(first, wanted.end(), [&](ZrDbObjectId id) { return id != *first; });

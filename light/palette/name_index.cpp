@@ -47,7 +47,8 @@ void NameIndex::addRow(unsigned row) {
     } else {
         Name& name = names_[number];
         if (name.namesakes == nullptr)
-            name.namesakes = std::make_unique<Namesakes>(RowsInOrder({name.row}, ByPlace{&list_}), arrangement_);
+            name.namesakes = std::make_unique<Namesakes>(
+                Namesakes{.rows = RowsInOrder({name.row}, ByPlace{&list_}), .arrangement = arrangement_, .others = {}});
         name.namesakes->others.push_back(row);
     }
     nameOfRow_[row] = number;

@@ -77,10 +77,10 @@ void sortByRest(std::vector<SortRow>& rows, const std::vector<KeyedRow>& keys, c
     for (std::size_t first = 0, next = 0; first < rows.size(); first = next) {
         while (next < rows.size() && keys[next].key == keys[first].key && keys[next].image == keys[first].image)
             ++next;
-        const std::ranges::subrange same(rows.begin() + static_cast<std::ptrdiff_t>(first),
-                                         rows.begin() + static_cast<std::ptrdiff_t>(next));
-        if (!std::ranges::is_sorted(same, before))
-            std::ranges::stable_sort(same, before);
+        const auto begin = rows.begin() + static_cast<std::ptrdiff_t>(first);
+        const auto end = rows.begin() + static_cast<std::ptrdiff_t>(next);
+        if (!std::is_sorted(begin, end, before))
+            std::stable_sort(begin, end, before);
     }
 }
 

@@ -13,6 +13,16 @@
 
 namespace quor::test {
 
+// A light of a class of its own that drawings hold as lights.
+class OtherLight final : public ZrDbLight {
+public:
+    static ZrRxClass* desc() {
+        static ZrRxClass description(L"OtherLight", ZrDbLight::desc(), L"LIGHT");
+        return &description;
+    }
+    [[nodiscard]] ZrRxClass* isA() const override { return desc(); }
+};
+
 class ListedLights : public testing::Test {
 protected:
     using Names = std::vector<ZrString>;
