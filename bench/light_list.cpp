@@ -1,112 +1,220 @@
-// What a list of the lights of a drawing reads and selects: 10^2 to 10^5 lights of a drawing that was just opened, and
-// a selection of as many objects. The cost of one has to be the same however many there are.
-#include "host/db/database.h"
+// The rows of the light list, 10^2 to 10^5 of them: filling and sorting the list has to grow with the drawing and
+// nothing else; what is done to one light has to cost the same beside a hundred rows and beside a hundred thousand.
+#include "bench/support/drawing_maker.h"
 #include "host/document.h"
 #include "host/session.h"
+#include "light/palette/light_rows.h"
+#include "sdk/db/database.h"
 #include "sdk/db/light.h"
-#include "sdk/ed/selection_sets.h"
 #include "tests/support/silent_front_end.h"
 
 #include <benchmark/benchmark.h>
 
-#include <array>
 #include <chrono>
 #include <memory>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace {
 
-using quor::db::Database;
+using quor::light::LightRows;
 
-// Lights of every type in turn, saved with their photometric data.
-std::string drawingWithLights(std::size_t count) {
-    constexpr std::array types{DrawableType::kPointLight, DrawableType::kSpotLight, DrawableType::kWebLight,
-                               DrawableType::kDistantLight};
-    const std::unique_ptr<Database> drawing = Database::makeNew();
-    for (std::size_t i = 0; i < count; ++i) {
-        auto light = std::make_unique<ZrDbLight>();
-        light->setName(L"Light" + std::to_wstring(i));
-        light->setLightType(types[i % types.size()]);
-        const ZrDbObjectPointer<ZrDbBlockTableRecord> space(drawing->interface().modelSpaceId(), ZrDb::kForWrite);
-        ZrDbObjectId id;
-        ZrDbLight* appended = light.release();
-        space->appendZrDbEntity(id, appended);
-        appended->close();
+ZrString nameOf(std::size_t number) { return L"点光源" + std::to_wstring(number); }
+
+// A drawing with lights whose names are out of order, and the list of them.
+class ListedDrawing {
+public:
+    explicit ListedDrawing(const benchmark::State& state)
+        : session_(front_, {.settingsFile = folder_.path() / "settings.ini",
+                            .resourceFolder = {},
+                            .moduleFolders = {},
+                            .language = L"zh"}) {
+        list.Create({.style = LVS_REPORT});
+        list.InsertColumn(0, {}, 0, 50);
+        list.InsertColumn(1, {}, 0, 120);
+        session_.documents().newDocument();
+        const auto count = static_cast<std::size_t>(state.range(0));
+        constexpr std::size_t stride = 7'919; // a prime: each number comes once
+        const ZrDbObjectPointer<ZrDbBlockTableRecord> space(zrdbWorkingDatabase()->modelSpaceId(), ZrDb::kForWrite);
+        for (std::size_t i = 0; i < count; ++i)
+            lights.push_back(append(*space, nameOf(i * stride % count)));
     }
-    return std::move(drawing->toBytes()).value();
-}
 
-std::vector<ZrDbObjectId> lightsOf(Database& drawing) {
+    // Reads the drawing from a file, so that no light has been opened. False when that failed.
+    [[nodiscard]] bool reopen() {
+        const auto file = folder_.path() / "lights.dxf";
+        if (!std::filesystem::exists(file) && !zrdbWorkingDatabase()->host().save(file))
+            return false;
+        auto drawing = quor::db::Database::open(file);
+        if (!drawing)
+            return false;
+        session_.documents().adopt(std::move(drawing).value(), file);
+        return true;
+    }
+
+    // As the palette fills its list.
+    void rebuild() {
+        quor::light::rowOrder = {.column = 1, .ascending = {false, false}};
+        rows.refresh();
+        rows.sortByClick(1);
+    }
+
+    CListCtrl list;
+    LightRows rows{list};
     std::vector<ZrDbObjectId> lights;
-    const ZrDbObjectPointer<ZrDbBlockTableRecord> space(drawing.interface().modelSpaceId(), ZrDb::kForRead);
-    for (const auto at = space->newIterator(ZrDbLight::desc()); !at->done(); at->step())
-        lights.push_back(at->entityId());
-    return lights;
+
+private:
+    static ZrDbObjectId append(ZrDbBlockTableRecord& space, const ZrString& name) {
+        auto* light = new ZrDbLight; // the drawing's as soon as it is appended
+        light->setName(name);
+        ZrDbObjectId id;
+        space.appendZrDbEntity(id, light);
+        light->close();
+        return id;
+    }
+
+    quor::bench::ScratchFolder folder_;
+    quor::test::SilentFrontEnd front_;
+    quor::Session session_;
+};
+
+template <class Work>
+double secondsFor(const Work& work) {
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-// Times `read` over the lights of a drawing that is opened anew each time.
-template <class Read>
-void overLights(benchmark::State& state, Read&& read) {
-    const std::string bytes = drawingWithLights(static_cast<std::size_t>(state.range(0)));
-    for ([[maybe_unused]] auto _ : state) {
-        const std::unique_ptr<Database> drawing = std::move(Database::fromBytes(bytes)).value();
-        const std::vector<ZrDbObjectId> lights = lightsOf(*drawing);
-        const auto start = std::chrono::steady_clock::now();
-        for (const ZrDbObjectId light : lights)
-            read(light);
-        state.SetIterationTime(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
-    }
-    state.SetItemsProcessed(state.iterations() * state.range(0));
+void rebuild(benchmark::State& state) {
+    ListedDrawing drawing(state);
+    for ([[maybe_unused]] auto _ : state)
+        state.SetIterationTime(secondsFor([&] { drawing.rebuild(); }));
     state.SetComplexityN(state.range(0));
 }
 
-void lightSummaries(benchmark::State& state) {
-    overLights(state, [](ZrDbObjectId light) {
-        ZrDbLightSummary summary;
-        benchmark::DoNotOptimize(zrdbLightSummary(light, summary));
-        benchmark::DoNotOptimize(summary.name.data());
-    });
-}
-
-void openLights(benchmark::State& state) {
-    overLights(state, [](ZrDbObjectId light) {
-        const ZrDbObjectPointer<ZrDbLight> opened(light, ZrDb::kForRead);
-        benchmark::DoNotOptimize(opened->name().data());
-    });
-}
-
-// A set is put together, selected, and the selection asked for again, member by member.
-void selectAndAsk(benchmark::State& state) {
-    quor::test::SilentFrontEnd front;
-    quor::Session session(front);
-    auto drawing = Database::fromBytes(drawingWithLights(static_cast<std::size_t>(state.range(0))));
-    const quor::Document& document = session.documents().adopt(std::move(drawing).value(), "lights.dxf");
-    const std::vector<ZrDbObjectId> lights = lightsOf(document.drawing());
+void rebuildUnopened(benchmark::State& state) {
+    ListedDrawing drawing(state);
     for ([[maybe_unused]] auto _ : state) {
-        ZdsName set;
-        zredSSAdd(nullptr, nullptr, set);
-        for (const ZrDbObjectId light : lights) {
-            const ZdsName name{light, 0};
-            zredSSAdd(&name, &set, set);
-        }
-        zredSSSetFirst(&set);
-        zredSSFree(set);
-        if (zredSSGet(L"I", set) != RTNORM)
-            return state.SkipWithError("nothing is selected");
-        ZdsName member;
-        for (long i = 0; zredSSName(set, i, member) == RTNORM; ++i)
-            benchmark::DoNotOptimize(member.object);
-        zredSSFree(set);
-        zredSSSetFirst(nullptr);
+        if (!drawing.reopen())
+            return state.SkipWithError("the drawing was not read");
+        state.SetIterationTime(secondsFor([&] { drawing.rebuild(); }));
     }
-    state.SetItemsProcessed(state.iterations() * state.range(0));
     state.SetComplexityN(state.range(0));
 }
 
-BENCHMARK(lightSummaries)->RangeMultiplier(10)->Range(100, 100'000)->UseManualTime()->Complexity(benchmark::oN);
-BENCHMARK(openLights)->RangeMultiplier(10)->Range(100, 100'000)->UseManualTime()->Complexity(benchmark::oN);
-BENCHMARK(selectAndAsk)->RangeMultiplier(10)->Range(100, 100'000)->Complexity(benchmark::oN);
+void sortByClick(benchmark::State& state) {
+    ListedDrawing drawing(state);
+    drawing.rebuild();
+    for ([[maybe_unused]] auto _ : state)
+        state.SetIterationTime(secondsFor([&] { drawing.rows.sortByClick(1); }));
+    state.SetComplexityN(state.range(0));
+}
+
+// The light that the single steps are done to; others come in between, so that it is not the one just touched.
+ZrDbObjectId anyLight(const ListedDrawing& drawing, std::size_t step) {
+    constexpr std::size_t stride = 104'729; // a prime
+    return drawing.lights[step * stride % drawing.lights.size()];
+}
+
+double updateAfter(ListedDrawing& drawing, ZrDbObjectId id, const std::function<void(ZrDbLight&)>& change) {
+    {
+        const ZrDbObjectPointer<ZrDbLight> light(id, ZrDb::kForWrite, true);
+        change(*light);
+    }
+    const ZrDbObjectPointer<ZrDbLight> light(id, ZrDb::kForRead, true);
+    return secondsFor([&] { drawing.rows.update(*light); });
+}
+
+double updateErased(ListedDrawing& drawing, ZrDbObjectId id, bool erased) {
+    return updateAfter(drawing, id, [&](ZrDbLight& light) { light.erase(erased); });
+}
+
+// Gives it a name that no light has had.
+double updateRenamed(ListedDrawing& drawing, std::size_t step) {
+    const ZrString name = nameOf(drawing.lights.size() + step);
+    return updateAfter(drawing, anyLight(drawing, step), [&](ZrDbLight& light) { light.setName(name); });
+}
+
+void eraseOne(benchmark::State& state) {
+    ListedDrawing drawing(state);
+    drawing.rebuild();
+    for (std::size_t step = 0; [[maybe_unused]] auto _ : state) {
+        const ZrDbObjectId light = anyLight(drawing, step++);
+        state.SetIterationTime(updateErased(drawing, light, true));
+        updateErased(drawing, light, false);
+    }
+}
+
+void addOne(benchmark::State& state) {
+    ListedDrawing drawing(state);
+    drawing.rebuild();
+    for (std::size_t step = 0; [[maybe_unused]] auto _ : state) {
+        const ZrDbObjectId light = anyLight(drawing, step++);
+        updateErased(drawing, light, true);
+        state.SetIterationTime(updateErased(drawing, light, false));
+    }
+}
+
+void renameOne(benchmark::State& state) {
+    ListedDrawing drawing(state);
+    drawing.rebuild();
+    for (std::size_t step = 0; [[maybe_unused]] auto _ : state)
+        state.SetIterationTime(updateRenamed(drawing, step++));
+}
+
+// With as many renamed rows to be put in their places as range(1) says.
+void addOneAfterRenaming(benchmark::State& state) {
+    ListedDrawing drawing(state);
+    drawing.rebuild();
+    for (std::size_t step = 0; [[maybe_unused]] auto _ : state) {
+        for (std::int64_t i = 0; i < state.range(1); ++i, ++step)
+            updateRenamed(drawing, step);
+        const ZrDbObjectId light = anyLight(drawing, step);
+        updateErased(drawing, light, true);
+        state.SetIterationTime(updateErased(drawing, light, false));
+    }
+}
+
+void selectTenth(benchmark::State& state) {
+    ListedDrawing drawing(state);
+    drawing.rebuild();
+    const auto count = static_cast<std::ptrdiff_t>(drawing.lights.size() / 10);
+    const std::vector<ZrDbObjectId> halves[] = {{drawing.lights.begin(), drawing.lights.begin() + count},
+                                                {drawing.lights.end() - count, drawing.lights.end()}};
+    for (std::size_t step = 0; [[maybe_unused]] auto _ : state)
+        state.SetIterationTime(secondsFor([&] { drawing.rows.select(halves[step++ % 2]); }));
+    state.SetComplexityN(state.range(0));
+}
+
+void findByName(benchmark::State& state) {
+    ListedDrawing drawing(state);
+    drawing.rebuild();
+    constexpr std::int64_t stride = 104'729;
+    for (std::int64_t step = 0; [[maybe_unused]] auto _ : state)
+        benchmark::DoNotOptimize(drawing.rows.lightAt(static_cast<int>(step++ * stride % state.range(0))));
+}
+
+void sizes(benchmark::internal::Benchmark* benchmark) { benchmark->RangeMultiplier(10)->Range(100, 100'000); }
+void whole(benchmark::internal::Benchmark* benchmark) {
+    sizes(benchmark);
+    benchmark->Unit(benchmark::kMillisecond)->UseManualTime();
+}
+// Each step is short beside what leads to it: a fixed number of them.
+void single(benchmark::internal::Benchmark* benchmark) {
+    sizes(benchmark);
+    benchmark->Unit(benchmark::kNanosecond)->UseManualTime()->Iterations(20'000);
+}
+
+BENCHMARK(rebuild)->Apply(whole)->Complexity();
+BENCHMARK(rebuildUnopened)->Apply(whole)->Iterations(10)->Complexity();
+BENCHMARK(sortByClick)->Apply(whole)->Complexity();
+BENCHMARK(selectTenth)->Apply(whole)->Complexity();
+BENCHMARK(addOne)->Apply(single);
+BENCHMARK(renameOne)->Apply(single);
+BENCHMARK(eraseOne)->Apply(single);
+BENCHMARK(addOneAfterRenaming)
+    ->ArgsProduct({{10'000, 100'000}, {1, 10, 100}})
+    ->Unit(benchmark::kMicrosecond)
+    ->UseManualTime()
+    ->Iterations(200);
+BENCHMARK(findByName)->Apply(sizes);
 
 } // namespace
