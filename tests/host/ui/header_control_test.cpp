@@ -42,6 +42,7 @@ protected:
     }
     [[nodiscard]] std::vector<int> orders() const {
         std::vector<int> result;
+        result.reserve(static_cast<std::size_t>(header.GetItemCount()));
         for (int i = 0; i < header.GetItemCount(); ++i)
             result.push_back(header.GetItem(i)->order);
         return result;

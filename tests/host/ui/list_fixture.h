@@ -47,6 +47,7 @@ protected:
 
     static std::vector<CListCtrl::Row> rowsNamed(const std::vector<ZrString>& names) {
         std::vector<CListCtrl::Row> rows;
+        rows.reserve(names.size());
         for (const ZrString& name : names)
             rows.push_back({.texts = {L"", name}, .image = -1});
         return rows;
