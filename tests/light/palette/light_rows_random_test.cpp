@@ -142,6 +142,7 @@ private:
 
     [[nodiscard]] std::vector<SeenRow> seen() const {
         std::vector<SeenRow> found;
+        found.reserve(static_cast<std::size_t>(list.GetItemCount()));
         for (int i = 0; i < list.GetItemCount(); ++i)
             found.push_back({.name = list.GetItemText(i, 1),
                              .icon = list.GetItemText(i, 0),
@@ -153,6 +154,7 @@ private:
     }
     [[nodiscard]] std::vector<SeenRow> expected() const {
         std::vector<SeenRow> found;
+        found.reserve(plain.rows().size());
         for (const PlainRows::Row& row : plain.rows())
             found.push_back({.name = row.name,
                              .icon = {},

@@ -115,6 +115,7 @@ protected:
     }
     [[nodiscard]] std::vector<ZrDbObjectId> lights() const {
         std::vector<ZrDbObjectId> found;
+        found.reserve(static_cast<std::size_t>(list.GetItemCount()));
         for (int i = 0; i < list.GetItemCount(); ++i)
             found.push_back(rows.lightAt(i));
         return found;
