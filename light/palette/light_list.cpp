@@ -204,6 +204,7 @@ void CZrLightList::lightTouchedByRedo(const ZrDbDatabase* /*database*/, const Zr
 
 void CZrLightList::documentBecameCurrent(ZrApDocument* document) {
     CZrRxPaletteSet::documentBecameCurrent(document);
+    forgetPending(); // their drawing may be about to go
     if (listDialog_ == nullptr)
         return;
     if (IsVisible())
@@ -212,7 +213,9 @@ void CZrLightList::documentBecameCurrent(ZrApDocument* document) {
         listDialog_->clearList();
 }
 
-void CZrLightList::commandStarting() {
+void CZrLightList::commandStarting() { forgetPending(); }
+
+void CZrLightList::forgetPending() {
     pendingLightIds_.clear();
     pendingLightId_ = {};
 }

@@ -55,6 +55,7 @@ private:
     void hide();
     void toggleTips();
     [[nodiscard]] bool tipsVisible() const;
+    void forgetPending();
     void updateRow(ZrDbObjectId id);
 
     std::vector<ZrDbObjectId> pendingLightIds_; // appended since the command began

@@ -319,11 +319,13 @@ TEST_F(LightListDialog, ARightClickOfTheDialogOverTheTipsOffersNothing) {
     EXPECT_TRUE(front().lastMenu().empty());
 }
 
-TEST_F(LightListDialog, ARightClickWhereTheTipsWereOffersThem) {
-    const CRect place = tips().GetRectInParent();
+// The hidden tips reach into the lower edge.
+TEST_F(LightListDialog, ARightClickWhereTheTipsAreHiddenOffersThem) {
     dialog().toggleTips();
+    const CPoint lowest = {50, dialog().GetClientRect().bottom - 1};
+    ASSERT_TRUE(tips().GetRectInParent().PtInRect(lowest));
 
-    ui::rightClick(dialog(), {place.left + 5, place.bottom + 5});
+    ui::rightClick(dialog(), lowest);
 
     EXPECT_THAT(front().lastMenu(), ElementsAre(L"显示提示"));
 }

@@ -26,6 +26,7 @@ TEST_F(LightListDocuments, AShownListIsMadeAnewForTheOtherDrawing) {
 
 TEST_F(LightListDocuments, AHiddenListIsEmptied) {
     type({L"NEW"});
+    make(L"Second drawing");
     hide();
 
     backToFirst();

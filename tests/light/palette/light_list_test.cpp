@@ -1,5 +1,4 @@
 // Which lights get a row, and when: what the palette makes of what happens in the drawing.
-#include "sdk/db/database.h"
 #include "tests/light/palette/palette_test.h"
 
 namespace quor::test {
@@ -7,21 +6,7 @@ namespace {
 
 constexpr const wchar_t* everyKind = L"" QUOR_TEST_DATA "/dxf/own/every_kind.dxf";
 
-class LightList : public PaletteTest {
-protected:
-    LightList() { show(); }
-
-    // What the palette is told of an object, as the host tells it.
-    template <class Slot>
-    void tell(Slot slot, ZrDbObjectId id) {
-        const ZrDbObjectPointer<ZrDbObject> object(id, ZrDb::kForRead, true);
-        (palette().*slot)(object->database(), object.object());
-    }
-    static ZrDbObjectId firstLight() {
-        const ZrDbObjectPointer<ZrDbBlockTableRecord> space(zrdbWorkingDatabase()->currentSpaceId(), ZrDb::kForRead);
-        return space->newIterator(ZrDbLight::desc())->entityId();
-    }
-};
+using LightList = ShownPaletteTest;
 
 TEST_F(LightList, ALightIsListedAtTheEndOfTheCommandThatMadeIt) {
     Names during;
@@ -129,39 +114,6 @@ TEST_F(LightList, ALightOfADerivedClassIsLeftOutWhenTheListIsMadeAnew) {
     show();
 
     EXPECT_EQ(names(), Names{L"Lamp"});
-}
-
-TEST_F(LightList, AnAppendedLightThatIsAsItsFileHasItIsLeftAlone) {
-    type({L"OPEN", everyKind});
-    const ZrDbObjectId fromFile = firstLight();
-    dialog().clearList();
-
-    tell(&CZrLightList::lightAppended, fromFile);
-    palette().commandFinished();
-
-    EXPECT_TRUE(names().empty());
-}
-
-TEST_F(LightList, ALightFromAFileIsFollowedOnceItIsTouched) {
-    type({L"OPEN", everyKind});
-    const ZrDbObjectId fromFile = firstLight();
-    dialog().clearList();
-
-    tell(&CZrLightList::lightTouched, fromFile);
-    palette().commandFinished();
-
-    EXPECT_EQ(names().size(), 1U);
-}
-
-TEST_F(LightList, ANullObjectIsLeftAlone) {
-    palette().lightAppended(nullptr, nullptr);
-    palette().lightChangedNow(nullptr, nullptr);
-    palette().lightTouched(nullptr, nullptr);
-    palette().lightTouchedByUndo(nullptr, nullptr);
-    palette().lightTouchedByRedo(nullptr, nullptr);
-    palette().commandFinished();
-
-    EXPECT_TRUE(names().empty());
 }
 
 TEST_F(LightList, ErasingALightTakesItsRowAwayAtOnce) {
@@ -279,146 +231,8 @@ TEST_F(LightList, EachTypeHasItsIcon) {
 }
 
 // Of lights that are only modified the one that was touched last is looked at.
-TEST_F(LightList, OfSeveralModifiedLightsTheLastOneIsBroughtUpToDate) {
-    const ZrDbObjectId first = make(L"First");
-    const ZrDbObjectId second = make(L"Second");
-
-    asCommand([&] {
-        ZrDbObjectPointer<ZrDbLight>(first, ZrDb::kForWrite)->setName(L"Red");
-        ZrDbObjectPointer<ZrDbLight>(second, ZrDb::kForWrite)->setName(L"Blue");
-    });
-
-    EXPECT_EQ(names(), (Names{L"First", L"Blue"}));
-}
 
 // The lights of a command that made some stand before the one that it touched.
-TEST_F(LightList, ACommandThatMakesALightBringsNoOtherUpToDate) {
-    const ZrDbObjectId old = make(L"Old");
-
-    asCommand([&] {
-        type({L"POINTLIGHT", L"1,2,3", L"N", L"New", L"X"});
-        ZrDbObjectPointer<ZrDbLight>(old, ZrDb::kForWrite)->setName(L"Renamed");
-    });
-
-    EXPECT_EQ(names(), (Names{L"New", L"Old"}));
-}
-
-TEST_F(LightList, TheTouchedLightIsStillKnownAfterTheNewOnesWereAdded) {
-    const ZrDbObjectId old = make(L"Old");
-    make(L"New");
-    palette().commandStarting();
-    tell(&CZrLightList::lightAppended, old);
-    palette().commandFinished();
-    erase(old);
-    dialog().clearList();
-    palette().commandStarting();
-    erase(old, false);
-    dialog().clearList();
-    tell(&CZrLightList::lightAppended, old);
-
-    palette().commandFinished();
-    ASSERT_EQ(names(), Names{L"Old"});
-    dialog().clearList();
-    palette().commandFinished();
-
-    EXPECT_EQ(names(), Names{L"Old"});
-}
-
-TEST_F(LightList, ALightThatWasTouchedIsLookedAtOnce) {
-    const ZrDbObjectId lamp = make(L"Lamp");
-    tell(&CZrLightList::lightTouched, lamp);
-    palette().commandFinished();
-    dialog().clearList();
-
-    palette().commandFinished();
-
-    EXPECT_TRUE(names().empty());
-}
-
-TEST_F(LightList, ACommandThatStartsForgetsWhatWaits) {
-    const ZrDbObjectId appended = make(L"Appended");
-    const ZrDbObjectId touched = make(L"Touched");
-    dialog().clearList();
-    tell(&CZrLightList::lightAppended, appended);
-    tell(&CZrLightList::lightTouched, touched);
-
-    palette().commandStarting();
-    palette().commandFinished();
-
-    EXPECT_TRUE(names().empty());
-}
-
-TEST_F(LightList, AnErasedLightThatIsTouchedDoesNotReplaceTheOneBefore) {
-    const ZrDbObjectId lamp = make(L"Lamp");
-    const ZrDbObjectId erased = make(L"Erased");
-    erase(erased);
-    dialog().clearList();
-    palette().commandStarting();
-
-    tell(&CZrLightList::lightTouched, lamp);
-    tell(&CZrLightList::lightTouched, erased);
-    palette().commandFinished();
-
-    EXPECT_EQ(names(), Names{L"Lamp"});
-}
-
-class LightListTouchedByHistory
-    : public LightList,
-      public testing::WithParamInterface<void (CZrLightList::*)(const ZrDbDatabase*, const ZrDbObject*)> {};
-
-TEST_P(LightListTouchedByHistory, AnErasedLightReplacesTheOneBefore) {
-    const ZrDbObjectId lamp = make(L"Lamp");
-    const ZrDbObjectId erased = make(L"Erased");
-    erase(erased);
-    dialog().clearList();
-    palette().commandStarting();
-
-    tell(&CZrLightList::lightTouched, lamp);
-    tell(GetParam(), erased);
-    palette().commandFinished();
-
-    EXPECT_TRUE(names().empty());
-}
-
-TEST_P(LightListTouchedByHistory, ALightIsBroughtUpToDateAtTheEndOfTheCommand) {
-    const ZrDbObjectId lamp = make(L"Lamp");
-    dialog().clearList();
-    palette().commandStarting();
-
-    tell(GetParam(), lamp);
-    EXPECT_TRUE(names().empty());
-    palette().commandFinished();
-
-    EXPECT_EQ(names(), Names{L"Lamp"});
-}
-
-INSTANTIATE_TEST_SUITE_P(All, LightListTouchedByHistory,
-                         testing::Values(&CZrLightList::lightTouchedByUndo, &CZrLightList::lightTouchedByRedo));
-
-TEST_F(LightList, AnErasedLightIsNotAppended) {
-    const ZrDbObjectId erased = make(L"Erased");
-    erase(erased);
-    palette().commandStarting();
-
-    tell(&CZrLightList::lightAppended, erased);
-    erase(erased, false);
-    dialog().clearList();
-    palette().commandFinished();
-
-    EXPECT_TRUE(names().empty());
-}
-
-TEST_F(LightList, ALightThatIsOpenForWriteAtTheEndOfTheCommandIsSkipped) {
-    const ZrDbObjectId lamp = make(L"Lamp");
-    dialog().clearList();
-    palette().commandStarting();
-    tell(&CZrLightList::lightAppended, lamp);
-    const ZrDbObjectPointer<ZrDbLight> writer(lamp, ZrDb::kForWrite);
-
-    palette().commandFinished();
-
-    EXPECT_TRUE(names().empty());
-}
 
 TEST_F(LightList, TwoLightsOfOneNameHaveARowEach) {
     make(L"Twin");

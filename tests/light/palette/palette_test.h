@@ -93,4 +93,17 @@ private:
     std::function<void()> body_;
 };
 
+// The palette is shown.
+class ShownPaletteTest : public PaletteTest {
+protected:
+    ShownPaletteTest() { show(); }
+
+    // What the palette is told of an object, erased or not, as the host tells it.
+    template <class Slot>
+    void tell(Slot slot, ZrDbObjectId id) {
+        const ZrDbObjectPointer<ZrDbObject> object(id, ZrDb::kForRead, true);
+        (palette().*slot)(object->database(), object.object());
+    }
+};
+
 } // namespace quor::test

@@ -93,6 +93,14 @@ TEST_F(RowMenu, ARightClickOnOneOfSeveralSelectsThemFromTheLastToTheFirst) {
     EXPECT_EQ(list().GetSelectionMark(), 1);
 }
 
+TEST_F(RowMenu, TheMarkGoesToTheRowThatTheListTells) {
+    list().SetSelectionMark(0);
+
+    list().notifyParent({.code = ui::Notification::Code::RightClick, .index = 1});
+
+    EXPECT_EQ(list().GetSelectionMark(), 1);
+}
+
 TEST_F(RowMenu, ARightClickOnARowThatIsNotSelectedSelectsItAlone) {
     click(0);
     click(1, MK_CONTROL);

@@ -96,6 +96,15 @@ TEST_F(ListSelection, AClickBesideTheRowsChangesNothing) {
     EXPECT_EQ(selectedNames(), Names{L"B"});
 }
 
+TEST_F(ListSelection, AClickBesideTheRowsLeavesOtherObjectsSelected) {
+    const ZrDbObjectId other = line();
+    selectInDrawing({other, b_});
+
+    clickBeside();
+
+    EXPECT_EQ(selectedInDrawing(), (Ids{other, b_}));
+}
+
 TEST_F(ListSelection, AClickReplacesWhatElseWasSelectedInTheDrawing) {
     selectInDrawing({line()});
 
