@@ -1,13 +1,17 @@
 // Any answers at all commands, typed and from scripts, in either language: every command must end, Esc must lead back
-// to the command prompt, no control character may be shown, and every drawing must still save and open with all that it
-// held. What is typed stays in a scratch folder, so no command is left out.
+// to the command prompt, no control character may be shown, the light list must have the lights, and every drawing must
+// still save and open with all that it held. What is typed stays in a scratch folder, so no command is left out.
 #include "fuzz/support/answer_maker.h"
 #include "fuzz/support/drawing_state.h"
+#include "fuzz/support/failure.h"
 #include "fuzz/support/fuzzed_front_end.h"
+#include "fuzz/support/palette_check.h"
 #include "fuzz/support/scratch.h"
 #include "host/db/ref_edit.h"
 #include "host/document.h"
 #include "host/ed/command_processor.h"
+#include "host/ed/input_stack.h"
+#include "host/ed/script_source.h"
 #include "host/rx/module_loader.h"
 #include "host/session.h"
 #include "host/sys/utf8.h"
@@ -15,9 +19,8 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <dlfcn.h>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -28,15 +31,8 @@ using namespace quor;
 // Longer ones find nothing that a short one does not, and take their time.
 constexpr std::size_t kMostBytes = 1024;
 
-[[noreturn]] void fail(const std::string& what) {
-    std::fprintf(stderr, "%s\n", what.c_str());
-    std::abort();
-}
-
-void require(bool holds, const char* what) {
-    if (!holds)
-        fail(what);
-}
+using fuzz::fail;
+using fuzz::require;
 
 const std::filesystem::path& moduleFile() {
     static const std::filesystem::path file = QUOR_BUILD_DIR "/lib/quor/modules/light.so";
@@ -75,7 +71,7 @@ bool isGiven(const std::vector<std::string>& arguments, const std::string& flag)
 // The fuzzer looks at its folders and writes what it finds from the scratch folder too.
 void completeArguments(std::vector<std::string>& arguments) {
     const std::string here = std::filesystem::current_path().string();
-    for (std::string& argument : arguments) {
+    for (std::string& argument : std::span(arguments).subspan(1)) { // behind the program's own name
         const bool isPath = argument.find('/') != std::string::npos || std::filesystem::exists(argument);
         if (!argument.starts_with("-") && !argument.starts_with("/") && isPath)
             argument.insert(0, here + "/");
@@ -166,16 +162,29 @@ void mapModule() {
     require(dlopen(moduleFile().c_str(), RTLD_NOW | RTLD_NODELETE) != nullptr, "no module");
 }
 
+// Lights of each kind, and the list of them.
+constexpr std::string_view kLightsAndList = "DEFAULTLIGHTING 0\n"
+                                            "POINTLIGHT 1,2,3 N Lamp\nX\n"
+                                            "SPOTLIGHT 0,0,5 0,0,0 X\n"
+                                            "DISTANTLIGHT V 0,-0.01,1 X\n"
+                                            "WEBLIGHT 0,0,3 0,0,0 X\n"
+                                            "TARGETPOINT 4,5,6 0,0,0 X\n"
+                                            "FREESPOT 7,8,9 X\n"
+                                            "LIGHTLIST\n";
+
 void runSession(fuzz::FuzzedFrontEnd& front, std::string_view bytes) {
     const unsigned choice = static_cast<std::uint8_t>(bytes.front());
     Session session(front, optionsIn((choice & 1) != 0 ? L"en" : L"zh"));
     session.documents().newDocument();
     require(session.modules().loadModule(fromUtf8(moduleFile().string())) == Quor::eOk, "the module is not loaded");
+    if (choice / 6 % 2 != 0)
+        session.input().push(std::make_unique<ed::ScriptSource>(std::string(kLightsAndList), L"lights.scr"));
     fuzz::AnswerMaker maker(bytes.substr(1), session, scratch());
     front.answerFrom(maker, static_cast<fuzz::Ending>(choice / 2 % 3));
     while (session.processor().step() && !session.processor().quitRequested()) {
     }
     require(!session.processor().isRunning(), "a command has not ended");
+    fuzz::checkLightList(session);
     for (const auto& document : session.documents().all())
         checkDrawing(*document);
 }

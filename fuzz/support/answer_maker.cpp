@@ -20,6 +20,8 @@ constexpr std::uint8_t kFirstMark = 0x80;
 constexpr std::uint8_t kLastMark = 0xBF;
 constexpr std::uint8_t kScriptMark = 0xBE;
 constexpr std::uint8_t kProgramMark = 0xBF;
+// From here on: an act in the palette, with the keys held down in the last two bits.
+constexpr std::uint8_t kFirstPaletteMark = 0xF8;
 
 bool isMark(char c) {
     const auto byte = static_cast<std::uint8_t>(c);
@@ -118,18 +120,35 @@ Answer AnswerMaker::typed(std::wstring_view text) const {
     return {Answer::Kind::Text, ZrString(text), {}};
 }
 
+// What was started in the palette at the command prompt runs first: a program with a screen ends its question then.
 Answer AnswerMaker::personsAnswer(const Question& question) {
     while (!rest_.empty()) {
         const auto mark = static_cast<std::uint8_t>(rest_.front());
-        if (mark != kScriptMark && mark != kProgramMark)
-            break;
-        rest_.remove_prefix(1);
-        if (mark == kScriptMark)
-            startScript(byte());
+        if (mark >= kFirstPaletteMark)
+            actInPalette();
+        else if (mark == kScriptMark || mark == kProgramMark)
+            startInput();
         else
-            startProgram(byte());
+            break;
+        if (mark >= kFirstPaletteMark && question.kind == Question::Kind::Command && !session_.input().empty())
+            return {Answer::Kind::Cancel, {}, {}};
     }
     return programsAnswer(question);
+}
+
+void AnswerMaker::startInput() {
+    const bool isScript = byte() == kScriptMark;
+    const unsigned choice = byte();
+    if (isScript)
+        startScript(choice);
+    else
+        startProgram(choice);
+}
+
+void AnswerMaker::actInPalette() {
+    const unsigned held = byte();
+    const unsigned what = byte();
+    palettePerson_.act(what, byte(), held);
 }
 
 Answer AnswerMaker::programsAnswer(const Question& question) {

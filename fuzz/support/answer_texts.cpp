@@ -134,6 +134,13 @@ constexpr const wchar_t* kSettings[] = {
     L"LTSCALE 1e-99",
     L"LAYOUT S Layout1",
     L"MODEL",
+    L"LIGHTLISTSTATE",
+    L"LIGHTLISTSTATE 1",
+    L"COLORTHEME 0",
+    L"COLORTHEME 1",
+    L"CLAYER ADSK_SYSTEM_LIGHTS",
+    L"CLAYER *ADSK_SYSTEM_LIGHTS",
+    L"LAYER M ADSK_SYSTEM_LIGHTS ",
 };
 
 constexpr const wchar_t* kOptions[] = {
@@ -216,6 +223,27 @@ constexpr const wchar_t* kCommands[] = {
     L"FREEWEB 5,5,5 X",
     L"FREESPOT 1,1,1 X",
     L"LAYER M Lamps ",
+    L"LIGHTLIST",
+    L"LIGHTLISTCLOSE",
+    L"LIGHTLIST",
+    L"OPEN lamps.dxf",
+    L"REFEDIT #62 ",
+    L"REFEDIT #6C ",
+    L"REFEDIT #68 ",
+    L"REFCLOSE S",
+    L"REFCLOSE D",
+    L"PROPERTIES",
+    L"PROPERTIES L ",
+    L"PROPERTIES ALL ",
+    L"ERASE",
+    L"LOADMODULE light",
+    L"LINE 1,1 ",
+    L"POINTLIGHT 1,2,3 X",
+    L"SPOTLIGHT 0,0,5 0,0,0 X",
+    L"DISTANTLIGHT V 0,-0.01,1 X",
+    L"WEBLIGHT 0,0,3 0,0,0 X",
+    L"LAYER M *ADSK_SYSTEM_LIGHTS ",
+    L"LAYER S ADSK_SYSTEM_LIGHTS ",
 };
 
 } // namespace

@@ -1,13 +1,17 @@
 #include "fuzz/support/fuzzed_front_end.h"
 
+#include "fuzz/support/failure.h"
+#include "fuzz/support/onlooker.h"
+#include "fuzz/support/palette_check.h"
 #include "host/sys/utf8.h"
 #include "host/sys/visible_text.h"
 #include "host/ui/file_dialog_text.h"
+#include "host/ui/palette_text.h"
 #include "host/ui/task_dialog_text.h"
+#include "sdk/ui/menu.h"
+#include "sdk/ui/palette_set.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 
 namespace quor::fuzz {
 
@@ -21,10 +25,17 @@ int checkShown(std::string_view bytes) {
     const ZrString text = fromUtf8(bytes);
     const bool obeyed =
         std::any_of(text.begin(), text.end(), [](wchar_t c) { return c != L'\n' && c != L'\t' && isControl(c); });
-    if (!obeyed)
-        return 0;
-    std::fputs("a control character is shown\n", stderr);
-    std::abort();
+    require(!obeyed, "a control character is shown");
+    return 0;
+}
+
+void addCommands(const CMenu& menu, std::vector<unsigned>& commands) {
+    for (const CMenu::Entry& entry : menu.entries()) {
+        if (entry.command != 0)
+            commands.push_back(entry.command);
+        if (entry.submenu != nullptr)
+            addCommands(*entry.submenu, commands);
+    }
 }
 
 } // namespace
@@ -45,8 +56,7 @@ Answer FuzzedFrontEnd::lastAnswer(const Question& question) {
         return {Answer::Kind::End, {}, {}};
     if (++escapes_ <= kMostEscapes)
         return {Answer::Kind::Cancel, {}, {}};
-    std::fputs("Esc does not lead back to the command prompt\n", stderr);
-    std::abort();
+    fail("Esc does not lead back to the command prompt");
 }
 
 Answer FuzzedFrontEnd::ask(const Question& question) {
@@ -86,6 +96,21 @@ TaskDialogAnswer FuzzedFrontEnd::showTaskDialog(const CZrUiTaskDialog& dialog) {
 
 FileAnswer FuzzedFrontEnd::chooseFile(const FileQuestion& question) {
     return ui::askFile(question, [this](const Question& asked) { return ask(asked); });
+}
+
+void FuzzedFrontEnd::realise(CWnd& window) { watch(window); }
+
+void FuzzedFrontEnd::paletteShown(const CZkUiPaletteSet& palette) {
+    print(ui::paletteText(palette, columns()));
+    checkRows(palette);
+}
+
+unsigned FuzzedFrontEnd::trackMenu(const CMenu& menu, CPoint /*screen*/) {
+    const std::optional<unsigned> choice = maker_->choice();
+    std::vector<unsigned> commands;
+    addCommands(menu, commands);
+    const std::size_t chosen = choice ? *choice % (commands.size() + 1) : commands.size();
+    return chosen < commands.size() ? commands[chosen] : 0;
 }
 
 } // namespace quor::fuzz

@@ -1,5 +1,5 @@
 // The front end of a fuzzed session: the screen of the console, and the answer maker in place of a person; Esc, or the
-// end of the input, once it has no more.
+// end of the input, once it has no more. Windows have peers that look at them, and palettes are shown as tables too.
 #pragma once
 
 #include "console/output.h"
@@ -25,6 +25,9 @@ public:
     Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) override;
     TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) override;
     FileAnswer chooseFile(const FileQuestion& question) override;
+    void realise(CWnd& window) override;
+    void paletteShown(const CZkUiPaletteSet& palette) override;
+    unsigned trackMenu(const CMenu& menu, CPoint screen) override;
 
 private:
     [[nodiscard]] Answer lastAnswer(const Question& question);
