@@ -77,26 +77,41 @@ TEST_F(LinkedModule, UnloadingItTakesAShownPaletteAway) {
     EXPECT_TRUE(palettes().empty());
 }
 
-// Whoever looks on sees in which order it goes.
-class OrderOfGoing final : public CZrRxPaletteSet {
-public:
-    explicit OrderOfGoing(std::vector<ZrString>& seen) : seen_(seen) {}
-    void sysVarChanged(const ZrString& name) override { seen_.push_back(name); }
-
-private:
-    std::vector<ZrString>& seen_;
+// What is left of the module when the palette's window goes.
+struct Left {
+    bool command = true;
+    bool variable = true;
+    std::size_t palettes = 0;
 };
 
-// The commands and the variable go first: what the palette tells while it goes reaches nobody.
-TEST_F(LinkedModule, ThePaletteGoesAfterTheVariable) {
+// Goes with its window, and looks around then.
+class LookingPeer final : public ui::WindowPeer {
+public:
+    LookingPeer(TestSession& session, Left& left) : session_(session), left_(left) {}
+    ~LookingPeer() override {
+        left_ = {.command = session_.session().commands().find({.name = L"LIGHTLIST"}) != nullptr,
+                 .variable = hasState(),
+                 .palettes = palettes().size()};
+    }
+    void changed(CWnd&, Change) override {}
+
+private:
+    TestSession& session_;
+    Left& left_;
+};
+
+// First the commands, then the variable, then the window, then the palette itself.
+TEST_F(LinkedModule, UnloadingItTakesOneThingAwayAfterTheOther) {
     load();
     session_.run({L"LIGHTLIST"});
-    std::vector<ZrString> seen;
-    Singleton<CZrRxPaletteSetManager>::instancePtr(true)->Append(std::make_unique<OrderOfGoing>(seen), L"Watcher");
+    Left left;
+    light::lightListPalette->attachPeer(std::make_unique<LookingPeer>(session_, left));
 
     unload();
 
-    EXPECT_TRUE(seen.empty());
+    EXPECT_FALSE(left.command);
+    EXPECT_FALSE(left.variable);
+    EXPECT_EQ(left.palettes, 1U);
 }
 
 TEST_F(LinkedModule, UnloadingItAfterThePalettesAreGoneIsHarmless) {

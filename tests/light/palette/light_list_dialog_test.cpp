@@ -1,4 +1,4 @@
-// The dialog in the palette: its columns, icons and texts, headings, keys, tooltips, menus and colours.
+// The dialog in the palette: its columns, icons and texts, headings, keys, menus and colours.
 #include "tests/light/palette/palette_test.h"
 
 #include "host/ui/input.h"
@@ -6,7 +6,6 @@
 #include "host/ui/recording_device.h"
 #include "sdk/sys/ads.h"
 #include "sdk/sys/system.h"
-#include "sdk/ui/tooltip.h"
 #include "sdk/ui/ui_service.h"
 
 #include <gmock/gmock.h>
@@ -25,12 +24,6 @@ protected:
     explicit LightListDialog(const TestSessionOptions& options) : PaletteTest(options) { show(); }
 
     static const CHeaderCtrl::Item& heading(int column) { return *list().GetHeaderCtrl()->GetItem(column); }
-    static CToolTipCtrl& tooltip() {
-        for (CWnd* const child : dialog().children())
-            if (auto* const found = dynamic_cast<CToolTipCtrl*>(child))
-                return *found;
-        throw std::logic_error("the dialog has no tooltips");
-    }
     void makeSome() {
         make(L"B", DrawableType::kDistantLight);
         make(L"C", DrawableType::kPointLight);
@@ -213,70 +206,6 @@ TEST_P(SwallowedKey, NeitherMovesTheSelectionNorClosesThePalette) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, SwallowedKey, testing::Values(VK_ESCAPE, VK_RETURN, VK_UP, VK_DOWN));
-
-// Tooltips.
-
-TEST_F(LightListDialog, TheTipOfTheTipsIsBothSentencesOnOneLine) {
-    EXPECT_EQ(tooltip().GetText(tips()), ZrString(selectTip) + distantTip);
-}
-
-TEST_F(LightListDialog, TheListHasNoTipAtFirst) { EXPECT_EQ(tooltip().GetText(list()), L""); }
-
-TEST_F(LightListDialog, TheTipOfTheListIsTheNameUnderTheMouse) {
-    makeSome();
-
-    moveTo(0);
-    EXPECT_EQ(tooltip().GetText(list()), L"A");
-    EXPECT_EQ(tooltip().shown(), &list());
-    moveTo(3);
-
-    EXPECT_EQ(tooltip().GetText(list()), L"D");
-    EXPECT_EQ(tooltip().shown(), &list());
-}
-
-TEST_F(LightListDialog, BesideTheRowsThereIsNoTip) {
-    makeSome();
-    moveTo(0);
-
-    ui::moveMouse(list(), {50, list().GetClientRect().bottom - 1});
-
-    EXPECT_EQ(tooltip().GetText(list()), L"");
-    EXPECT_EQ(tooltip().shown(), nullptr);
-}
-
-TEST_F(LightListDialog, OverTheHeadingsThereIsNoTip) {
-    makeSome();
-    moveTo(0);
-
-    ui::moveMouse(*list().GetHeaderCtrl(), {60, 5});
-
-    EXPECT_EQ(tooltip().GetText(list()), L"");
-    EXPECT_EQ(tooltip().shown(), nullptr);
-}
-
-TEST_F(LightListDialog, ATipHas1024CharactersAtMost) {
-    make(L"Lamp");
-    list().SetItemText(0, 1, ZrString(2000, L'x'));
-
-    moveTo(0);
-
-    EXPECT_EQ(tooltip().GetText(list()), ZrString(1024, L'x'));
-}
-
-TEST_F(LightListDialog, APressedButtonTakesTheTipAway) {
-    makeSome();
-    moveTo(0);
-
-    click(0);
-
-    EXPECT_EQ(tooltip().shown(), nullptr);
-}
-
-TEST_F(LightListDialog, TheTipsHaveATipUnderTheMouse) {
-    ui::moveMouse(tips(), {10, 10});
-
-    EXPECT_EQ(tooltip().shown(), &tips());
-}
 
 // The menu of the dialog.
 
