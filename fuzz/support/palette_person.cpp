@@ -93,6 +93,10 @@ const PalettePerson::Act PalettePerson::kActs[] = {
     &PalettePerson::sendMessage,
     &PalettePerson::resize,
     &PalettePerson::paint,
+    &PalettePerson::paintWhatAsked,
+    &PalettePerson::paintWhatAsked,
+    &PalettePerson::paintWhatAsked,
+    &PalettePerson::paintWhatAsked,
 };
 
 const PalettePerson::HostAct PalettePerson::kHostActs[] = {
@@ -219,10 +223,13 @@ void PalettePerson::resize(CZkUiPaletteSet& palette, unsigned choice) {
 }
 
 void PalettePerson::paint(CZkUiPaletteSet& palette, unsigned /*choice*/) {
+    look_.paint(palette);
     ui::RecordingDevice device;
     ui::paint(palette, device);
     checkCalls(device.calls());
 }
+
+void PalettePerson::paintWhatAsked(CZkUiPaletteSet& palette, unsigned /*choice*/) { look_.paint(palette); }
 
 void PalettePerson::chooseTheme(unsigned choice) {
     zwutads::setVar(L"COLORTHEME", static_cast<short>(static_cast<int>(choice % 4) - 1));

@@ -2,7 +2,7 @@
 // commands, what else may come over the palette: another drawing, the module going and coming.
 #pragma once
 
-#include "sdk/ui/geometry.h"
+#include "fuzz/support/painted_look.h"
 
 class CListCtrl;
 class CWnd;
@@ -45,6 +45,7 @@ private:
     void sendMessage(CZkUiPaletteSet& palette, unsigned choice);
     void resize(CZkUiPaletteSet& palette, unsigned choice);
     void paint(CZkUiPaletteSet& palette, unsigned choice);
+    void paintWhatAsked(CZkUiPaletteSet& palette, unsigned choice);
 
     void chooseTheme(unsigned choice);
     void showOrHide(unsigned choice);
@@ -53,6 +54,7 @@ private:
     void unloadOrLoad(unsigned choice);
 
     Session& session_;
+    PaintedLook look_;
     unsigned flags_ = 0; // MK_…, held down meanwhile
 };
 
