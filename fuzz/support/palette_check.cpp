@@ -9,6 +9,7 @@
 #include "host/sys/utf8.h"
 #include "host/ui/user_interface.h"
 #include "sdk/db/light.h"
+#include "sdk/ed/selection.h"
 #include "sdk/sys/ads.h"
 #include "sdk/ui/list_control.h"
 #include "sdk/ui/palette_set_manager.h"
@@ -46,18 +47,25 @@ int imageOf(DrawableType type) {
     }
 }
 
-std::vector<LightRow> rowsWanted(db::Database& drawing) {
-    std::vector<LightRow> rows;
+std::vector<ZrDbObjectId> lightsWanted(db::Database& drawing) {
+    std::vector<ZrDbObjectId> lights;
     for (const ZrDbObjectId id : drawing.entities(drawing.interface().modelSpaceId())) {
         if (drawing.refEdit().isActive() && !zwutads::isObjInWorkset(id))
             continue;
         const ZrDbObjectPointer<ZrDbEntity> entity(id, ZrDb::kForRead);
         require(static_cast<bool>(entity), "an entity is open between the commands");
-        if (entity->isA() == ZrDbLight::desc()) {
-            const auto& light = static_cast<const ZrDbLight&>(*entity);
-            rows.push_back({light.name(), imageOf(light.lightType())});
-        }
+        if (entity->isA() == ZrDbLight::desc())
+            lights.push_back(id);
     }
+    return lights;
+}
+
+ZrString nameOf(ZrDbObjectId light) { return ZrDbObjectPointer<ZrDbLight>(light, ZrDb::kForRead)->name(); }
+
+std::vector<LightRow> rowsWanted(db::Database& drawing) {
+    std::vector<LightRow> rows;
+    for (const ZrDbObjectId id : lightsWanted(drawing))
+        rows.push_back({nameOf(id), imageOf(ZrDbObjectPointer<ZrDbLight>(id, ZrDb::kForRead)->lightType())});
     std::ranges::stable_sort(rows, {}, &LightRow::name);
     return rows;
 }
@@ -134,6 +142,30 @@ void checkDrawingsLights(Session& session, Document& document, const CListCtrl& 
     checkListState(session);
 }
 
+// Those of one name are one.
+std::set<ZrString> namesOf(const std::vector<LightRow>& rows) {
+    std::set<ZrString> names;
+    for (const LightRow& row : rows)
+        names.insert(row.name);
+    return names;
+}
+
+std::set<ZrString> namesSelectedInDrawing(db::Database& drawing) {
+    const ZrDbObjectIdArray selected = zredImpliedSelection();
+    std::set<ZrString> names;
+    for (const ZrDbObjectId id : lightsWanted(drawing))
+        if (std::ranges::find(selected, id) != selected.end())
+            names.insert(nameOf(id));
+    return names;
+}
+
+std::set<ZrString> namesSelected(const CListCtrl& list) {
+    std::set<ZrString> names;
+    for (int row = list.GetNextItem(-1, LVNI_SELECTED); row >= 0; row = list.GetNextItem(row, LVNI_SELECTED))
+        names.insert(list.GetItemText(row, kNameColumn));
+    return names;
+}
+
 } // namespace
 
 CZkUiPaletteSet* openPalette(Session& session) {
@@ -163,6 +195,19 @@ void checkRows(const CWnd& window) {
     checkIds(*list);
     checkSelection(*list);
     checkPlaces(*list);
+}
+
+void checkSelectionIsShared(Session& session) {
+    const CZkUiPaletteSet* const palette = openPalette(session);
+    const Document* const document = session.documents().current();
+    if (palette == nullptr || !palette->IsWindowEnabled() || document == nullptr || session.processor().isRunning())
+        return;
+    const CListCtrl& list = *listIn(*palette);
+    std::vector<LightRow> rows = rowsOf(list);
+    std::ranges::sort(rows, {}, &LightRow::name);
+    if (rows == rowsWanted(document->drawing()) && namesOf(rows).size() == rows.size())
+        require(namesSelected(list) == namesSelectedInDrawing(document->drawing()),
+                "the list and the drawing have other lights selected");
 }
 
 void checkListState(Session& session) {

@@ -18,6 +18,9 @@ namespace quor::fuzz {
 
 // The rows of the list in the window hold together: their ids, selection, places.
 void checkRows(const CWnd& window);
+// After a selection at the command prompt, unless the palette is disabled: where the list has the lights of the current
+// drawing, each under a name of its own, those rows are selected whose lights are selected in the drawing.
+void checkSelectionIsShared(Session& session);
 // LIGHTLISTSTATE says whether the palette can be seen; there is none while the module is not loaded.
 void checkListState(Session& session);
 // In every open drawing LIGHTLIST gives the lights of model space in ascending order of their names, while a block is

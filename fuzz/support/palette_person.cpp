@@ -120,8 +120,13 @@ void PalettePerson::act(unsigned what, unsigned choice, unsigned held) {
 }
 
 void PalettePerson::clickRow(CZkUiPaletteSet& palette, unsigned choice) {
-    if (const Target target = rowAt(palette, choice); target.window != nullptr)
-        ui::click(*target.window, target.point, flags_);
+    const Target target = rowAt(palette, choice);
+    if (target.window == nullptr)
+        return;
+    const bool isHit = listIn(palette)->HitTest(target.point) >= 0;
+    ui::click(*target.window, target.point, flags_);
+    if (isHit)
+        checkSelectionIsShared(session_);
 }
 
 void PalettePerson::doubleClickRow(CZkUiPaletteSet& palette, unsigned choice) {
@@ -130,8 +135,13 @@ void PalettePerson::doubleClickRow(CZkUiPaletteSet& palette, unsigned choice) {
 }
 
 void PalettePerson::rightClickRow(CZkUiPaletteSet& palette, unsigned choice) {
-    if (const Target target = rowAt(palette, choice); target.window != nullptr)
-        ui::rightClick(*target.window, target.point, flags_);
+    const Target target = rowAt(palette, choice);
+    if (target.window == nullptr)
+        return;
+    const bool isHit = listIn(palette)->HitTest(target.point) >= 0;
+    ui::rightClick(*target.window, target.point, flags_);
+    if (isHit)
+        checkSelectionIsShared(session_);
 }
 
 void PalettePerson::moveOverRow(CZkUiPaletteSet& palette, unsigned choice) {
@@ -278,7 +288,10 @@ void PalettePerson::selectInDrawing(unsigned choice) {
             selected.push_back(all[place]);
     if (choice % 3 == 0)
         std::ranges::reverse(selected);
+    const ZrDbObjectIdArray before = zredImpliedSelection();
     zredSetImpliedSelection(selected);
+    if (zredImpliedSelection() != before) // nobody is told of what stays as it is
+        checkSelectionIsShared(session_);
 }
 
 void PalettePerson::chooseDrawing(unsigned choice) {
