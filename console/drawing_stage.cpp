@@ -2,9 +2,11 @@
 
 #include "console/exit_status.h"
 #include "host/commands/drawing_files.h"
+#include "host/db/ref_edit.h"
 #include "host/document.h"
 #include "host/sys/system_variables.h"
 #include "host/sys/utf8.h"
+#include "host/sys/visible_text.h"
 #include "host/texts/console.h"
 
 namespace quor::console {
@@ -70,6 +72,10 @@ int saveDrawing(Session& session, const std::string& name, const Report& report)
     Document* const document = session.documents().current();
     if (document == nullptr) {
         report(fill(words::kNothingToSave, fromUtf8(path)));
+        return kNotSaved;
+    }
+    if (const db::RefEdit& editing = document->drawing().refEdit(); editing.isActive()) {
+        report(fill(words::kNotSavedEditing, visibleText(editing.blockName()), fromUtf8(path)));
         return kNotSaved;
     }
     if (const auto saved = document->drawing().save(path); !saved) {

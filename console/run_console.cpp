@@ -6,12 +6,14 @@
 #include "console/script_stage.h"
 #include "console/signals.h"
 #include "console/typing_stage.h"
+#include "host/db/ref_edit.h"
 #include "host/document.h"
 #include "host/ed/command_processor.h"
 #include "host/rx/module_loader.h"
 #include "host/sys/problem_report.h"
 #include "host/sys/system_error.h"
 #include "host/sys/utf8.h"
+#include "host/sys/visible_text.h"
 #include "host/texts/console.h"
 
 #include <system_error>
@@ -98,7 +100,11 @@ private:
     // The terminal has asked already, and QUIT too.
     void warnOfUnsavedChanges() {
         const bool asked = session_.processor().quitRequested() || (options_.runs.empty() && streams_.editsLines);
-        if (!asked && !options_.quiet && session_.documents().hasUnsavedChanges())
+        if (asked || options_.quiet || !session_.documents().hasUnsavedChanges())
+            return;
+        if (const Document* const edited = session_.documents().firstWithEditing())
+            report_(fill(words::kUnsavedEditing, visibleText(edited->drawing().refEdit().blockName())));
+        else
             report_(words::kUnsaved.get());
     }
 

@@ -5,10 +5,12 @@
 #include "console/script_stage.h"
 #include "console/signals.h"
 #include "console/terminal_reader.h"
+#include "host/db/ref_edit.h"
 #include "host/document.h"
 #include "host/ed/command_processor.h"
 #include "host/ed/input_stack.h"
 #include "host/sys/utf8.h"
+#include "host/sys/visible_text.h"
 #include "host/texts/console.h"
 
 #include <algorithm>
@@ -62,6 +64,13 @@ int typeThroughPipe(const TypingRoom& room) {
     return pipeStatus(room.output, worst);
 }
 
+void warnOfTheEnd(Session& session) {
+    if (const Document* const edited = session.documents().firstWithEditing())
+        say(words::kUnsavedEndEditing, visibleText(edited->drawing().refEdit().blockName()));
+    else
+        say(words::kUnsavedEnd);
+}
+
 // Ctrl+D with unsaved changes warns once; pressed again at once it ends the session. With -o the end saves.
 int typeOnTerminal(const TypingRoom& room) {
     TerminalReader reader(room.output, History(History::defaultFile()),
@@ -77,7 +86,7 @@ int typeOnTerminal(const TypingRoom& room) {
         }
         if (warned || !room.options.output.empty() || !room.session.documents().hasUnsavedChanges())
             break;
-        say(words::kUnsavedEnd);
+        warnOfTheEnd(room.session);
         warned = true;
     }
     room.front.setReader(nullptr);

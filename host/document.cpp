@@ -1,5 +1,6 @@
 #include "host/document.h"
 
+#include "host/db/ref_edit.h"
 #include "host/ed/command_processor.h"
 #include "host/session.h"
 #include "host/sys/utf8.h"
@@ -47,6 +48,12 @@ DocumentManager::~DocumentManager() { closeAll(); }
 bool DocumentManager::hasUnsavedChanges() const {
     return std::any_of(documents_.begin(), documents_.end(),
                        [](const auto& document) { return document->isModified(); });
+}
+
+const Document* DocumentManager::firstWithEditing() const {
+    const auto found = std::find_if(documents_.begin(), documents_.end(),
+                                    [](const auto& document) { return document->drawing().refEdit().isActive(); });
+    return found == documents_.end() ? nullptr : found->get();
 }
 
 void DocumentManager::closeAll() {

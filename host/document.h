@@ -63,6 +63,8 @@ public:
     [[nodiscard]] Document* current() const { return current_; }
     [[nodiscard]] const std::vector<std::unique_ptr<Document>>& all() const { return documents_; }
     [[nodiscard]] bool hasUnsavedChanges() const;
+    // The first one of which a block is being edited in place; null: there is none.
+    [[nodiscard]] const Document* firstWithEditing() const;
     [[nodiscard]] const std::vector<ZrApDocumentReactor*>& reactors() const { return reactors_; }
     [[nodiscard]] const std::vector<ZrEdSelectionReactor*>& selectionReactors() const { return selectionReactors_; }
     // Tells every document listener; one that is taken off on the way is not told any more.

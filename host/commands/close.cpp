@@ -1,9 +1,11 @@
 #include "host/commands/ask.h"
 #include "host/commands/commands.h"
 #include "host/commands/drawing_files.h"
+#include "host/db/ref_edit.h"
 #include "host/ed/command_processor.h"
 #include "host/session.h"
 #include "host/texts/files.h"
+#include "host/texts/ref_edit.h"
 #include "sdk/rx/command.h"
 
 namespace quor::commands {
@@ -12,6 +14,8 @@ int closeDrawing(Session& session) {
     Document& document = *session.documents().current();
     const ZrString name = shortName(document);
     if (document.isModified()) {
+        if (const db::RefEdit& editing = document.drawing().refEdit(); editing.isActive())
+            sayShown(texts::kEditingGoesOn, editing.blockName());
         const std::optional<bool> save = askYesNo(fillShown(texts::kAskSaveChanges, name), true);
         if (!save)
             return RTCAN;
@@ -33,7 +37,7 @@ int quit(Session& session) {
         if (!discard)
             return RTCAN;
         if (!*discard)
-            return failWith(texts::kNotQuit, name);
+            return failWith(document->drawing().refEdit().isActive() ? texts::kNotQuitEditing : texts::kNotQuit, name);
     }
     session.processor().requestQuit();
     return RTNORM;

@@ -24,7 +24,7 @@ const Row kRefusals[] = {
     {Problem::SpaceBlock, texts::kRefEditSpaceBlock}, {Problem::ExternalBlock, texts::kRefEditExternal},
     {Problem::Array, texts::kRefEditArray},           {Problem::ZeroScale, texts::kRefEditZeroScale},
     {Problem::EmptyBlock, texts::kRefEditEmpty},      {Problem::BrokenBlock, texts::kRefEditBroken},
-    {Problem::InUse, texts::kRefEditInUse},           {Problem::TooFar, texts::kRefEditTooFar},
+    {Problem::InUse, texts::kRefEditInUse},
 };
 
 int refuse(Problem problem, const ZrString& block) {
@@ -37,11 +37,45 @@ int refuseReference(db::Database& drawing, ZrDbObjectId id, Problem problem) {
     return refuse(problem, db::readBlockReference(drawing, *id.entry())->name);
 }
 
+void sayStarted(const ZrString& block, const db::RefEditStart& start) {
+    if (start.inWorkset == 0)
+        return sayShown(texts::kRefEditStartedEmpty, block);
+    sayShown(start.inWorkset == 1 ? texts::kRefEditStartedOne : texts::kRefEditStarted, block, start.inWorkset);
+    if (start.left > 0)
+        say(start.left == 1 ? texts::kRefEditOneLeft : texts::kRefEditLeft, start.left);
+}
+
+// One reference is edited; what is none is passed over.
+int editOnly(db::Database& drawing, const ZrDbObjectIdArray& selected) {
+    ZrDbObjectIdArray references = selected;
+    const std::size_t others =
+        std::erase_if(references, [&](ZrDbObjectId id) { return !db::readBlockReference(drawing, *id.entry()); });
+    if (references.empty() && others == 1)
+        return refuseReference(drawing, selected.front(), Problem::NoReference);
+    if (references.empty())
+        return failWith(texts::kRefEditNoReferences, others);
+    if (references.size() > 1)
+        return failWith(texts::kRefEditOne, references.size());
+    const auto started = drawing.refEdit().begin(*references.front().entry());
+    if (!started)
+        return refuseReference(drawing, references.front(), started.error());
+    if (others > 0)
+        say(others == 1 ? texts::kRefEditOneOther : texts::kRefEditOthers, others);
+    sayStarted(drawing.refEdit().blockName(), *started);
+    return RTNORM;
+}
+
+int refuseToSave(const db::RefEditObstacle& obstacle, const ZrString& block) {
+    if (obstacle.object == nullptr)
+        return refuse(obstacle.problem, block);
+    return failWith(texts::kRefEditTooFar, zrFormat(L"%X", {obstacle.object->handle}), block);
+}
+
 int saveBlock(db::RefEdit& editing) {
     const ZrString block = editing.blockName();
     const auto saved = editing.save();
     if (!saved)
-        return refuse(saved.error(), block);
+        return refuseToSave(saved.error(), block);
     if (saved->changed + saved->added + saved->erased == 0)
         sayShown(texts::kRefEditUnchanged, block);
     else
@@ -51,10 +85,9 @@ int saveBlock(db::RefEdit& editing) {
 
 int discardChanges(db::RefEdit& editing) {
     const ZrString block = editing.blockName();
-    const auto erased = editing.discard();
-    if (!erased)
-        return refuse(erased.error(), block);
-    sayShown(texts::kRefEditDiscarded, block, *erased);
+    if (const auto discarded = editing.discard(); !discarded)
+        return refuse(discarded.error(), block);
+    sayShown(texts::kRefEditDiscarded, block);
     return RTNORM;
 }
 
@@ -66,17 +99,11 @@ int refEdit(Session& session) {
     if (editing.isActive())
         return refuse(Problem::AlreadyEditing, editing.blockName());
     ZrDbObjectIdArray ids;
-    if (const int result = zredSelect(texts::kSelectReference.get(), ids); result != RTNORM)
-        return result == RTNONE ? RTNORM : result;
-    if (ids.size() != 1)
-        return failWith(texts::kRefEditOne, ids.size());
-    const auto started = editing.begin(*ids.front().entry());
-    if (!started)
-        return refuseReference(drawing, ids.front(), started.error());
-    sayShown(texts::kRefEditStarted, editing.blockName(), started->inWorkset);
-    if (started->left > 0)
-        sayShown(texts::kRefEditLeft, started->left);
-    return RTNORM;
+    const int result = zredSelect(texts::kSelectReference.get(), ids);
+    // What follows in a script is meant for the working set alone.
+    if (result == RTNONE)
+        return failWith(texts::kRefEditNothing);
+    return result == RTNORM ? editOnly(drawing, ids) : result;
 }
 
 int refClose(Session& session) {

@@ -14,7 +14,7 @@ void Journal::begin(std::wstring_view name) {
     auto known = names_.find(name);
     if (known == names_.end())
         known = names_.emplace(name).first;
-    open_ = Group{&*known, {}, nextNumber_++};
+    open_ = Group{&*known, {}, nextNumber_++, false};
     ++serial_;
 }
 
@@ -28,7 +28,7 @@ void Journal::end() {
 
 void Journal::rollback() {
     Group taken = std::move(open_);
-    open_ = Group{taken.name, {}, taken.number};
+    open_ = Group{taken.name, {}, taken.number, taken.leadsBack};
     ++serial_;
     apply(taken, true);
 }
@@ -54,19 +54,25 @@ std::optional<ZrString> Journal::redo() {
     return *undo_.back().name;
 }
 
-std::size_t Journal::top() const {
+bool Journal::isModified() const { return state().group != savedNumber_; }
+
+void Journal::markSaved() { savedNumber_ = state().group; }
+
+Journal::State Journal::state() const {
     if (!open_.changes.empty())
-        return open_.number;
-    return undo_.empty() ? 0 : undo_.back().number;
+        return {open_.number, open_.changes.size()};
+    return undo_.empty() ? State() : State{undo_.back().number, undo_.back().changes.size()};
 }
 
-bool Journal::isModified() const { return top() != savedNumber_; }
+void Journal::ledBackTo(const State& earlier) {
+    open_.number = earlier.group;
+    open_.leadsBack = true;
+}
 
-void Journal::markSaved() { savedNumber_ = top(); }
-
-void Journal::leaveSaved() {
-    if (open_.number == savedNumber_)
+void Journal::leaveKnownState() {
+    if (open_.number == savedNumber_ || open_.leadsBack)
         open_.number = nextNumber_++;
+    open_.leadsBack = false;
 }
 
 void Journal::addReactor(ZrDbDatabaseReactor* reactor) { reactors_.push_back(reactor); }
@@ -95,7 +101,7 @@ void Journal::record(Change change) {
     const bool alone = !isOpen();
     if (alone)
         begin({});
-    leaveSaved();
+    leaveKnownState();
     open_.changes.push_back(std::move(change));
     if (alone)
         end();
@@ -114,7 +120,7 @@ void Journal::aboutToModify(ObjectEntry& entry) {
         record(Modify{&entry, entry.object->hostData()->clone(), entry.changed});
         entry.keptInGroup = serial_;
     }
-    leaveSaved();
+    leaveKnownState();
     entry.changed = true;
     if (first)
         tell(&ZrDbDatabaseReactor::objectOpenedForModify, *entry.object);

@@ -42,6 +42,17 @@ public:
     [[nodiscard]] bool isModified() const;
     void markSaved();
 
+    // How far the drawing has come: the last group that changed it, and how much that one did.
+    struct State {
+        std::size_t group = 0;
+        std::size_t changes = 0;
+        bool operator==(const State&) const = default;
+    };
+    [[nodiscard]] State state() const;
+    // The open group has led back to an earlier state that other groups stand behind: unless it does more, the drawing
+    // is as much modified as it was then. Undo and redo take their steps as ever.
+    void ledBackTo(const State& earlier);
+
     void addReactor(ZrDbDatabaseReactor* reactor);
     void removeReactor(ZrDbDatabaseReactor* reactor);
     // The drawing is about to go.
@@ -80,14 +91,13 @@ private:
         const ZrString* name = nullptr; // one of names_
         std::vector<Change> changes;
         std::size_t number = 0; // counts groups over the life of the drawing
+        bool leadsBack = false; // the number is an earlier group's, which left the drawing as this one does
     };
 
     // A change outside any group becomes a group of its own.
     void record(Change change);
-    // The number of the last group that changed the drawing, the open one included.
-    [[nodiscard]] std::size_t top() const;
-    // What is changed in a group after a save within it is not saved.
-    void leaveSaved();
+    // What is changed in a group after a save within it is not saved, and one that led back leads on.
+    void leaveKnownState();
     void apply(Group& group, bool undoing);
     void applyChange(Append& change, bool undoing);
     void applyChange(Modify& change, bool undoing);

@@ -65,6 +65,7 @@ Result<RefEditStart, RefEditProblem> RefEdit::begin(ObjectEntry& entry) {
 
     database_.materialise(entry);
     const std::uint64_t nextHandle = database_.objects().takeHandles(0);
+    const Journal::State before = database_.journal().state();
     setState(std::make_shared<State>(
         State{.reference = &entry,
               .wasVisible = static_cast<ZrDbEntity&>(*entry.object).visibility() == ZrDb::kVisible,
@@ -73,9 +74,12 @@ Result<RefEditStart, RefEditProblem> RefEdit::begin(ObjectEntry& entry) {
               .placement = reference.placement,
               .firstHandle = nextHandle,
               .firstNewHandle = nextHandle,
-              .copies = {}}));
+              .copies = {},
+              .before = before,
+              .begun = {}}));
     appendCopies(std::move(copies));
     showReference(false);
+    state_->begun = database_.journal().state();
     return start;
 }
 

@@ -3,6 +3,7 @@
 // block.
 #pragma once
 
+#include "host/db/journal.h"
 #include "host/db/movable_kind.h"
 #include "host/db/structure.h"
 #include "host/sys/result.h"
@@ -28,6 +29,12 @@ enum class RefEditProblem {
     BrokenBlock, // its end is missing in the file, so that nothing can be added
     InUse,       // an object is open
     TooFar,      // a point would lie beyond all numbers in the block
+};
+
+// Why a working set is not saved; for a point that lies too far away, the object that it belongs to.
+struct RefEditObstacle {
+    RefEditProblem problem;
+    const ObjectEntry* object = nullptr;
 };
 
 // How many objects there are to edit, and how many others stay in the block as they are.
@@ -62,10 +69,11 @@ public:
     Result<RefEditStart, RefEditProblem> begin(ObjectEntry& reference);
 
     // For an editing that is going on. Both erase the working set and show the reference again. What was not changed
-    // keeps its values in the block as they are, to the last digit; a problem changes nothing.
-    Result<RefEditResult, RefEditProblem> save();
-    // Leaves the block as it was; the number of objects that the working set had.
-    Result<std::size_t, RefEditProblem> discard();
+    // keeps its values in the block as they are, to the last digit; a problem changes nothing. When nothing was done
+    // since the editing began, the drawing is not modified by it.
+    Result<RefEditResult, RefEditObstacle> save();
+    // Leaves the block as it was.
+    Result<void, RefEditProblem> discard();
 
 private:
     struct Copy {
@@ -84,6 +92,9 @@ private:
         std::uint64_t firstHandle;
         std::uint64_t firstNewHandle; // behind the copies
         std::vector<Copy> copies;
+        // Of the drawing.
+        Journal::State before;
+        Journal::State begun;
     };
     // What saving does to the block.
     struct Plan {
@@ -109,13 +120,14 @@ private:
 
     // Those of the working set from a handle on, in drawing order.
     [[nodiscard]] std::vector<ObjectEntry*> workset(std::uint64_t from) const;
-    Result<Plan, RefEditProblem> plan() const;
+    Result<Plan, RefEditObstacle> plan() const;
     [[nodiscard]] std::unique_ptr<ZrDbObjectData> writtenBack(const Copy& copy, const ZrGeMatrix3d& back) const;
     [[nodiscard]] bool isFree(const Plan& plan) const;
     [[nodiscard]] bool isWorksetFree() const;
     void carryOut(Plan plan);
     void replaceValues(ObjectEntry& entity, std::unique_ptr<ZrDbObjectData> values);
-    std::size_t finish();
+    [[nodiscard]] bool isUntouched() const;
+    void finish();
 
     Database& database_;
     std::shared_ptr<State> state_; // shared with the journal, which keeps it for undo and redo

@@ -44,7 +44,7 @@ std::vector<ObjectEntry*> RefEdit::workset(std::uint64_t from) const {
     return found;
 }
 
-Result<RefEdit::Plan, RefEditProblem> RefEdit::plan() const {
+Result<RefEdit::Plan, RefEditObstacle> RefEdit::plan() const {
     const ZrGeMatrix3d back = state_->placement.inverse();
     Plan plan;
     for (const Copy& copy : state_->copies) {
@@ -56,7 +56,7 @@ Result<RefEdit::Plan, RefEditProblem> RefEdit::plan() const {
             continue;
         plan.changes.push_back({copy.original, writtenBack(copy, back)});
         if (plan.changes.back().values == nullptr)
-            return fail(RefEditProblem::TooFar);
+            return fail(RefEditObstacle{RefEditProblem::TooFar, copy.entity});
     }
     for (const ObjectEntry* entity : workset(state_->firstNewHandle)) {
         const MovableKind* const kind = kindOf(*entity);
@@ -64,7 +64,7 @@ Result<RefEdit::Plan, RefEditProblem> RefEdit::plan() const {
             continue;
         plan.additions.push_back({kind, moved(*kind, *entity->object->hostData(), back)});
         if (plan.additions.back().values == nullptr)
-            return fail(RefEditProblem::TooFar);
+            return fail(RefEditObstacle{RefEditProblem::TooFar, entity});
     }
     return plan;
 }
@@ -101,22 +101,23 @@ bool RefEdit::isFree(const Plan& plan) const {
            std::ranges::all_of(plan.erasures, [](const ObjectEntry* entity) { return isClosed(*entity); });
 }
 
-Result<RefEditResult, RefEditProblem> RefEdit::save() {
-    Result<Plan, RefEditProblem> changes = plan();
+Result<RefEditResult, RefEditObstacle> RefEdit::save() {
+    Result<Plan, RefEditObstacle> changes = plan();
     if (!changes)
         return fail(changes.error());
     if (!isFree(*changes))
-        return fail(RefEditProblem::InUse);
+        return fail(RefEditObstacle{RefEditProblem::InUse});
     const RefEditResult result{changes->changes.size(), changes->additions.size(), changes->erasures.size()};
     carryOut(std::move(changes).value());
     finish();
     return result;
 }
 
-Result<std::size_t, RefEditProblem> RefEdit::discard() {
+Result<void, RefEditProblem> RefEdit::discard() {
     if (!isWorksetFree())
         return fail(RefEditProblem::InUse);
-    return finish();
+    finish();
+    return {};
 }
 
 void RefEdit::carryOut(Plan plan) {
@@ -140,13 +141,20 @@ void RefEdit::replaceValues(ObjectEntry& entry, std::unique_ptr<ZrDbObjectData> 
         database_.reservePhotometry(*light);
 }
 
-std::size_t RefEdit::finish() {
-    const std::vector<ObjectEntry*> entities = workset(state_->firstHandle);
-    for (ObjectEntry* entity : entities)
+// Whether nothing was done in the drawing since the editing began.
+bool RefEdit::isUntouched() const {
+    return database_.journal().state() == state_->begun && state_->before.group != state_->begun.group;
+}
+
+void RefEdit::finish() {
+    const bool untouched = isUntouched();
+    const Journal::State before = state_->before;
+    for (ObjectEntry* entity : workset(state_->firstHandle))
         erase(*entity);
     showReference(state_->wasVisible);
     setState(nullptr);
-    return entities.size();
+    if (untouched)
+        database_.journal().ledBackTo(before);
 }
 
 } // namespace quor::db

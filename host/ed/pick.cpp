@@ -1,6 +1,7 @@
 #include "host/ed/pick.h"
 
 #include "host/db/block_reference.h"
+#include "host/db/ref_edit.h"
 #include "sdk/db/database.h"
 #include "sdk/db/face.h"
 #include "sdk/db/light.h"
@@ -75,6 +76,11 @@ ZrDbObjectIdArray entitiesInWindow(const Document& document, const ZrGePoint3d& 
             found.push_back(id);
     }
     return found;
+}
+
+std::size_t leaveOutStrangers(const Document& document, ZrDbObjectIdArray& ids) {
+    const db::RefEdit& editing = document.drawing().refEdit();
+    return editing.isActive() ? std::erase_if(ids, [&](ZrDbObjectId id) { return !editing.holds(*id.entry()); }) : 0;
 }
 
 } // namespace quor::ed

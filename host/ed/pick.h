@@ -1,4 +1,5 @@
-// Finding entities of the current space without a mouse: by handle, by their known points.
+// Finding entities of the current space without a mouse: by handle, by their known points; and which of them can be
+// selected.
 #pragma once
 
 #include "host/document.h"
@@ -18,5 +19,9 @@ namespace quor::ed {
 [[nodiscard]] ZrDbObjectIdArray entitiesAt(const Document& document, const ZrGePoint3d& point);
 // Entities whose known points all lie in the rectangle between two corners, seen along the z axis of the UCS. UCS.
 [[nodiscard]] ZrDbObjectIdArray entitiesInWindow(const Document& document, const ZrGePoint3d& a, const ZrGePoint3d& b);
+
+// While a block is edited in place, only its working set can be selected: takes the others out, and answers how many
+// they were.
+[[nodiscard]] std::size_t leaveOutStrangers(const Document& document, ZrDbObjectIdArray& ids);
 
 } // namespace quor::ed

@@ -1,8 +1,10 @@
 // The question "select objects" on a command line.
 
+#include "host/db/ref_edit.h"
 #include "host/ed/asking.h"
 #include "host/ed/pick.h"
 #include "host/session.h"
+#include "host/sys/visible_text.h"
 #include "host/texts/input.h"
 #include "sdk/db/database.h"
 #include "sdk/ed/get.h"
@@ -87,6 +89,21 @@ private:
     std::vector<Step> steps_;
 };
 
+void sayStrangers(const Document& document, std::size_t count) {
+    if (count > 0)
+        say(texts::kNotInWorkset, count, visibleText(document.drawing().refEdit().blockName()));
+}
+
+// What is selected already, as far as it can be.
+ZrDbObjectIdArray pickedFirst(const Document& document) {
+    ZrDbObjectIdArray picked = zredImpliedSelection();
+    const std::size_t strangers = leaveOutStrangers(document, picked);
+    if (!picked.empty())
+        say(texts::kFound, picked.size());
+    sayStrangers(document, strangers);
+    return picked;
+}
+
 class SelectionLoop {
 public:
     SelectionLoop(Session& session, Document& document, const wchar_t* prompt)
@@ -135,11 +152,14 @@ private:
         return (this->*row->act)();
     }
 
-    bool take(const ZrDbObjectIdArray& found) {
-        if (removing_)
+    bool take(ZrDbObjectIdArray found) {
+        if (removing_) {
             picked_.remove(found);
-        else
-            picked_.add(found);
+            return true;
+        }
+        const std::size_t strangers = leaveOutStrangers(document_, found);
+        picked_.add(found);
+        sayStrangers(document_, strangers);
         return true;
     }
 
@@ -181,8 +201,8 @@ private:
     }
     // A point beside everything starts a window.
     bool pickAt(const ZrGePoint3d& point) {
-        const ZrDbObjectIdArray found = entitiesAt(document_, zrdbUcs2Wcs(point));
-        return found.empty() ? windowFrom(point) : take(found);
+        ZrDbObjectIdArray found = entitiesAt(document_, zrdbUcs2Wcs(point));
+        return found.empty() ? windowFrom(point) : take(std::move(found));
     }
 
     bool pickHandle() {
@@ -225,8 +245,7 @@ int zredSelect(const wchar_t* prompt, ZrDbObjectIdArray& ids) {
     Document* const document = session.documents().current();
     if (document == nullptr)
         return RTFAIL;
-    if (const ZrDbObjectIdArray picked = zredImpliedSelection(); !picked.empty()) {
-        say(texts::kFound, picked.size());
+    if (const ZrDbObjectIdArray picked = pickedFirst(*document); !picked.empty()) {
         ids = picked;
         document->previousSelection = picked;
         return RTNORM;

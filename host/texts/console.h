@@ -123,6 +123,9 @@ inline constexpr Text kError{L"quorc: %s\n", L"quorc: %s\n"};
 inline constexpr Text kSettingRefused{L"--set %s=%s: %s", L"--set %s=%s: %s"};
 inline constexpr Text kCommandFailed{L"%s: 命令 %s 失败: %s", L"%s: command %s failed: %s"};
 inline constexpr Text kNothingToSave{L"没有打开的图形，%s 没有保存。", L"No drawing is open; %s was not saved."};
+inline constexpr Text kNotSavedEditing{L"正在编辑块“%s”，%s 没有保存。请用 REFCLOSE 结束编辑，再保存。",
+                                       L"Block \"%s\" is being edited; %s was not saved. Finish with REFCLOSE, then "
+                                       L"save."};
 inline constexpr Text kOutputBroken{L"无法写入标准输出: %s。", L"Cannot write to standard output: %s."};
 inline constexpr Text kInternalError{L"内部错误: %s", L"internal error: %s"};
 inline constexpr Text kOutOfMemory{L"内存不足。", L"Out of memory."};
@@ -134,8 +137,12 @@ inline constexpr Text kWhyEnded{L"命令还在提问，回答用完了(空格或
                                 L"input ended before the command was finished (a space or an empty line is Enter)."};
 
 // No error; said where the drawing is dropped.
-inline constexpr Text kUnsaved{L"警告: 图形有未保存的修改；用 -o 或 SAVE 保存。",
+inline constexpr Text kUnsaved{L"警告: 图形有未保存的更改；用 -o 或 SAVE 保存。",
                                L"warning: the drawing has unsaved changes; use -o or SAVE to keep them."};
+inline constexpr Text kUnsavedEditing{
+    L"警告: 正在编辑块“%s”，图形有未保存的更改；请用 REFCLOSE 结束编辑，再用 -o 或 SAVE 保存。",
+    L"warning: block \"%s\" is being edited and the drawing has unsaved changes; finish with REFCLOSE, then use -o or "
+    L"SAVE to keep them."};
 inline constexpr Text kCommandNotUtf8{L"第 %d 个 -c 不是有效的 UTF-8 文字。", L"-c number %d is not valid UTF-8 text."};
 
 // Where a command stood, for those that came from no script file.
@@ -147,6 +154,10 @@ inline constexpr Text kBanner{L"Quor %s。输入 HELP 查看命令，QUIT 退出
 inline constexpr Text kUnsavedEnd{L"\n图形有未保存的更改: 用 SAVE 保存，或再按一次 Ctrl+D 放弃。\n",
                                   L"\nThe drawing has unsaved changes: use SAVE to keep them, or press Ctrl+D "
                                   L"again to discard them.\n"};
+inline constexpr Text kUnsavedEndEditing{
+    L"\n正在编辑块“%s”，图形有未保存的更改: 用 REFCLOSE 结束编辑，再用 SAVE 保存，或再按一次 Ctrl+D 放弃。\n",
+    L"\nBlock \"%s\" is being edited and the drawing has unsaved changes: finish with REFCLOSE, then use SAVE to keep "
+    L"them, or press Ctrl+D again to discard them.\n"};
 inline constexpr Text kRecovered{L"\n图形 %s 有 %d 个问题，其余部分已保留:\n",
                                  L"\nProblems found in drawing %s: %d. The rest was kept:\n"};
 inline constexpr Text kSaved{L"\n图形已保存到 %s。\n", L"\nThe drawing was saved to %s.\n"};

@@ -12,9 +12,9 @@ inline constexpr Text kAskRecoverPath{L"\n输入要修复的图形文件名 <浏
 inline constexpr Text kAskSavePath{L"\n输入保存图形的文件名: ", L"\nEnter file name to save the drawing as: "};
 inline constexpr Text kAskReplace{L"\n文件 %s 已存在。是否替换? [是(Y)/否(N)] <否>: ",
                                   L"\nThe file %s already exists. Replace it? [Yes/No] <No>: "};
-inline constexpr Text kAskSaveChanges{L"\n是否保存对 %s 的修改? [是(Y)/否(N)] <是>: ",
+inline constexpr Text kAskSaveChanges{L"\n是否保存对 %s 的更改? [是(Y)/否(N)] <是>: ",
                                       L"\nSave the changes to %s? [Yes/No] <Yes>: "};
-inline constexpr Text kAskDiscard{L"\n%s 有未保存的修改。是否放弃? [是(Y)/否(N)] <否>: ",
+inline constexpr Text kAskDiscard{L"\n%s 有未保存的更改。是否放弃? [是(Y)/否(N)] <否>: ",
                                   L"\n%s has unsaved changes. Discard them? [Yes/No] <No>: "};
 inline constexpr Text kAskDocument{L"\n输入要切换到的图形的编号或名称 <退出>: ",
                                    L"\nEnter number or name of drawing to switch to <exit>: "};
@@ -45,6 +45,7 @@ inline constexpr Text kSwitched{L"\n当前图形: %s。\n", L"\nCurrent drawing:
 inline constexpr Text kNoDocuments{L"\n没有打开的图形。用 NEW 新建，或用 OPEN 打开。\n",
                                    L"\nNo drawing is open. Use NEW to create one or OPEN to open one.\n"};
 inline constexpr Text kModifiedMark{L"(已修改)", L"(modified)"};
+inline constexpr Text kEditingMark{L"(正在编辑块“%s”)", L"(editing block \"%s\")"};
 
 // What could not be done.
 inline constexpr Text kNoSuchFile{L"\n找不到文件 %s。请检查路径后再试。\n",
@@ -64,8 +65,12 @@ inline constexpr Text kOpenElsewhere{
     L"\n%s 正作为另一个图形打开，不能覆盖。请换一个名称，或先关闭那个图形。\n",
     L"\n%s is open as another drawing and cannot be overwritten. Choose another name or "
     L"close that drawing first.\n"};
-inline constexpr Text kNotQuit{L"\n已取消退出: %s 有未保存的修改。用 SAVE 保存后再用 QUIT 退出。\n",
+inline constexpr Text kNotQuit{L"\n已取消退出: %s 有未保存的更改。用 SAVE 保存后再用 QUIT 退出。\n",
                                L"\nQUIT was canceled: %s has unsaved changes. Use SAVE, then QUIT.\n"};
+inline constexpr Text kNotQuitEditing{
+    L"\n已取消退出: %s 有未保存的更改，并且正在编辑块。用 REFCLOSE 结束编辑，用 SAVE 保存后再用 QUIT 退出。\n",
+    L"\nQUIT was canceled: %s has unsaved changes, and a block is being edited. Finish with REFCLOSE, then use SAVE, "
+    L"then QUIT.\n"};
 inline constexpr Text kNoSuchDocument{L"\n没有编号或名称为“%s”的图形。请输入列表中的编号或名称。\n",
                                       L"\nNo open drawing has the number or name \"%s\". Enter one from the list.\n"};
 inline constexpr Text kAmbiguousDocument{L"\n有多个图形名为“%s”。请输入编号。\n",

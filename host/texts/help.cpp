@@ -47,19 +47,20 @@ constexpr HelpPage kPages[] = {
     {L"CLOSE", kFiles,
      {L"关闭当前图形。",
       L"Closes the current drawing."},
-     {L"有未保存的修改时询问: 是(Y) 先保存，否(N) 放弃修改，Esc 不关闭。",
+     {L"有未保存的更改时询问: 是(Y) 先保存，否(N) 放弃更改，Esc 不关闭。",
       L"If there are unsaved changes, asks what to do: Yes saves them first, No discards them, Esc keeps the drawing open."},
      L"CLOSE"},
     {L"DOCUMENTS", kFiles,
      {L"列出打开的图形，并可切换到其中之一。",
       L"Lists the open drawings and switches to one of them."},
-     {L"当前图形前有 *。输入编号或名称即切换；Enter 不切换。",
-      L"The current drawing is marked with *. Enter a number or name to switch; press Enter to stay."},
+     {L"当前图形前有 *；正在编辑块(REFEDIT)的图形注明块名。输入编号或名称即切换；Enter 不切换。",
+      L"The current drawing is marked with *; a block that is being edited in place (REFEDIT) is named. Enter a number "
+      L"or name to switch; press Enter to stay."},
      L"DOCUMENTS 2"},
     {L"QUIT", kFiles,
      {L"退出程序。",
       L"Exits the program."},
-     {L"每个有未保存修改的图形都会询问: 是(Y) 放弃修改，否(N) 不退出。由脚本调用时不询问。",
+     {L"每个有未保存更改的图形都会询问: 是(Y) 放弃更改，否(N) 不退出。由脚本调用时不询问。",
       L"Asks about each drawing with unsaved changes: Yes discards them, No does not exit. Does not ask in a script."},
      L"QUIT"},
 
@@ -103,22 +104,25 @@ constexpr HelpPage kPages[] = {
     {L"PROPERTIES", kObjects,
      {L"显示对象的特性，内容与 LIST 相同；对象保持选定。",
       L"Shows the properties of objects as LIST does; they stay selected."},
-     {L"选择对象，与 SELECT 相同；已经选好的对象直接显示，显示后仍然选定。",
-      L"Select objects as in SELECT; objects already selected are shown at once and stay selected."},
+     {L"选择对象，与 SELECT 相同；已经选好的对象直接显示。显示的对象此后保持选定，供下一个命令使用。",
+      L"Select objects as in SELECT; objects already selected are shown at once. Either way they are selected afterwards, for "
+      L"the next command."},
      L"PROPERTIES ALL "},
     {L"LIGHTTABLE", kObjects,
      {L"以表格列出图形中的光源。",
       L"Lists the lights of the drawing in tables."},
      {L"选择光源，与 SELECT 相同；未选择时按 Enter 列出模型空间和所有布局中的全部光源。已经选好的对象直接列出，其中不是光源的只计数。\n"
       L"分四个表: 光源、位置和目标、强度、颜色和阴影。坐标以当前 UCS 表示；一行放不下时截短名称，表分段显示；没有任何内容的列不显示，“-”表示该光源没有此值。\n"
-      L"平行光没有位置，只有方向。LIGHTINGUNITS 为 0 时只有强度因子起作用，不显示 cd、lm 和照度。",
+      L"平行光没有位置，只有方向。LIGHTINGUNITS 为 0 时只有强度因子起作用，不显示 cd、lm 和照度。\n"
+      L"在位编辑块(REFEDIT)时，全部光源包括工作集中的光源，末尾说明其数量。",
       L"Select lights as in SELECT; Enter with none selected lists all lights in model space and in all layouts. Objects already "
       L"selected are listed at once; those that are not lights are only counted.\n"
       L"There are four tables: lights; position and target; intensity; color and shadows. Coordinates are in the current UCS; "
       L"names are shortened and a table is shown in parts where it is wider than the screen; empty columns are omitted; \"-\" "
       L"means that the light has no such value.\n"
       L"A distant light has no position, only a direction. When LIGHTINGUNITS is 0, only the intensity factor applies; cd, "
-      L"lm, and illuminance are not shown."},
+      L"lm, and illuminance are not shown.\n"
+      L"While a block is edited in place (REFEDIT), the lights of the working set are among all lights; a message counts them."},
      L"LIGHTTABLE "},
     {L"-LIGHTTABLE", kObjects,
      {L"把光源写入 CSV 或 JSON 文件，或以表格列出。",
@@ -168,24 +172,29 @@ constexpr HelpPage kPages[] = {
       L"Invisible: entered before a point, hides the edge that starts there."},
      L"3DFACE 0,0 10,0 10,10 0,10 "},
     {L"REFEDIT", kObjects,
-     {L"在位编辑块: 通过一个块参照修改块中的对象。",
-      L"Edits a block in place, through one of its references."},
-     {L"选择一个块参照，与 SELECT 相同；已经选好的参照直接编辑。块中的光源、直线和面成为工作集，可以像其他对象一样修改和删除；"
-      L"在同一空间中新画的对象也加入工作集。其他类型的对象保留在块中。参照本身暂时不可见。\n"
+     {L"在位编辑块: 通过一个块参照删除和添加块中的对象。",
+      L"Edits a block in place, through one of its references: erases and adds objects."},
+     {L"选择一个块参照，与 SELECT 相同；已经选好的参照直接编辑。选中的其他对象被忽略。\n"
+      L"块中的光源、直线和面以副本成为工作集，可以列出和删除；在同一空间中新画的对象也加入工作集。"
+      L"在此期间只能选择工作集中的对象。其他类型的对象保留在块中。参照本身暂时不可见。\n"
       L"光源在缩放或旋转的参照中只移动位置和目标，其他值不变。\n"
       L"完成后用 REFCLOSE；在此之前不能保存图形。REFEDITNAME 是正在编辑的块的名称。",
-      L"Select one block reference as in SELECT; a reference already selected is edited at once. The lights, lines, and faces "
-      L"of the block become the working set and can be changed and erased like any object; what you draw in the same space "
-      L"joins it. Objects of other types stay in the block. The reference itself is invisible meanwhile.\n"
+      L"Select one block reference as in SELECT; a reference already selected is edited at once. Other objects selected "
+      L"with it are ignored.\n"
+      L"Copies of the lights, lines, and faces of the block become the working set and can be listed and erased; what you "
+      L"draw in the same space joins it. Meanwhile, only objects of the working set can be selected. Objects of other types "
+      L"stay in the block. The reference itself is invisible.\n"
       L"In a scaled or rotated reference, only the position and target of a light move; its other values stay.\n"
       L"When done, use REFCLOSE; until then, the drawing cannot be saved. REFEDITNAME is the name of the block being edited."},
-     L"REFEDIT L "},
+     L"REFEDIT #60 "},
     {L"REFCLOSE", kObjects,
-     {L"结束在位编辑，保存或放弃对块的修改。",
+     {L"结束在位编辑块，保存或放弃更改。",
       L"Ends editing a block in place and saves or discards the changes."},
-     {L"保存(S): 修改写入块的定义，该块的所有参照都随之改变；没有改动的对象保持原样。放弃(D): 块不变，工作集中的对象全部删除。Enter 为保存。",
+     {L"保存(S): 更改写入块的定义，该块的所有参照都随之改变；没有改动的对象保持原样。"
+      L"放弃(D): 块保持原样，编辑用的副本和其间新画的对象被移除。Enter 为保存。",
       L"Save: the changes are written to the block definition and show in all its references; objects that were not changed "
-      L"stay exactly as they were. Discard: the block stays as it was and all objects of the working set are erased. Enter saves."},
+      L"stay exactly as they were. Discard: the block stays as it was; the working copies, and what was drawn meanwhile, are "
+      L"removed. Enter saves."},
      L"REFCLOSE S"},
 
     {L"UCS", kSpaces,

@@ -66,6 +66,8 @@ inline constexpr Text kBadSelection{
     L"放弃(U)/句柄(H)，#1F 表示句柄为 1F 的对象。\n",
     L"\nInvalid selection. Expects a point or "
     L"Last/Previous/ALL/Window/Add/Remove/Undo/Handle; #1F is the object with handle 1F.\n"};
+inline constexpr Text kNotInWorkset{L"\n%d 个未选: 不在块“%s”的工作集中。\n",
+                                    L"\n%d not selected: not in the working set of block \"%s\".\n"};
 inline constexpr Text kNoSuchHandle{L"\n当前空间中没有句柄为 %s 的对象。\n",
                                     L"\nNo object with handle %s in the current space.\n"};
 

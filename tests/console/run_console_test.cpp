@@ -78,7 +78,14 @@ TEST_F(RunConsoleTest, PipedAnswersReadLikeTheScreen) {
 
 TEST_F(RunConsoleTest, PalettesAreShownAsTextBeforeTheNextPrompt) {
     EXPECT_EQ(run("LIGHTLIST\n"), kSuccess);
-    EXPECT_EQ(out_, "Command: LIGHTLIST\nLights in Model\nThe list is empty.\nCommand: \n");
+    EXPECT_EQ(out_, "Command: LIGHTLIST\nLights in Model\n  (none)\nCommand: \n");
+}
+
+TEST_F(RunConsoleTest, NamesAreWholeWhereTheOutputIsNoScreen) {
+    const std::string name(255, 'x');
+    EXPECT_EQ(run("DEFAULTLIGHTING 0\nPOINTLIGHT 0,0,3 N\n" + name + "\nX\nLIGHTLIST\nLIGHTTABLE\n\n"), kSuccess);
+    EXPECT_TRUE(has(out_, "\n  Point light  " + name + "\n"));
+    EXPECT_TRUE(has(out_, "      " + name + "  point  on"));
 }
 
 TEST_F(RunConsoleTest, PalettesAreNotShownQuietly) {
@@ -204,9 +211,32 @@ TEST_F(RunConsoleTest, DoesNotSaveADrawingOfWhichABlockIsBeingEdited) {
     options_.output = path("out.dxf");
     command("REFEDIT #60 ");
     EXPECT_EQ(run(), kNotSaved);
-    EXPECT_TRUE(has(err_, "Block \"LAMP\" is being edited"));
-    EXPECT_TRUE(has(err_, "REFCLOSE"));
+    EXPECT_EQ(err_, "quorc: Block \"LAMP\" is being edited; " + path("out.dxf") +
+                        " was not saved. Finish with REFCLOSE, then save.\n");
     EXPECT_FALSE(std::filesystem::exists(path("out.dxf")));
+}
+
+TEST_F(RunConsoleTest, ADrawingOfWhichABlockIsBeingEditedCannotBeSavedAtOnce) {
+    options_.drawing = QUOR_TEST_DATA "/dxf/own/luminaires.dxf";
+    command("REFEDIT #60 ");
+    EXPECT_EQ(run(), kSuccess);
+    EXPECT_TRUE(has(err_, "finish with REFCLOSE, then use -o or SAVE"));
+}
+
+TEST_F(RunConsoleTest, AnEditingThatChangedNothingIsNoUnsavedChange) {
+    options_.drawing = QUOR_TEST_DATA "/dxf/own/luminaires.dxf";
+    command("REFEDIT #60 ");
+    command("REFCLOSE S");
+    EXPECT_EQ(run(), kSuccess);
+    EXPECT_EQ(err_, "");
+}
+
+TEST_F(RunConsoleTest, AnEditingThatNeverBeganEndsTheRun) {
+    options_.drawing = QUOR_TEST_DATA "/dxf/own/luminaires.dxf";
+    command("REFEDIT #FF \nERASE ALL ");
+    EXPECT_EQ(run(), kCommandFailed);
+    EXPECT_TRUE(has(out_, "No block reference selected; nothing is being edited."));
+    EXPECT_FALSE(has(out_, "erased"));
 }
 
 TEST_F(RunConsoleTest, AnswersThatRunOutAreAFailureOfTheScript) {

@@ -1,4 +1,5 @@
 // What modules are told of a block that is being edited in place: each drawing has its own.
+#include "host/db/ref_edit.h"
 #include "host/sys/utf8.h"
 #include "sdk/sys/ads.h"
 #include "tests/host/db/drawings.h"
@@ -74,6 +75,28 @@ TEST_F(RefEditCommands, ACommandThatIsRefusedHasFailed) {
     EXPECT_EQ(host.run({L"REFEDIT"}).kind, ed::Verdict::Kind::Failed);
     EXPECT_EQ(host.run({L"SAVE"}).kind, ed::Verdict::Kind::Failed);
     EXPECT_EQ(host.run({L"SAVEAS"}).kind, ed::Verdict::Kind::Failed);
+}
+
+TEST_F(RefEditCommands, SelectingNothingHasFailed) {
+    host.run({L"REFCLOSE", L""});
+
+    EXPECT_EQ(host.run({L"REFEDIT", L""}).kind, ed::Verdict::Kind::Failed);
+    EXPECT_EQ(host.run({L"REFEDIT", L"#FF", L""}).kind, ed::Verdict::Kind::Failed);
+    EXPECT_TRUE(host.front().shows(L"No block reference selected; nothing is being edited."));
+}
+
+TEST_F(RefEditCommands, AReferenceIsTakenFromAmongOtherObjects) {
+    host.run({L"REFCLOSE", L"", L"REFEDIT", L"#69", L"#68", L""});
+
+    EXPECT_EQ(host.document().drawing().refEdit().blockName(), L"PLAIN");
+    EXPECT_TRUE(host.front().shows(L"1 object ignored: not a block reference."));
+}
+
+TEST_F(RefEditCommands, TwoReferencesAreNotEditedAtOnce) {
+    host.run({L"REFCLOSE", L"", L"REFEDIT", L"ALL", L""});
+
+    EXPECT_FALSE(zwutads::isRefEditting());
+    EXPECT_TRUE(host.front().shows(L" block references are selected."));
 }
 
 TEST_F(RefEditCommands, AReferenceIsPickedWhereItStands) {

@@ -59,7 +59,7 @@ TEST_F(RefEditing, ChangesNothingWhileAnObjectIsOpen) {
     const ZrDbObjectPointer<ZrDbLight> reader(id(0x46), ZrDb::kForRead);
     const ZrDbObjectPointer<ZrDbLight> copyReader(pendant(), ZrDb::kForRead);
 
-    EXPECT_EQ(editing().save().error(), RefEditProblem::InUse);
+    EXPECT_EQ(editing().save().error().problem, RefEditProblem::InUse);
     EXPECT_EQ(editing().discard().error(), RefEditProblem::InUse);
 
     EXPECT_EQ(workset().size(), 4U);
@@ -71,10 +71,21 @@ TEST_F(RefEditing, KeepsAPointThatHasNoPlaceInTheBlock) {
     begin(kStretched);
     change(spot(), [](ZrDbLight& light) { light.setPosition({0, 0, 1e300}); });
 
-    EXPECT_EQ(editing().save().error(), RefEditProblem::TooFar);
+    const RefEditObstacle obstacle = editing().save().error();
 
+    EXPECT_EQ(obstacle.problem, RefEditProblem::TooFar);
+    EXPECT_EQ(obstacle.object, spot().entry());
     EXPECT_TRUE(editing().isActive());
     EXPECT_EQ(workset().size(), 4U);
+}
+
+TEST_F(RefEditing, NamesWhatWasDrawnTooFarAway) {
+    database = with(original, " 43\n0.5\n", " 43\n1e-9\n");
+    begin(kStretched);
+    const ZrDbObjectId made = addLight(*database);
+    change(made, [](ZrDbLight& light) { light.setPosition({0, 0, 1e300}); });
+
+    EXPECT_EQ(editing().save().error().object, made.entry());
 }
 
 TEST_F(RefEditing, LeavesWhatWouldLieBeyondAllNumbersInTheBlock) {

@@ -94,10 +94,13 @@ TEST_F(RefEditing, NamesTheBlock) {
 
 TEST_F(RefEditing, ErasesTheWorkingSetAtTheEnd) {
     begin(kPlain);
-    addLine(*database);
+    const ZrDbObjectId copy = spot();
+    const ZrDbObjectId made = addLine(*database);
 
-    EXPECT_EQ(discard(), 5U);
+    discard();
 
+    EXPECT_TRUE(copy.isErased());
+    EXPECT_TRUE(made.isErased());
     EXPECT_EQ(lightOf(*database), id(0x69));
     EXPECT_FALSE(editing().isActive());
 }
