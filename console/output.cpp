@@ -23,7 +23,9 @@ Output::Output(ByteSink sink, bool quiet, ScreenColumns columns)
 }
 
 int Output::columns() const {
-    const int columns = columns_ ? columns_() : 0;
+    if (!columns_)
+        return FrontEnd::kAnyColumns;
+    const int columns = columns_();
     return columns > 0 ? columns : FrontEnd::kUsualColumns;
 }
 

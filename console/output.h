@@ -21,7 +21,8 @@ class Output {
 public:
     explicit Output(ByteSink sink, bool quiet = false, ScreenColumns columns = {});
 
-    // How many columns a line may take: the screen's, or the usual ones where there is no screen.
+    // How many columns a line may take: the screen's, the usual ones where it does not say, any number where there is
+    // no screen.
     [[nodiscard]] int columns() const;
 
     // What the host says; on a screen, long lines are broken to its width.

@@ -7,6 +7,7 @@
 #include "sdk/ui/geometry.h"
 
 #include <functional>
+#include <limits>
 #include <optional>
 #include <span>
 #include <vector>
@@ -70,8 +71,10 @@ struct FileAnswer {
 // Protocol of a question: print() its prompt is the front end's business inside ask(); the host prints everything else.
 class FrontEnd {
 public:
-    // What most screens show, and what is taken where there is none.
+    // What most screens show.
     static constexpr int kUsualColumns = 80;
+    // Where there is no screen, as in files and pipes: lines are as long as what they say.
+    static constexpr int kAnyColumns = std::numeric_limits<int>::max();
 
     virtual ~FrontEnd() = default;
 

@@ -1,6 +1,7 @@
 #include "host/commands/ask.h"
 #include "host/commands/commands.h"
 #include "host/commands/drawing_files.h"
+#include "host/db/ref_edit.h"
 #include "host/session.h"
 #include "host/sys/case_fold.h"
 #include "host/sys/text_width.h"
@@ -14,6 +15,18 @@ namespace {
 
 using Documents = std::vector<std::unique_ptr<Document>>;
 
+// What is to be told of it beside its name.
+ZrString detailsOf(const Document& document) {
+    ZrString details;
+    if (document.isModified())
+        details.append(L"  ").append(texts::kModifiedMark.get());
+    if (const db::RefEdit& editing = document.drawing().refEdit(); editing.isActive())
+        details.append(L"  ").append(fillShown(texts::kEditingMark, editing.blockName()));
+    if (!document.path().empty())
+        details.append(L"  ").append(visibleText(textOf(document.path())));
+    return details;
+}
+
 void show(const Documents& documents, const Document* current) {
     int width = 0;
     for (const auto& document : documents)
@@ -21,11 +34,7 @@ void show(const Documents& documents, const Document* current) {
     const int digits = columnsOf(std::to_wstring(documents.size()));
     for (std::size_t i = 0; i < documents.size(); ++i) {
         const Document& document = *documents[i];
-        ZrString details;
-        if (document.isModified())
-            details.append(L"  ").append(texts::kModifiedMark.get());
-        if (!document.path().empty())
-            details.append(L"  ").append(visibleText(textOf(document.path())));
+        const ZrString details = detailsOf(document);
         const ZrString row = padRight(visibleText(shortName(document)), details.empty() ? 0 : width) + details;
         printText(ZrString(L"\n") + (&document == current ? L"* " : L"  ") + padLeft(std::to_wstring(i + 1), digits) +
                   L"  " + row + L"\n");

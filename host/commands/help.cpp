@@ -67,6 +67,12 @@ void showHostCommands() {
     }
 }
 
+// With the local name where there is one.
+ZrString titleOf(const ed::Command& command) {
+    const bool hasLocalName = command.localName != command.globalName;
+    return hasLocalName ? command.globalName + L" (" + command.localName + L")" : command.globalName;
+}
+
 // The commands of modules, each with the first line of the page that its module gave for it.
 void showModuleCommands(const ed::CommandTable& commands) {
     std::vector<std::pair<ZrString, ZrString>> rows;
@@ -74,9 +80,7 @@ void showModuleCommands(const ed::CommandTable& commands) {
     for (const ed::Command* command : commands.all()) {
         if (command->isHost)
             continue;
-        const bool hasLocalName = command->localName != command->globalName;
-        const ZrString name =
-            hasLocalName ? command->globalName + L" (" + command->localName + L")" : command->globalName;
+        const ZrString name = titleOf(*command);
         width = std::max(width, columnsOf(name));
         rows.emplace_back(name, firstLine(pageOf(*command)));
     }
@@ -90,21 +94,41 @@ void showModuleCommand(const ed::Command& command) {
     const ZrString page = pageOf(command);
     if (page.empty())
         return say(texts::kHelpModulePage, command.globalName);
-    printText(ZrString(L"\n") + command.globalName + L"\n" + indented(page) + L"\n");
+    printText(L"\n" + titleOf(command) + L"\n" + indented(page) + L"\n");
 }
 
-void showVariable(const ZrString& name) {
-    say(texts::kHelpVariable, name);
+// What a page says in a line that begins with "NAME:"; empty when it has none.
+ZrString lineAbout(const ZrString& page, const ZrString& name) {
+    const ZrString start = L"\n" + upperCase(name) + L": ";
+    const std::size_t at = page.find(start);
+    if (at == ZrString::npos)
+        return {};
+    const std::size_t from = at + start.size();
+    return page.substr(from, page.find(L'\n', from) - from);
+}
+
+// What is told of a variable: by the host, or for one of a module's by the page of a command of its.
+ZrString noteOf(const ZrString& name, const ed::CommandTable& commands) {
     const auto* note =
         std::ranges::find_if(texts::variableNotes, [&](const auto& row) { return equalFolded(row.name, name); });
     if (note != std::end(texts::variableNotes))
-        printText(L"\n" + indented(note->note.get()) + L"\n");
+        return note->note.get();
+    for (const ed::Command* command : commands.all())
+        if (ZrString line = lineAbout(pageOf(*command), name); !line.empty())
+            return line;
+    return {};
+}
+
+void showVariable(Session& session, const ZrString& name) {
+    say(session.variables().isReadOnly(name) ? texts::kHelpReadOnlyVariable : texts::kHelpVariable, name);
+    if (const ZrString note = noteOf(name, session.commands()); !note.empty())
+        printText(L"\n" + indented(note) + L"\n");
 }
 
 int showCommand(Session& session, const ZrString& name) {
     const ed::Command* command = session.commands().find(ed::parseCommandWord(name));
     if (command == nullptr && session.variables().has(name)) {
-        showVariable(name);
+        showVariable(session, name);
         return RTNORM;
     }
     if (command == nullptr)

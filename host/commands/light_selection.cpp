@@ -1,5 +1,6 @@
 #include "host/commands/light_selection.h"
 
+#include "host/db/ref_edit.h"
 #include "host/document.h"
 #include "host/session.h"
 #include "host/texts/light_table.h"
@@ -7,6 +8,7 @@
 #include "sdk/db/block_table.h"
 #include "sdk/ed/selection.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 namespace quor::commands {
@@ -40,6 +42,14 @@ std::vector<ZrDbObjectId> lightsOf(ZrDbObjectId block, const Wanted& wanted) {
     return ids;
 }
 
+void count(LightSelection& selection, const db::RefEdit& editing) {
+    for (const LightsOfSpace& space : selection.spaces) {
+        selection.count += space.ids.size();
+        selection.inWorkset += static_cast<std::size_t>(
+            std::ranges::count_if(space.ids, [&](ZrDbObjectId id) { return editing.holds(*id.entry()); }));
+    }
+}
+
 } // namespace
 
 int selectLights(Session& session, LightSelection& selection) {
@@ -51,8 +61,7 @@ int selectLights(Session& session, LightSelection& selection) {
     selection.spaces.push_back({{}, lightsOf(document.database()->modelSpaceId(), wanted)});
     for (const db::LayoutInfo& layout : document.drawing().layouts())
         selection.spaces.push_back({layout.name, lightsOf(layout.blockId, wanted)});
-    for (const LightsOfSpace& space : selection.spaces)
-        selection.count += space.ids.size();
+    count(selection, document.drawing().refEdit());
     selection.others = wanted.all ? 0 : wanted.ids.size() - selection.count;
     return RTNORM;
 }

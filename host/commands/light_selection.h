@@ -22,6 +22,7 @@ struct LightsOfSpace {
 struct LightSelection {
     std::vector<LightsOfSpace> spaces; // model space first
     std::size_t count = 0;             // of the lights
+    std::size_t inWorkset = 0;         // of the lights, those of the block that is edited in place
     std::size_t others = 0;            // selected objects that are no lights
     bool all = false;                  // nothing was selected
 };

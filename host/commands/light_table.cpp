@@ -10,6 +10,7 @@
 #include "host/commands/save_place.h"
 #include "host/commands/ucs_math.h"
 #include "host/db/file_messages.h"
+#include "host/db/ref_edit.h"
 #include "host/session.h"
 #include "host/sys/case_fold.h"
 #include "host/sys/system_variables.h"
@@ -32,7 +33,11 @@ constexpr PlaceTexts kPlaceOfATable{.isFolder = texts::kTableIsFolder,
                                     .isOpenDrawing = texts::kTableIsDrawing,
                                     .notReplaced = texts::kTableNotReplaced};
 
-void sayOthers(const LightSelection& selection) {
+// What the number of lights alone does not tell.
+void sayWhichLights(Session& session, const LightSelection& selection) {
+    if (const db::RefEdit& editing = session.documents().current()->drawing().refEdit(); editing.isActive())
+        sayShown(selection.inWorkset == 1 ? texts::kTableOneInWorkset : texts::kTableInWorkset, editing.blockName(),
+                 selection.inWorkset);
     if (selection.others > 0)
         say(selection.others == 1 ? texts::kTableOneOther : texts::kTableOthers, selection.others);
 }
@@ -61,7 +66,7 @@ void show(Session& session, const LightSelection& selection) {
         tables.print([&] { progress.step(); });
     }
     say(texts::kTableTotal, tables.count(), tables.kindCounts());
-    sayOthers(selection);
+    sayWhichLights(session, selection);
 }
 
 // Beside the drawing, with its name.
@@ -136,7 +141,7 @@ int write(Session& session, const LightSelection& selection, const LightFileForm
         return failToSave(written.error(), path);
     sayShown(written.value().count == 1 ? texts::kTableOneWritten : texts::kTableWritten, written.value().count,
              textOf(path));
-    sayOthers(selection);
+    sayWhichLights(session, selection);
     if (format.isForSpreadsheets && written.value().formulas > 0)
         say(written.value().formulas == 1 ? texts::kTableOneFormula : texts::kTableFormulas, written.value().formulas);
     return RTNORM;

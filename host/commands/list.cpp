@@ -62,26 +62,35 @@ void listOne(db::Database& drawing, ZrDbObjectId id) {
     printText(listing.text());
 }
 
-} // namespace
-
-int list(Session& session) {
-    ZrDbObjectIdArray ids;
-    if (const int result = zredSelect(nullptr, ids); result != RTNORM)
-        return result == RTNONE ? RTNORM : result;
+void listAll(Session& session, const ZrDbObjectIdArray& ids) {
     db::Database& drawing = session.documents().current()->drawing();
     if (!sameUcs(drawing.ucs(), db::Ucs()))
         say(texts::kListUcs);
     for (const ZrDbObjectId id : ids)
         listOne(drawing, id);
-    return RTNORM;
+}
+
+// RTNORM with what was listed, nothing where nothing was selected; RTCAN or RTERROR.
+int listSelected(Session& session, ZrDbObjectIdArray& ids) {
+    const int result = zredSelect(nullptr, ids);
+    if (result == RTNORM)
+        listAll(session, ids);
+    return result == RTNONE ? RTNORM : result;
+}
+
+} // namespace
+
+int list(Session& session) {
+    ZrDbObjectIdArray ids;
+    return listSelected(session, ids);
 }
 
 int properties(Session& session) {
-    const ZrDbObjectIdArray selected = zredImpliedSelection();
-    const int result = list(session);
+    ZrDbObjectIdArray ids;
+    const int result = listSelected(session, ids);
     // What a command selects stays selected when it ends.
-    if (!selected.empty())
-        zredSetImpliedSelection(selected);
+    if (!ids.empty())
+        zredSetImpliedSelection(ids);
     return result;
 }
 

@@ -20,8 +20,7 @@ using sys::SystemVariables;
 using sys::VariableRow;
 using sys::VariableType;
 
-// A variable without a row was registered by a module, and those are read only.
-bool isReadOnly(const VariableRow* row) { return row == nullptr || row->readOnly; }
+ZrString shownValue(const ZrString& value) { return value.empty() ? texts::kEmptyValue.get() : visibleText(value); }
 
 int listVariables(const SystemVariables& variables) {
     const std::optional<ZrString> answer = askWord(texts::kAskVariablePattern.get());
@@ -38,9 +37,9 @@ int listVariables(const SystemVariables& variables) {
     for (const ZrString& name : names)
         width = std::max(width, columnsOf(name));
     for (const ZrString& name : names) {
-        const ZrString mark = isReadOnly(variables.row(name)) ? ZrString(L"  ") + texts::kReadOnlyMark.get() : L"";
-        printText(L"\n" + padRight(name, width) + L"  " + visibleText(variables.text(name).value_or(ZrString())) +
-                  mark + L"\n");
+        const ZrString mark = variables.isReadOnly(name) ? ZrString(L"  ") + texts::kReadOnlyMark.get() : L"";
+        printText(L"\n" + padRight(name, width) + L"  " + shownValue(variables.text(name).value_or(ZrString())) + mark +
+                  L"\n");
     }
     return RTNORM;
 }
@@ -100,10 +99,9 @@ int setVariable(Session& session) {
     const std::optional<ZrString> value = variables.text(name);
     if (!value)
         return failWith(texts::kVariableNeedsDrawing, name);
-    const VariableRow* row = variables.row(name);
-    if (!isReadOnly(row))
-        return askValue(variables, *row, name);
-    sayShown(texts::kVariableReadOnly, name, *value);
+    if (!variables.isReadOnly(name))
+        return askValue(variables, *variables.row(name), name);
+    say(texts::kVariableReadOnly, name, shownValue(*value));
     return RTNORM;
 }
 

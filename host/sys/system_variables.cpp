@@ -221,6 +221,11 @@ SetResult SystemVariables::toUser(const VariableRow& row, const VariableValue& v
     return error ? SetResult::NotSaved : SetResult::Ok;
 }
 
+bool SystemVariables::isReadOnly(std::wstring_view name) const {
+    const VariableRow* const row = this->row(name);
+    return row == nullptr || row->readOnly;
+}
+
 SetResult SystemVariables::setFromText(std::wstring_view name, std::wstring_view text) {
     const VariableRow* row = this->row(name);
     if (row == nullptr || row->readOnly)

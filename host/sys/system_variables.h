@@ -90,6 +90,8 @@ public:
     [[nodiscard]] bool has(std::wstring_view name) const;
     // The row of a built-in variable, or null (unknown, or registered by a module).
     [[nodiscard]] const VariableRow* row(std::wstring_view name) const;
+    // Whether people may not set it: so it is with those that modules registered, and with names that nobody has.
+    [[nodiscard]] bool isReadOnly(std::wstring_view name) const;
     // All names, sorted.
     [[nodiscard]] std::vector<ZrString> names() const;
 

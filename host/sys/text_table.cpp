@@ -12,7 +12,8 @@ namespace quor {
 namespace {
 
 constexpr int kNarrowGap = 1;
-constexpr int kLeastOfCut = 16; // columns that a text which is cut keeps at least
+constexpr int kLeastOfCut = 16; // columns that a text which is cut keeps where there is room
+constexpr int kLeastShown = 3;  // and where there is none: a character and the dots
 constexpr char kEnd = 0;        // of a cell; no text holds one, for it is a control character
 
 // Most texts are numbers; they need no second look.
@@ -72,17 +73,22 @@ int TextTable::widthOf(const Block& block) const {
     return width;
 }
 
-void TextTable::widen(Block& block, int width) const {
+void TextTable::fit(Block& block, int width) const {
     int room = width - widthOf(block);
-    bool goesOn = true;
-    while (room > 0 && goesOn) {
+    const int step = room < 0 ? -1 : 1;
+    const auto isDone = [&](const Place& place) {
+        const Column& column = columns_[place.column];
+        const bool mayShrink = column.fit == Fit::MayBeCut && place.width > kLeastShown;
+        return room == 0 || (step < 0 ? !mayShrink : place.width == column.width);
+    };
+    for (bool goesOn = true; goesOn;) {
         goesOn = false;
         // a column each in turn, so that none is cut for the sake of another
         for (Place& place : block) {
-            if (room == 0 || place.width == columns_[place.column].width)
+            if (isDone(place))
                 continue;
-            ++place.width;
-            --room;
+            place.width += step;
+            room -= step;
             goesOn = true;
         }
     }
@@ -100,7 +106,7 @@ std::vector<TextTable::Block> TextTable::blocks(int width) const {
         blocks.back().insert(blocks.back().end(), all[group].begin(), all[group].end());
     }
     for (Block& block : blocks)
-        widen(block, width);
+        fit(block, width);
     return blocks;
 }
 

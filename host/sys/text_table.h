@@ -1,5 +1,5 @@
-// A table of texts for a terminal: every column as wide as its widest text. A column without any text is left out;
-// where only some rows have one, a dash stands for it.
+// A table of texts for a terminal: every column as wide as its widest text. A column without any text is left out
+// unless it is to be kept; a dash stands for a text that a row does not have.
 #pragma once
 
 #include "sdk/sys/string.h"
@@ -22,6 +22,8 @@ public:
     explicit TextTable(std::size_t leads = 1) : leads_(leads) {}
 
     void addColumn(const ZrString& heading, Align align, Fit fit = Fit::Whole);
+    // The column added last is shown even where no row has a text in it.
+    void keepLast() { columns_.back().isUsed = true; }
     // A column that belongs to the one before it: always in the same block, only one blank away.
     void addBesideLast(const ZrString& heading, Align align);
     // Rows are filled cell by cell. Control characters in a text are spelled out.
@@ -34,8 +36,8 @@ public:
         int width = 0;
     };
     using Block = std::vector<Place>;
-    // As few as make every line fit into `width`, unless a column is too wide for itself. Texts are cut no more than
-    // their block needs.
+    // As few as make every line fit into `width`, unless columns that may not be cut are too wide for it. Texts are cut
+    // no more than their block needs; they keep some width, unless even the first columns alone would not fit then.
     [[nodiscard]] std::vector<Block> blocks(int width) const;
     // A line each, its end included.
     [[nodiscard]] ZrString heading(const Block& block) const;
@@ -57,7 +59,7 @@ private:
     [[nodiscard]] std::vector<Block> groups() const;
     [[nodiscard]] int widthOf(const Block& block) const;
     // As wide as their texts, and no wider than `width` where cutting can do it.
-    void widen(Block& block, int width) const;
+    void fit(Block& block, int width) const;
 
     std::size_t leads_;
     std::vector<Column> columns_;

@@ -120,6 +120,7 @@ inline constexpr Text kAskVariableValue{L"\n输入 %s 的新值 <%s>: ", L"\nEnt
 inline constexpr Text kAskVariableText{L"\n输入 %s 的新值，或输入 . 表示空 <%s>: ",
                                        L"\nEnter new value for %s, or . for none <%s>: "};
 inline constexpr Text kVariableReadOnly{L"\n%s = %s (只读)\n", L"\n%s = %s (read-only)\n"};
+inline constexpr Text kEmptyValue{L"(无)", L"(none)"};
 inline constexpr Text kReadOnlyMark{L"(只读)", L"(read-only)"};
 inline constexpr Text kNoSuchVariable{L"\n没有名为“%s”的系统变量。输入 SETVAR ? 可列出所有变量。\n",
                                       L"\nThere is no system variable \"%s\". SETVAR ? lists all variables.\n"};
@@ -149,6 +150,8 @@ inline constexpr Text kHelpModulePage{L"\n%s 是已加载模块的命令；按�
                                       L"\n%s is a command of a loaded module; answer its prompts.\n"};
 inline constexpr Text kHelpVariable{L"\n%s 是系统变量。输入其名称可查看或更改它的值。\n",
                                     L"\n%s is a system variable. Type its name to see or change its value.\n"};
+inline constexpr Text kHelpReadOnlyVariable{L"\n%s 是只读的系统变量。输入其名称可查看它的值。\n",
+                                            L"\n%s is a read-only system variable. Type its name to see its value.\n"};
 inline constexpr Text kNoHelp{L"\n没有名为“%s”的命令。输入 HELP 可列出所有命令。\n",
                               L"\nThere is no command \"%s\". HELP lists all commands.\n"};
 

@@ -45,6 +45,13 @@ inline constexpr Text kTableOthers{L"\n未列出 %d 个不是光源的对象。\
                                    L"\n%d objects that are not lights were not listed.\n"};
 inline constexpr Text kTableOneOther{L"\n未列出 %d 个不是光源的对象。\n",
                                      L"\n%d object that is not a light was not listed.\n"};
+// While a block is edited in place.
+inline constexpr Text kTableInWorkset{
+    L"\n正在编辑块“%s”: 其中 %d 个光源属于工作集。\n",
+    L"\nBlock \"%s\" is being edited in place: %d of these lights are in its working set.\n"};
+inline constexpr Text kTableOneInWorkset{
+    L"\n正在编辑块“%s”: 其中 %d 个光源属于工作集。\n",
+    L"\nBlock \"%s\" is being edited in place: %d of these lights is in its working set.\n"};
 inline constexpr Text kTableNoLights{L"\n图形中没有光源。\n", L"\nThere are no lights in the drawing.\n"};
 inline constexpr Text kTableNoneSelected{L"\n所选对象中没有光源。\n",
                                          L"\nThere are no lights among the selected objects.\n"};

@@ -40,6 +40,9 @@ struct VariableNote {
     Text note;
 };
 inline constexpr VariableNote variableNotes[] = {
+    {L"COLORTHEME",
+     {L"0 为深色，1 为浅色；用于有窗口的程序中的选项板，以后运行时仍然有效。",
+      L"0 is dark, 1 is light; for palettes in programs with windows. Kept for later runs."}},
     {L"DEFAULTLIGHTING",
      {L"1 为打开默认光源，0 为关闭。打开时，光源命令先问是否关闭它；脚本中不问。\n"
       L"勾选“始终执行我的当前选择”后不再询问；要恢复询问，请从设置文件\n"

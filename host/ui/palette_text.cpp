@@ -1,5 +1,8 @@
 #include "host/ui/palette_text.h"
 
+#include "host/db/ref_edit.h"
+#include "host/document.h"
+#include "host/session.h"
 #include "host/sys/text_table.h"
 #include "host/sys/visible_text.h"
 #include "host/texts/palettes.h"
@@ -61,6 +64,8 @@ void addColumn(TextTable& table, const CListCtrl& list, int column) {
         table.addColumn(title.empty() ? texts::kPaletteKind.get() : title, Align::Left);
     else
         table.addColumn(title, Align::Left, Fit::MayBeCut);
+    if (!title.empty())
+        table.keepLast();
 }
 
 TextTable tableOf(const CListCtrl& list) {
@@ -87,6 +92,13 @@ ZrString listText(const CListCtrl& list, int width) {
     return text + fill(count == 1 ? texts::kPaletteOneRow : texts::kPaletteRows, count);
 }
 
+ZrString editingText() {
+    const Document* const document = Session::exists() ? Session::current().documents().current() : nullptr;
+    if (document == nullptr || !document->drawing().refEdit().isActive())
+        return {};
+    return fill(texts::kPaletteWhileEditing, visibleText(document->drawing().refEdit().blockName()));
+}
+
 } // namespace
 
 ZrString paletteText(const CZkUiPaletteSet& palette, int columns) {
@@ -95,7 +107,7 @@ ZrString paletteText(const CZkUiPaletteSet& palette, int columns) {
     ZrString text = L"\n" + visibleText(palette.GetName()) + L"\n";
     for (const CListCtrl* const list : lists)
         text += (list == lists.front() ? L"" : L"\n") + listText(*list, columns);
-    return text;
+    return lists.empty() ? text : text + editingText();
 }
 
 } // namespace quor::ui

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace quor::console {
 namespace {
@@ -122,9 +123,12 @@ TEST_F(OutputTest, LinesMayBeAsWideAsTheScreenAsItIsNow) {
     EXPECT_EQ(output.columns(), 60);
 }
 
-TEST_F(OutputTest, WithoutAScreenOrWithOneThatDoesNotSayLinesMayHave80Columns) {
-    EXPECT_EQ(make().columns(), 80);
+TEST_F(OutputTest, OnAScreenThatDoesNotSayLinesMayHave80Columns) {
     EXPECT_EQ(Output([](std::string_view) { return 0; }, false, [] { return 0; }).columns(), 80);
+}
+
+TEST_F(OutputTest, WithoutAScreenLinesMayBeAsLongAsTheyNeed) {
+    EXPECT_EQ(make().columns(), std::numeric_limits<int>::max());
 }
 
 } // namespace

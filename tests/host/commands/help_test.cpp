@@ -1,6 +1,7 @@
 #include "host/ed/input_stack.h"
 #include "host/ed/script_run.h"
 #include "host/ed/script_source.h"
+#include "host/sys/system_variables.h"
 #include "host/sys/text_width.h"
 #include "host/sys/utf8.h"
 #include "host/texts/help.h"
@@ -145,6 +146,46 @@ TEST(Help, ShowsThePageThatAModuleGaveForItsCommand) {
     host.run({L"HELP", L"glow"});
 
     EXPECT_TRUE(host.front().shows(L"GLOW\n  发光。\n  例: GLOW\n"));
+}
+
+TEST(Help, TellsTheLocalNameOfAModulesCommand) {
+    test::TestSession host;
+    host.session().commands().add(
+        {.group = L"TEST", .globalName = L"GLOW", .localName = L"发光", .run = [] { return 5100; }, .isHost = false});
+    host.session().commands().setHelp(L"TEST", L"glow", [] { return ZrString(L"发光。\n例: GLOW"); });
+
+    host.run({L"HELP", L"发光"});
+
+    EXPECT_TRUE(host.front().shows(L"GLOW (发光)\n  发光。\n"));
+}
+
+TEST(Help, OfAVariableTellsWhatItsValuesMean) {
+    test::TestSession host;
+
+    host.run({L"HELP", L"colortheme"});
+
+    EXPECT_TRUE(host.front().shows(L"输入其名称可查看或更改它的值。\n  0 为深色，1 为浅色"));
+}
+
+TEST(Help, OfAVariableThatIsReadOnlySaysSo) {
+    test::TestSession host;
+
+    host.run({L"HELP", L"QUORVERSION"});
+
+    EXPECT_TRUE(host.front().shows(L"是只读的系统变量。输入其名称可查看它的值。"));
+}
+
+TEST(Help, OfAModulesVariableIsTheLineAboutItInAPageOfTheModule) {
+    test::TestSession host;
+    host.addCommand(L"GLOW", [] { return 5100; });
+    host.session().commands().setHelp(L"TEST", L"glow",
+                                      [] { return ZrString(L"发光。\nGLOWSTATE: 发光时为 1。\n例: GLOW"); });
+    host.session().variables().registerVariable(L"GlowState", [] { return short{1}; });
+
+    host.run({L"HELP", L"glowstate"});
+
+    EXPECT_TRUE(host.front().shows(L"是只读的系统变量。输入其名称可查看它的值。\n  发光时为 1。\n"));
+    EXPECT_FALSE(host.front().shows(L"例: GLOW"));
 }
 
 TEST(Help, OfNoCommandFails) {

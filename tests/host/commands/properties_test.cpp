@@ -57,15 +57,22 @@ TEST_F(Properties, TellNobodyOfASelectionThatStaysAsItIs) {
     EXPECT_EQ(counter.changes, 0);
 }
 
-TEST_F(Properties, AskWhereNothingIsSelectedAndSelectNothing) {
+TEST_F(Properties, AskWhereNothingIsSelectedAndSelectWhatIsPickedThen) {
     host.run({L"PROPERTIES", L"LAST", L""});
 
     EXPECT_TRUE(host.front().shows(L"X=8.0000"));
+    EXPECT_EQ(zredImpliedSelection(), ZrDbObjectIdArray{second});
+}
+
+TEST_F(Properties, SelectNothingWhereNothingIsPicked) {
+    host.run({L"PROPERTIES", L""});
+
     EXPECT_TRUE(zredImpliedSelection().empty());
 }
 
 TEST_F(Properties, AreCancelledByEscape) {
-    EXPECT_EQ(host.run({L"PROPERTIES", L"^C"}).kind, ed::Verdict::Kind::Cancelled);
+    EXPECT_EQ(host.run({L"PROPERTIES", L"LAST", L"^C"}).kind, ed::Verdict::Kind::Cancelled);
+    EXPECT_TRUE(zredImpliedSelection().empty());
 }
 
 TEST_F(Properties, RunAsAMacroUnderTheirGlobalName) {

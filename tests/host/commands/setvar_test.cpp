@@ -34,6 +34,15 @@ TEST(SetVariable, LanguageThatCannotBeKeptIsSaidOnceAndNotAskedAgain) {
     EXPECT_TRUE(test.front().shows(L"LANGUAGE 的新值从下次启动起才有效，但无法写入用户设置，因此不会保留。"));
 }
 
+TEST(SetVariable, SaysThatAValueIsEmpty) {
+    test::TestSession test;
+
+    test.run({L"REFEDITNAME", L"SETVAR", L"?", L"SUPPORTPATH"});
+
+    EXPECT_TRUE(test.front().shows(L"REFEDITNAME = (无) (只读)"));
+    EXPECT_TRUE(test.front().shows(L"SUPPORTPATH  (无)\n"));
+}
+
 TEST(SetVariable, ValueThatCannotBeKeptHoldsForThisRun) {
     test::TestSession test;
     closeSettings(test);

@@ -84,6 +84,14 @@ TEST_F(TheTable, LeavesOutAColumnWithoutAnyText) {
     EXPECT_EQ(row(1), L"  b\n");
 }
 
+TEST_F(TheTable, ShowsAColumnWithoutAnyTextThatIsToBeKept) {
+    table.keepLast();
+    add(L"a", L"");
+
+    EXPECT_EQ(heading(), L"  Name  cd\n");
+    EXPECT_EQ(row(0), L"  a      -\n");
+}
+
 TEST_F(TheTable, SpellsControlCharactersOut) {
     add(L"a\x1B[2J", L"1");
 
@@ -167,6 +175,15 @@ TEST_F(ATableThatCuts, CutsNoMoreThanItMust) {
     EXPECT_EQ(row(46), L"  2F      " + ZrString(28, L'x') + L"…  point\n");
     EXPECT_EQ(row(33), L"  2F      " + ZrString(15, L'x') + L"…  point\n");
 }
+
+TEST_F(ATableThatCuts, CutsMoreWhereEvenThatDoesNotFit) {
+    EXPECT_EQ(row(32), L"  2F      " + ZrString(14, L'x') + L"…  point\n");
+    EXPECT_EQ(row(20), L"  2F      xx…  point\n");
+}
+
+TEST_F(ATableThatCuts, KeepsACharacterHoweverNarrowTheTerminal) { EXPECT_EQ(row(1), L"  2F      xx…  point\n"); }
+
+TEST_F(ATableThatCuts, CutsItsHeadingToo) { EXPECT_EQ(table.heading(table.blocks(20)[0]), L"  Handle  Na…  Kind\n"); }
 
 TEST(ATableWithLeads, IsTwoBlocksThatBothBeginWithItsLeadsWhereCuttingIsNotEnough) {
     TextTable wider{2};

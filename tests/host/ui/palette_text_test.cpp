@@ -69,7 +69,7 @@ protected:
     ThePaletteAsEnglishText() : ThePaletteAsText(L"en") { palette_.SetName(L"Lights in Model"); }
 };
 
-TEST_F(ThePaletteAsText, SaysThatItsListIsEmpty) { EXPECT_EQ(text(), L"\n模型中的光源\n列表为空。\n"); }
+TEST_F(ThePaletteAsText, SaysThatItsListIsEmpty) { EXPECT_EQ(text(), L"\n模型中的光源\n  (无)\n"); }
 
 TEST_F(ThePaletteAsText, NamesThePictureOfItsRow) {
     palette_.addRow(0, L"吊灯");
@@ -106,9 +106,26 @@ TEST_F(ThePaletteAsText, CutsLongNamesToTheWidth) {
     EXPECT_NE(text(40).find(L"  点光源  " + ZrString(29, L'x') + L"…\n"), ZrString::npos);
 }
 
+TEST_F(ThePaletteAsText, CutsNothingWhereLinesMayBeOfAnyLength) {
+    palette_.addRow(0, ZrString(255, L'x'));
+    EXPECT_NE(text(FrontEnd::kAnyColumns).find(L"  点光源  " + ZrString(255, L'x') + L"\n"), ZrString::npos);
+}
+
 TEST_F(ThePaletteAsText, StaysReadableWhereItIsNarrow) {
     palette_.addRow(0, L"吊灯");
     EXPECT_EQ(text(20), text(80));
+}
+
+TEST_F(ThePaletteAsText, CutsNamesFurtherWhereItIsVeryNarrow) {
+    palette_.addRow(0, ZrString(30, L'x'));
+    EXPECT_NE(text(20).find(L"\n  类型    光源名称\n  点光源  xxxxxxxxx…\n"), ZrString::npos);
+    EXPECT_NE(text(13).find(L"\n  类型    光…\n  点光源  xx…\n"), ZrString::npos);
+}
+
+TEST_F(ThePaletteAsText, ShowsAColumnWithAHeadingThoughAllItsTextsAreEmpty) {
+    palette_.addRow(0, L"");
+    palette_.addRow(1, L"");
+    EXPECT_NE(text().find(L"\n  类型    光源名称\n  点光源  -\n  聚光灯  -\n"), ZrString::npos);
 }
 
 TEST_F(ThePaletteAsText, SpellsOutControlCharacters) {
@@ -128,10 +145,10 @@ TEST_F(ThePaletteAsText, KeepsTheHeadingThatItsPicturesHave) {
 
 TEST_F(ThePaletteAsText, PutsATextBehindThePictureBesideIt) {
     palette_.list.InsertItem(0, L"亮", 0);
-    EXPECT_NE(text().find(L"  点光源 亮\n"), ZrString::npos);
+    EXPECT_NE(text().find(L"  点光源 亮  -\n"), ZrString::npos);
 }
 
-TEST_F(ThePaletteAsText, LeavesOutColumnsWithoutAnyText) {
+TEST_F(ThePaletteAsText, LeavesOutAColumnWithoutHeadingAndTexts) {
     palette_.list.SetImageList(nullptr, LVSIL_SMALL);
     palette_.addRow(-1, L"吊灯");
     EXPECT_NE(text().find(L"\n  光源名称\n  吊灯\n"), ZrString::npos);
@@ -146,19 +163,17 @@ TEST_F(ThePaletteAsText, ShowsEveryListWithItsOwnNumber) {
     CListCtrl second;
     second.Create({.parent = &palette_, .style = WS_VISIBLE, .rect = {0, 0, 100, 100}});
     palette_.addRow(0, L"吊灯");
-    EXPECT_NE(text().find(L"共 1 项。\n\n列表为空。\n"), ZrString::npos);
+    EXPECT_NE(text().find(L"共 1 项。\n\n  (无)\n"), ZrString::npos);
     second.DestroyWindow();
 }
 
-TEST_F(ThePaletteAsEnglishText, SaysThatItsListIsEmpty) {
-    EXPECT_EQ(text(), L"\nLights in Model\nThe list is empty.\n");
-}
+TEST_F(ThePaletteAsEnglishText, SaysThatItsListIsEmpty) { EXPECT_EQ(text(), L"\nLights in Model\n  (none)\n"); }
 
 TEST_F(ThePaletteAsEnglishText, CountsOneRow) {
     palette_.addRow(0, L"Lamp");
     EXPECT_EQ(text(), L"\n"
                       L"Lights in Model\n"
-                      L"  Type    Light Name\n"
+                      L"  Kind    Light Name\n"
                       L"  点光源  Lamp\n"
                       L"\n"
                       L"1 item.\n");
