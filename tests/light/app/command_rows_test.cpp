@@ -140,12 +140,12 @@ TEST_P(EachCommand, TheFirstLineOfItsPageIsASentence) {
     EXPECT_EQ(page.find(L"。\n"), page.find(L'\n') - 1);
 }
 
-TEST_P(EachCommand, HelpShowsItsPage) {
+TEST_P(EachCommand, HelpShowsItsPageUnderBothNames) {
     ASSERT_NE(registered(), nullptr);
 
     session_.run({L"HELP", GetParam().globalName});
 
-    const ZrString heading = ZrString(GetParam().globalName) + L"\n  ";
+    const ZrString heading = ZrString(GetParam().globalName) + L" (" + registered()->localName + L")\n  ";
     const std::wstring_view page = row().help.builtIn;
     EXPECT_TRUE(session_.front().shows(heading + ZrString(page.substr(0, page.find(L'\n')))));
 }
