@@ -90,7 +90,7 @@ Error errorAt(Error::Kind kind, std::size_t offset, std::wstring excerpt = {}) {
 // False when the file is refused.
 bool scanAscii(std::string_view file, std::size_t at, LayoutBuilder& builder) {
     const char* text = file.data();
-    LineEnds ends(text, at);
+    LineEnds ends(file, at);
     Tag tag;
     while (at < file.size()) {
         const std::size_t codeEnd = ends.next();

@@ -84,6 +84,9 @@ ValueKind kindOf(int code) {
 }
 
 std::string_view trimmed(std::string_view text) {
+    if (!text.empty() && text.front() > ' ' && text.back() > ' ') {
+        return text;
+    }
     while (!text.empty() && isBlank(text.front())) {
         text.remove_prefix(1);
     }

@@ -4,16 +4,9 @@
 #include "host/dxf/code_line.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace quor::dxf {
 namespace {
-
-// Offset of the next line feed in file[at, end), or end.
-std::size_t findLineFeed(std::string_view file, std::size_t at, std::size_t end) {
-    const auto* found = static_cast<const char*>(std::memchr(file.data() + at, '\n', end - at));
-    return found != nullptr ? static_cast<std::size_t>(found - file.data()) : end;
-}
 
 // The group code on the line file[begin, end).
 int codeAt(std::string_view file, std::size_t begin, std::size_t end) {
@@ -31,47 +24,67 @@ std::string_view lineBody(std::string_view file, std::size_t begin, std::size_t 
 } // namespace
 
 TagReader::TagReader(std::string_view file, Form form, std::size_t begin, std::size_t end)
-    : file_(file), at_(std::min(begin, file.size())), end_(std::min(end, file.size())), form_(form) {}
+    : file_(file), at_(std::min(begin, file.size())), end_(std::min(end, file.size())), ends_(file, at_), form_(form) {}
 
 void TagReader::seek(std::size_t offset) {
     at_ = std::min(offset, end_);
+    ends_.seek(at_);
     damaged_ = false;
 }
 
-bool TagReader::next(Tag& tag) {
-    if (damaged_ || at_ >= end_) {
+bool TagReader::next(Tag& tag, const CodeSet& wanted) {
+    if (damaged_) {
         return false;
     }
-    return form_ == Form::Ascii ? nextAscii(tag) : nextBinary(tag);
+    return form_ == Form::Ascii ? nextAscii(tag, wanted) : nextBinary(tag, wanted);
 }
 
-bool TagReader::stop() {
-    damaged_ = true;
+bool TagReader::stopAt(std::size_t offset) {
+    at_ = offset;
+    damaged_ = offset < end_;
     return false;
 }
 
-bool TagReader::nextAscii(Tag& tag) {
-    const std::size_t codeEnd = findLineFeed(file_, at_, end_);
-    const int code = codeAt(file_, at_, codeEnd);
-    if (code == kBadCode || codeEnd + 1 >= end_) {
-        return stop();
+bool TagReader::nextAscii(Tag& tag, const CodeSet& wanted) {
+    // In registers while tags are passed over.
+    const std::string_view file = file_;
+    const std::size_t end = end_;
+    LineEnds ends = ends_;
+    std::size_t at = at_;
+    while (at < end) {
+        const std::size_t codeEnd = std::min(ends.next(), end);
+        const int code = codeAt(file, at, codeEnd);
+        if (code == kBadCode || codeEnd + 1 >= end) {
+            break;
+        }
+        const std::size_t valueEnd = std::min(ends.next(), end);
+        const std::size_t tagEnd = std::min(valueEnd + 1, end);
+        if (wanted.contains(code)) {
+            tag.code = code;
+            tag.raw = lineBody(file, codeEnd + 1, valueEnd);
+            tag.begin = at;
+            tag.end = tagEnd;
+            tag.form = form_;
+            at_ = tagEnd;
+            ends_ = ends;
+            return true;
+        }
+        at = tagEnd;
     }
-    const std::size_t valueEnd = findLineFeed(file_, codeEnd + 1, end_);
-    tag.code = code;
-    tag.raw = lineBody(file_, codeEnd + 1, valueEnd);
-    tag.begin = at_;
-    tag.end = std::min(valueEnd + 1, end_);
-    tag.form = form_;
-    at_ = tag.end;
-    return true;
+    return stopAt(at);
 }
 
-bool TagReader::nextBinary(Tag& tag) {
-    if (readBinaryTag(file_, form_, at_, end_, tag) != BinaryStep::Ok) {
-        return stop();
+bool TagReader::nextBinary(Tag& tag, const CodeSet& wanted) {
+    while (at_ < end_) {
+        if (readBinaryTag(file_, form_, at_, end_, tag) != BinaryStep::Ok) {
+            break;
+        }
+        at_ = tag.end;
+        if (wanted.contains(tag.code)) {
+            return true;
+        }
     }
-    at_ = tag.end;
-    return true;
+    return stopAt(at_);
 }
 
 std::size_t lineOf(std::string_view file, std::size_t offset) {

@@ -1,6 +1,8 @@
 // Walks the tags of a slice of a drawing file, in any form.
 #pragma once
 
+#include "host/dxf/code_set.h"
+#include "host/dxf/line_ends.h"
 #include "host/dxf/tag.h"
 
 #include <cstddef>
@@ -14,7 +16,9 @@ public:
     TagReader(std::string_view file, Form form, std::size_t begin, std::size_t end);
 
     // The next tag; false at the end and at the first tag that is damaged (see damaged()).
-    [[nodiscard]] bool next(Tag& tag);
+    [[nodiscard]] bool next(Tag& tag) { return next(tag, kEveryCode); }
+    // The same of the tags with these codes; passing over the others costs little.
+    [[nodiscard]] bool next(Tag& tag, const CodeSet& wanted);
 
     // True when next() stopped before the end: bad group code, value cut off. position() is where.
     [[nodiscard]] bool damaged() const { return damaged_; }
@@ -22,13 +26,16 @@ public:
     void seek(std::size_t offset);
 
 private:
-    bool nextAscii(Tag& tag);
-    bool nextBinary(Tag& tag);
-    bool stop();
+    static constexpr CodeSet kEveryCode = CodeSet::all();
+
+    bool nextAscii(Tag& tag, const CodeSet& wanted);
+    bool nextBinary(Tag& tag, const CodeSet& wanted);
+    bool stopAt(std::size_t offset);
 
     std::string_view file_;
     std::size_t at_;
     std::size_t end_;
+    LineEnds ends_; // behind at_
     Form form_;
     bool damaged_ = false;
 };

@@ -100,7 +100,7 @@ std::wstring TextCodec::decode(std::string_view bytes) const {
 }
 
 std::wstring TextCodec::resolveEscapes(std::wstring text) const {
-    if (text.find_first_of(L"\\^") == std::wstring::npos)
+    if (std::none_of(text.begin(), text.end(), [](wchar_t c) { return c == L'\\' || c == L'^'; }))
         return text;
     const std::wstring_view source = text;
     std::wstring out;

@@ -84,6 +84,64 @@ TEST_P(EveryForm, GivesTheSameValues) {
 
 INSTANTIATE_TEST_SUITE_P(TagReader, EveryForm, testing::Values(Form::Ascii, Form::Binary16, Form::Binary8));
 
+TEST_P(EveryForm, GivesOnlyTheTagsThatAreWantedAndExtendedData) {
+    const std::string file = samples::written(GetParam());
+    TagReader reader(file, GetParam(), GetParam() == Form::Ascii ? 0 : binarySentinel().size(), file.size());
+    const CodeSet wanted{67, 330};
+    std::vector<int> codes;
+    for (Tag tag; reader.next(tag, wanted);) {
+        codes.push_back(tag.code);
+    }
+    EXPECT_EQ(codes, (std::vector<int>{330, 67, 1000, 1070}));
+    EXPECT_FALSE(reader.damaged());
+    EXPECT_EQ(reader.position(), file.size());
+}
+
+TEST(TagReader, StopsAtABadGroupCodeAmongTagsThatNobodyWants) {
+    const std::string_view file = "  1\na\nrubbish\nb\n 40\n1.0\n";
+    TagReader reader(file, Form::Ascii, 0, file.size());
+    Tag tag;
+    EXPECT_FALSE(reader.next(tag, CodeSet{40}));
+    EXPECT_TRUE(reader.damaged());
+    EXPECT_EQ(reader.position(), 6U);
+}
+
+TEST(TagReader, FindsLinesOfAnyLength) {
+    for (std::size_t length = 0; length < 200; ++length) {
+        const std::string value(length, 'x');
+        const std::string file = "1\n" + value + "\n2\nend\n";
+        const auto tags = allTags(file, Form::Ascii);
+        ASSERT_EQ(tags.size(), 2U);
+        EXPECT_EQ(tags[0].raw, value);
+        EXPECT_EQ(tags[1].raw, "end");
+    }
+}
+
+TEST(TagReader, GoesOnWhereItIsSetTo) {
+    const std::string_view file = "  1\na\nrubbish\nb\n 40\n1.0\n";
+    TagReader reader(file, Form::Ascii, 0, file.size());
+    Tag tag;
+    EXPECT_TRUE(reader.next(tag));
+    EXPECT_FALSE(reader.next(tag));
+    reader.seek(16);
+    EXPECT_TRUE(reader.next(tag));
+    EXPECT_TRUE(tag.is(40, "1.0"));
+    reader.seek(0);
+    EXPECT_TRUE(reader.next(tag));
+    EXPECT_TRUE(tag.is(1, "a"));
+}
+
+TEST(TagReader, ReadsNoFurtherThanItsEnd) {
+    const std::string_view file = "1\nabc\n2\nd\n";
+    TagReader reader(file, Form::Ascii, 0, 4);
+    Tag tag;
+    EXPECT_TRUE(reader.next(tag));
+    EXPECT_EQ(tag.raw, "ab");
+    EXPECT_EQ(tag.end, 4U);
+    EXPECT_FALSE(reader.next(tag));
+    EXPECT_FALSE(reader.damaged());
+}
+
 TEST(TagReader, BinaryDataStandsBehindItsLength) {
     const std::string file = samples::written(Form::Binary16);
     EXPECT_EQ(allTags(file, Form::Binary16, binarySentinel().size())[16].raw, std::string_view("\x08\x00\xFF", 3));
