@@ -2,22 +2,6 @@
 
 namespace quor::db {
 
-namespace {
-
-using Index = std::unordered_map<std::uint64_t, ObjectEntry*>;
-
-void addTo(Index& index, ObjectEntry& entry) {
-    if (entry.handle != 0)
-        index.try_emplace(entry.handle, &entry);
-}
-
-ObjectEntry* lookUp(const Index& index, std::uint64_t handle) {
-    const auto found = index.find(handle);
-    return found == index.end() ? nullptr : found->second;
-}
-
-} // namespace
-
 ObjectEntry& ObjectTable::add(std::uint64_t handle, ObjectKind kind) {
     ObjectEntry& entry = entries_.emplace_back();
     entry.database = &database_;
@@ -32,14 +16,16 @@ ObjectEntry* ObjectTable::find(std::uint64_t handle) const {
     if (indexed_ == 0)
         byHandle_.reserve(entries_.size());
     for (; indexed_ < entries_.size(); ++indexed_)
-        addTo(byHandle_, const_cast<ObjectEntry&>(entries_[indexed_]));
-    return lookUp(byHandle_, handle);
+        byHandle_.add(const_cast<ObjectEntry&>(entries_[indexed_]));
+    return byHandle_.find(handle);
 }
 
 ObjectEntry* ObjectTable::findObject(std::uint64_t handle) const {
+    if (indexedObjects_ == 0)
+        objectByHandle_.reserve(objects_.size());
     for (; indexedObjects_ < objects_.size(); ++indexedObjects_)
-        addTo(objectByHandle_, *objects_[indexedObjects_]);
-    return lookUp(objectByHandle_, handle);
+        objectByHandle_.add(*objects_[indexedObjects_]);
+    return objectByHandle_.find(handle);
 }
 
 std::uint64_t ObjectTable::takeHandles(std::uint64_t count) {

@@ -1,11 +1,11 @@
 // All objects of a drawing: their places, found by handle, and the handles that are still free.
 #pragma once
 
+#include "host/db/handle_index.h"
 #include "host/db/object_entry.h"
 
 #include <cstdint>
 #include <deque>
-#include <unordered_map>
 #include <vector>
 
 namespace quor::db {
@@ -38,11 +38,10 @@ private:
     std::deque<ObjectEntry> entries_;
     std::vector<ObjectEntry*> touched_;
     std::uint64_t next_ = 1;
-    using Index = std::unordered_map<std::uint64_t, ObjectEntry*>;
     std::vector<ObjectEntry*> objects_; // those that are no entities
-    mutable Index byHandle_;
+    mutable HandleIndex byHandle_;
     mutable std::size_t indexed_ = 0; // so many entries are in the index
-    mutable Index objectByHandle_;
+    mutable HandleIndex objectByHandle_;
     mutable std::size_t indexedObjects_ = 0; // so many of objects_
 };
 
