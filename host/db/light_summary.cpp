@@ -4,89 +4,115 @@
 
 #include "host/db/data.h"
 #include "host/db/database.h"
+#include "host/db/extension_dictionary.h"
 #include "host/db/light_tags.h"
-#include "host/db/object_reader.h"
 
+#include <optional>
 #include <utility>
 
 namespace quor::db {
 
 namespace {
 
-// The tags of one subclass of a record, without groups in braces and extended data.
-class SubclassTags {
+// The tags with wanted codes of a record that is laid out as usual, with the place where each one stands.
+class UsualTags {
 public:
-    SubclassTags(const DrawingFile& file, const dxf::Record& record, std::string_view subclass)
-        : reader_(file.tags(record)), subclass_(subclass) {}
+    UsualTags(const DrawingFile& file, const dxf::Record& record, const dxf::CodeSet& wanted)
+        : reader_(file.tags(record)), wanted_(wanted) {}
 
     // False at the end, and where a record is not laid out as usual: fields are then read by rules of their own.
     [[nodiscard]] bool next(dxf::Tag& tag) {
-        while (reader_.next(tag)) {
-            if (tag.code >= kFirstExtendedData)
+        while (reader_.next(tag, wanted_)) {
+            if (tag.code >= dxf::CodeSet::kFirstExtendedData)
                 return false;
-            if (tag.code == kGroup)
-                isInBraces_ = tag.asTrimmed().starts_with('{');
-            else if (tag.code == kMarker && isInBraces_)
-                return false;
-            else if (tag.code == kMarker)
-                isInside_ = tag.asTrimmed() == subclass_;
-            else if (isInside_ && !isInBraces_)
+            if (tag.code == kGroup) {
+                const std::string_view text = tag.asTrimmed();
+                group_ = text.starts_with('{') ? text : std::string_view();
+            } else if (tag.code == kMarker) {
+                subclass_ = tag.asTrimmed();
+                if (!group_.empty() || subclass_.empty())
+                    return false;
+            } else {
                 return true;
+            }
         }
         return false;
     }
 
-private:
+    [[nodiscard]] bool isIn(std::string_view subclass) const { return group_.empty() && subclass_ == subclass; }
+    [[nodiscard]] bool isInHead(std::string_view group) const { return subclass_.empty() && group_ == group; }
+
     static constexpr int kMarker = 100;
     static constexpr int kGroup = 102;
-    static constexpr int kFirstExtendedData = 1000;
 
+private:
     dxf::TagReader reader_;
-    std::string_view subclass_;
-    bool isInside_ = false;
-    bool isInBraces_ = false;
+    const dxf::CodeSet& wanted_;
+    std::string_view group_;    // with its brace; empty outside of all
+    std::string_view subclass_; // empty before the first
 };
 
-// Whether the record names both; of a code that occurs again, the first tag counts.
-bool readNameAndType(const DrawingFile& file, const dxf::Record& record, ZrString& name, DrawableType& type) {
-    SubclassTags tags(file, record, light_tags::kLight);
-    dxf::Tag tag;
+struct LightRecord {
+    std::string_view name; // as in the file
+    DrawableType type = DrawableType::kPointLight;
+    std::uint64_t dictionary = 0;
+};
+
+// Nothing when the record does not name both; of a code that occurs again, the first tag counts.
+std::optional<LightRecord> readLight(const DrawingFile& file, const dxf::Record& record) {
+    using namespace light_tags;
+    static constexpr dxf::CodeSet kWanted{UsualTags::kMarker, UsualTags::kGroup, kName, kType, kLast, 350, 360};
+    UsualTags tags(file, record, kWanted);
+    LightRecord light;
     bool hasName = false;
     bool hasType = false;
-    while (!(hasName && hasType) && tags.next(tag) && tag.code != light_tags::kLast) {
-        if (tag.code == light_tags::kName && !std::exchange(hasName, true))
-            name = file.codec().decode(tag.raw);
-        else if (tag.code == light_tags::kType && !std::exchange(hasType, true))
-            type = light_tags::typeIn(tag).value_or(DrawableType::kPointLight);
+    bool hasDictionary = false;
+    dxf::Tag tag;
+    while (!(hasName && hasType) && tags.next(tag)) {
+        if (isOwnedHandle(tag.code)) {
+            if (tags.isInHead(kExtensionDictionaryGroup) && !std::exchange(hasDictionary, true))
+                light.dictionary = tag.asHandle().value_or(0);
+        } else if (!tags.isIn(kLight)) {
+            continue;
+        } else if (tag.code == kLast) {
+            break;
+        } else if (tag.code == kName && !std::exchange(hasName, true)) {
+            light.name = tag.raw;
+        } else if (tag.code == kType && !std::exchange(hasType, true)) {
+            light.type = typeIn(tag).value_or(DrawableType::kPointLight);
+        }
     }
-    return hasName && hasType;
+    return hasName && hasType ? std::optional(light) : std::nullopt;
 }
 
-// Whether the photometric data say so, or there are none.
-bool readWeb(Database& database, const ObjectEntry& light, DrawableType& type) {
-    const ObjectEntry* const photometry = findPhotometry(database, light).record;
+// The type with what the photometric data say of a web; nothing when they say nothing of it.
+std::optional<DrawableType> withPhotometry(Database& database, const LightRecord& light) {
+    static constexpr dxf::CodeSet kWanted{UsualTags::kMarker, UsualTags::kGroup, light_tags::kHasWeb};
+    const ObjectEntry* const photometry = findPhotometry(database, light.dictionary).record;
     if (photometry == nullptr)
-        return true;
+        return light.type;
     const DrawingFile& file = database.file();
-    SubclassTags tags(file, file.record(photometry->record), light_tags::kPhotometry);
+    UsualTags tags(file, file.record(photometry->record), kWanted);
     dxf::Tag tag;
     while (tags.next(tag))
-        if (tag.code == light_tags::kHasWeb) {
-            type = light_tags::withWeb(type, tag);
-            return true;
-        }
-    return false;
+        if (tags.isIn(light_tags::kPhotometry))
+            return light_tags::withWeb(light.type, tag);
+    return std::nullopt;
 }
 
 // False when the record leaves something out, or has it in another place than usual.
-bool readSummary(Database& database, const ObjectEntry& light, ZrDbLightSummary& summary) {
+bool readSummary(Database& database, const ObjectEntry& entry, ZrDbLightSummary& summary) {
     const DrawingFile& file = database.file();
-    auto type = DrawableType::kPointLight;
-    if (!readNameAndType(file, file.record(light.record), summary.name, type))
+    const std::optional<LightRecord> light = readLight(file, file.record(entry.record));
+    if (!light)
         return false;
-    if (type == DrawableType::kPointLight && !readWeb(database, light, type))
+    std::optional type = light->type;
+    if (type == DrawableType::kPointLight)
+        type = withPhotometry(database, *light);
+    if (!type)
         return false;
-    summary.type = static_cast<int>(type);
+    summary.name = file.codec().decode(light->name);
+    summary.type = static_cast<int>(*type);
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "host/db/data.h"
 #include "host/db/database.h"
 #include "host/db/entity_fields.h"
+#include "host/db/extension_dictionary.h"
 #include "host/db/raw_objects.h"
 #include "sdk/db/face.h"
 #include "sdk/db/line.h"
@@ -95,44 +96,7 @@ std::unique_ptr<ZrDbObject> readTableRecord(Database& database, ObjectEntry& ent
     return std::make_unique<RawTableRecord>(recordName(database, entry));
 }
 
-// The handle in the group {NAME … } of a record.
-std::uint64_t handleInGroup(const DrawingFile& file, const dxf::Record& record, std::string_view group) {
-    dxf::TagReader reader = file.tags(record);
-    dxf::Tag tag;
-    bool inside = false;
-    while (reader.next(tag)) {
-        if (tag.code == 102)
-            inside = tag.asTrimmed() == group;
-        else if (inside && (tag.code == 360 || tag.code == 350))
-            return tag.asHandle().value_or(0);
-        else if (tag.code == 100)
-            break;
-    }
-    return 0;
-}
-
 } // namespace
-
-ObjectEntry* extensionDictionary(Database& database, const dxf::Record& record) {
-    const DrawingFile& file = database.file();
-    const std::uint64_t handle = handleInGroup(file, record, "{ACAD_XDICTIONARY");
-    ObjectEntry* found = handle == 0 ? nullptr : database.objects().findObject(handle);
-    const bool isDictionary = found != nullptr && found->isInFile() && file.typeName(found->type) == "DICTIONARY";
-    return isDictionary ? found : nullptr;
-}
-
-PhotometryPlace findPhotometry(Database& database, const ObjectEntry& light) {
-    DrawingFile& file = database.file();
-    PhotometryPlace place;
-    ObjectEntry* dictionary = extensionDictionary(database, file.record(light.record));
-    if (dictionary == nullptr)
-        return place;
-    place.dictionary = dictionary;
-    ObjectEntry* record = dictionaryEntry(file, database.objects(), file.record(dictionary->record), kPhotometryName);
-    if (record != nullptr && record->isInFile() && file.typeName(record->type) == "XRECORD")
-        place.record = record;
-    return place;
-}
 
 std::unique_ptr<ZrDbObjectData> readData(Database& database, const ObjectEntry& entry) {
     if (entry.kind == ObjectKind::TableRecord) {

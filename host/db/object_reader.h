@@ -21,16 +21,4 @@ struct FieldGroup;
 // The values of an entity, a light or a layer as they stand in the file.
 [[nodiscard]] std::unique_ptr<ZrDbObjectData> readData(Database& database, const ObjectEntry& entry);
 
-// The extension dictionary of an object in the file, or null.
-[[nodiscard]] ObjectEntry* extensionDictionary(Database& database, const dxf::Record& record);
-
-// Where the photometric data of a light stand: its extension dictionary and the record in it, null where there is none.
-struct PhotometryPlace {
-    ObjectEntry* dictionary = nullptr;
-    ObjectEntry* record = nullptr;
-};
-[[nodiscard]] PhotometryPlace findPhotometry(Database& database, const ObjectEntry& light);
-
-inline constexpr const char* kPhotometryName = "ADSK_XREC_PHOTOMETRICLIGHTINFO";
-
 } // namespace quor::db

@@ -1,6 +1,6 @@
 #include "host/db/owned_objects.h"
 
-#include "host/db/object_reader.h"
+#include "host/db/extension_dictionary.h"
 
 #include <unordered_set>
 

@@ -1,6 +1,7 @@
 #include "host/db/saver.h"
 
 #include "host/db/entity_fields.h"
+#include "host/db/extension_dictionary.h"
 #include "host/db/object_reader.h"
 #include "host/db/object_writer.h"
 #include "host/db/owned_objects.h"

@@ -1,24 +1,20 @@
 #include "host/db/variable_dictionary.h"
 
+#include "host/db/extension_dictionary.h"
 #include "host/sys/utf8.h"
 
 namespace quor::db {
 
-namespace {
-
-constexpr bool isEntryHandle(int code) { return code == 350 || code == 360; }
-
-} // namespace
-
 ObjectEntry* dictionaryEntry(const DrawingFile& file, const ObjectTable& objects, const dxf::Record& dictionary,
                              std::string_view name) {
+    static constexpr dxf::CodeSet kWanted{3, 350, 360};
     dxf::TagReader reader = file.tags(dictionary);
     dxf::Tag tag;
     bool found = false;
-    while (reader.next(tag)) {
+    while (reader.next(tag, kWanted)) {
         if (tag.code == 3)
             found = tag.asTrimmed() == name;
-        else if (found && isEntryHandle(tag.code))
+        else if (found && isOwnedHandle(tag.code))
             return objects.findObject(tag.asHandle().value_or(0));
     }
     return nullptr;

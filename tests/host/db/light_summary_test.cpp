@@ -1,35 +1,9 @@
-#include "tests/host/db/drawings.h"
-
-#include <gtest/gtest.h>
+#include "tests/host/db/light_summaries.h"
 
 namespace quor::db {
 namespace {
 
 using namespace drawings;
-
-std::vector<ZrDbObjectId> lightsOf(Database& database) {
-    std::vector<ZrDbObjectId> lights;
-    const ZrDbObjectPointer<ZrDbBlockTableRecord> space(database.interface().modelSpaceId(), ZrDb::kForRead);
-    for (auto at = space->newIterator(ZrDbLight::desc()); !at->done(); at->step())
-        lights.push_back(at->entityId());
-    return lights;
-}
-
-ZrDbLightSummary summaryOf(ZrDbObjectId id) {
-    ZrDbLightSummary summary;
-    EXPECT_EQ(zrdbLightSummary(id, summary), Quor::eOk);
-    return summary;
-}
-
-// Lists every light first, opens it then.
-void expectSummariesToEqualTheLights(Database& database) {
-    for (const ZrDbObjectId id : lightsOf(database)) {
-        const ZrDbLightSummary summary = summaryOf(id);
-        const ZrDbObjectPointer<ZrDbLight> light(id, ZrDb::kForRead);
-        EXPECT_EQ(summary.name, light->name());
-        EXPECT_EQ(summary.type, static_cast<int>(light->lightType()));
-    }
-}
 
 class SummariesOfADrawing : public testing::TestWithParam<const char*> {};
 
@@ -87,37 +61,51 @@ const std::string kLight = "100\nAcDbLight\n90\n1\n";
 
 INSTANTIATE_TEST_SUITE_P(
     Lights, SummaryOfAnOddLight,
-    testing::Values(OddLight{"Web", kEntity + kLight + "1\nLamp\n70\n2\n", kWeb, L"Lamp", 10},
-                    OddLight{"SpotWithAWeb", kEntity + kLight + "1\nLamp\n70\n3\n", kWeb, L"Lamp", 3},
-                    OddLight{"PointWithoutAWeb", kEntity + kLight + "1\nLamp\n70\n2\n",
-                             "100\nAcDbXrecord\n290\n0\n290\n1\n", L"Lamp", 2},
-                    OddLight{"PhotometryThatSaysNothing", kEntity + kLight + "1\nLamp\n70\n2\n",
-                             "100\nAcDbXrecord\n280\n1\n", L"Lamp", 2},
-                    OddLight{"PhotometryWithoutMarkers", kEntity + kLight + "1\nLamp\n70\n2\n",
-                             "290\n1\n300\nlamp.ies\n", L"Lamp", 10},
-                    OddLight{"PhotometryInAnotherSubclass", kEntity + kLight + "1\nLamp\n70\n2\n",
-                             "100\nOther\n290\n1\n", L"Lamp", 2},
-                    OddLight{"TypeBeforeTheName", kEntity + kLight + "70\n3\n1\nLamp\n", kWeb, L"Lamp", 3},
-                    OddLight{"TypeTwice", kEntity + kLight + "70\n1\n70\n3\n1\nLamp\n1\nOther\n", kWeb, L"Lamp", 1},
-                    OddLight{"UnknownType", kEntity + kLight + "1\nLamp\n70\n7\n70\n3\n", kWeb, L"Lamp", 10},
-                    OddLight{"NoNumberAsType", kEntity + kLight + "1\nLamp\n70\nspot\n", "", L"Lamp", 2},
-                    OddLight{"NoType", kEntity + kLight + "1\nLamp\n", kWeb, L"Lamp", 10},
-                    OddLight{"NoName", kEntity + kLight + "70\n1\n", kWeb, L"", 1},
-                    OddLight{"NoMarkers", "8\n0\n90\n1\n1\nLamp\n70\n3\n", "", L"Lamp", 3},
-                    OddLight{"NameAndTypeBehindTheLastField", kEntity + kLight + "280\n1\n1\nLamp\n70\n3\n", "", L"",
-                             2},
-                    OddLight{"NameAndTypeInBraces",
-                             kEntity + kLight + "102\n{OTHER\n1\nNo\n70\n1\n102\n}\n1\nLamp\n70\n3\n", "", L"Lamp", 3},
-                    OddLight{"MarkerInBraces",
-                             kEntity + kLight + "102\n{OTHER\n100\nOther\n102\n}\n100\nAcDbLight\n1\nLamp\n70\n3\n", "",
-                             L"Lamp", 3},
-                    OddLight{"NameInAnotherSubclass",
-                             kEntity + ("100\nOther\n1\nNo\n70\n1\n" + kLight) + "1\nLamp\n70\n3\n", "", L"Lamp", 3},
-                    OddLight{"SubclassInTwoPieces",
-                             kEntity + kLight + "1\nLamp\n100\nOther\n70\n1\n100\nAcDbLight\n70\n3\n", "", L"Lamp", 3},
-                    OddLight{"NameInExtendedData", kEntity + kLight + "70\n3\n1001\nAPP\n1\nLamp\n", "", L"", 3},
-                    OddLight{"BlanksAroundTheName", kEntity + kLight + "1\n Lamp \n70\n 3\n", "", L" Lamp ", 3},
-                    OddLight{"EscapesInTheName", kEntity + kLight + "1\n\\U+5149\n70\n3\n", "", L"光", 3}),
+    testing::Values(
+        OddLight{"Web", kEntity + kLight + "1\nLamp\n70\n2\n", kWeb, L"Lamp", 10},
+        OddLight{"SpotWithAWeb", kEntity + kLight + "1\nLamp\n70\n3\n", kWeb, L"Lamp", 3},
+        OddLight{"PointWithoutAWeb", kEntity + kLight + "1\nLamp\n70\n2\n", "100\nAcDbXrecord\n290\n0\n290\n1\n",
+                 L"Lamp", 2},
+        OddLight{"PhotometryThatSaysNothing", kEntity + kLight + "1\nLamp\n70\n2\n", "100\nAcDbXrecord\n280\n1\n",
+                 L"Lamp", 2},
+        OddLight{"PhotometryWithoutMarkers", kEntity + kLight + "1\nLamp\n70\n2\n", "290\n1\n300\nlamp.ies\n", L"Lamp",
+                 10},
+        OddLight{"PhotometryInAnotherSubclass", kEntity + kLight + "1\nLamp\n70\n2\n", "100\nOther\n290\n1\n", L"Lamp",
+                 2},
+        OddLight{"TypeBeforeTheName", kEntity + kLight + "70\n3\n1\nLamp\n", kWeb, L"Lamp", 3},
+        OddLight{"TypeTwice", kEntity + kLight + "70\n1\n70\n3\n1\nLamp\n1\nOther\n", kWeb, L"Lamp", 1},
+        OddLight{"UnknownType", kEntity + kLight + "1\nLamp\n70\n7\n70\n3\n", kWeb, L"Lamp", 10},
+        OddLight{"NoNumberAsType", kEntity + kLight + "1\nLamp\n70\nspot\n", "", L"Lamp", 2},
+        OddLight{"NoType", kEntity + kLight + "1\nLamp\n", kWeb, L"Lamp", 10},
+        OddLight{"NoName", kEntity + kLight + "70\n1\n", kWeb, L"", 1},
+        OddLight{"NoMarkers", "8\n0\n90\n1\n1\nLamp\n70\n3\n", "", L"Lamp", 3},
+        OddLight{"NameAndTypeBehindTheLastField", kEntity + kLight + "280\n1\n1\nLamp\n70\n3\n", "", L"", 2},
+        OddLight{"NameAndTypeInBraces", kEntity + kLight + "102\n{OTHER\n1\nNo\n70\n1\n102\n}\n1\nLamp\n70\n3\n", "",
+                 L"Lamp", 3},
+        OddLight{"MarkerInBraces",
+                 kEntity + kLight + "102\n{OTHER\n100\nOther\n102\n}\n100\nAcDbLight\n1\nLamp\n70\n3\n", "", L"Lamp",
+                 3},
+        OddLight{"NameInAnotherSubclass", kEntity + ("100\nOther\n1\nNo\n70\n1\n" + kLight) + "1\nLamp\n70\n3\n", "",
+                 L"Lamp", 3},
+        OddLight{"SubclassInTwoPieces", kEntity + kLight + "1\nLamp\n100\nOther\n70\n1\n100\nAcDbLight\n70\n3\n", "",
+                 L"Lamp", 3},
+        OddLight{"NameInExtendedData", kEntity + kLight + "70\n3\n1001\nAPP\n1\nLamp\n", "", L"", 3},
+        OddLight{"ExtendedDataBeforeItAll", "1001\nAPP\n" + (kEntity + kLight) + "1\nLamp\n70\n3\n", "", L"", 2},
+        OddLight{"EmptyMarkerBeforeAnotherDictionary",
+                 "100\n\n102\n{ACAD_XDICTIONARY\n360\n99\n102\n}\n" + (kEntity + kLight) + "1\nLamp\n70\n2\n", kWeb,
+                 L"Lamp", 10},
+        OddLight{"SecondDictionary",
+                 "102\n{ACAD_XDICTIONARY\n360\n99\n102\n}\n" + (kEntity + kLight) + "1\nLamp\n70\n2\n", kWeb, L"Lamp",
+                 10},
+        OddLight{"CodesWithZerosAndSigns", "+100\nAcDbEntity\n08\n0\n0100\nAcDbLight\n 90 \n1\n+1\nLamp\n070\n+3\n", "",
+                 L"Lamp", 3},
+        OddLight{"CodeThatIsNone", kEntity + kLight + "-1\nx\n1\nLamp\n70\n3\n", "", L"Lamp", 3},
+        OddLight{"LongLinesBeforeTheName",
+                 kEntity + ("310\n" + std::string(300, 'A') + "\n" + kLight) + "1\n" + std::string(200, 'x') +
+                     "\n70\n3\n",
+                 "", ZrString(200, L'x'), 3},
+        OddLight{"BlanksAroundTheName", kEntity + kLight + "1\n Lamp \n70\n 3\n", "", L" Lamp ", 3},
+        OddLight{"EscapesInTheName", kEntity + kLight + "1\n\\U+5149\n70\n3\n", "", L"光", 3}),
     [](const auto& info) { return info.param.what; });
 
 TEST(LightSummary, IsOfTheLightAsItIsNowOnceItWasChanged) {
