@@ -196,4 +196,13 @@ TEST_F(TerminalTest, CtrlDWithUnsavedChangesWarnsOnce) {
     EXPECT_EQ(exitStatus(), 0) << screen_;
 }
 
+TEST_F(TerminalTest, CtrlDWhileABlockIsEditedSaysHowItIsSaved) {
+    ASSERT_TRUE(shows("命令: "));
+    type("OPEN " QUOR_TEST_DATA "/dxf/own/luminaires.dxf\nREFEDIT #60\n\n");
+    ASSERT_TRUE(shows("正在编辑块")) << screen_;
+    ASSERT_TRUE(shows("命令: ")) << screen_;
+    type(kCtrlD);
+    EXPECT_TRUE(shows("用 REFCLOSE 结束编辑")) << screen_;
+}
+
 } // namespace
