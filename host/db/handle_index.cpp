@@ -7,52 +7,54 @@ namespace quor::db {
 void HandleIndex::add(ObjectEntry& entry) {
     if (entry.handle == 0)
         return;
-    const bool rises = places_.empty() || places_.back().handle < entry.handle;
-    if (rises && sorted_ == places_.size())
-        ++sorted_;
-    places_.push_back({entry.handle, &entry});
+    const bool rises = rising_.empty() || rising_.back().handle < entry.handle;
+    (rises ? rising_ : others_).push_back({entry.handle, &entry});
 }
 
-void HandleIndex::sort() {
-    const auto isLess = [](const Place& a, const Place& b) { return a.handle < b.handle; };
-    const auto isSame = [](const Place& a, const Place& b) { return a.handle == b.handle; };
-    const auto added = places_.begin() + static_cast<std::ptrdiff_t>(sorted_);
-    std::stable_sort(added, places_.end(), isLess);
-    std::inplace_merge(places_.begin(), added, places_.end(), isLess);
-    places_.erase(std::unique(places_.begin(), places_.end(), isSame), places_.end());
-    sorted_ = places_.size();
-    found_ = 0;
+ObjectEntry* HandleIndex::find(std::uint64_t handle) {
+    ObjectEntry* found = findRising(handle);
+    return found != nullptr ? found : findOther(handle);
 }
 
 std::size_t HandleIndex::placeOf(std::uint64_t handle) const {
     // Steps grow from the place found last, and the search is among what the last one passed over.
     std::size_t begin = 0;
     std::size_t end = found_;
-    if (places_[found_].handle <= handle) {
+    if (rising_[found_].handle <= handle) {
         begin = found_;
         end = found_ + 1;
-        while (end < places_.size() && places_[end].handle <= handle) {
+        while (end < rising_.size() && rising_[end].handle <= handle) {
             const std::size_t step = 2 * (end - begin);
             begin = end;
             end += step;
         }
-        end = std::min(end, places_.size());
+        end = std::min(end, rising_.size());
     }
     while (end - begin > 1) {
         const std::size_t middle = begin + (end - begin) / 2;
-        (places_[middle].handle <= handle ? begin : end) = middle;
+        (rising_[middle].handle <= handle ? begin : end) = middle;
     }
     return begin;
 }
 
-ObjectEntry* HandleIndex::find(std::uint64_t handle) {
-    if (sorted_ < places_.size())
-        sort();
-    if (places_.empty())
+ObjectEntry* HandleIndex::findRising(std::uint64_t handle) {
+    if (rising_.empty())
         return nullptr;
     found_ = placeOf(handle);
-    const Place& place = places_[found_];
+    const Place& place = rising_[found_];
     return place.handle == handle ? place.entry : nullptr;
+}
+
+ObjectEntry* HandleIndex::findOther(std::uint64_t handle) {
+    const auto isLess = [](const Place& a, const Place& b) { return a.handle < b.handle; };
+    if (sortedOthers_ < others_.size()) {
+        const auto added = others_.begin() + static_cast<std::ptrdiff_t>(sortedOthers_);
+        std::stable_sort(added, others_.end(), isLess);
+        std::inplace_merge(others_.begin(), added, others_.end(), isLess);
+        sortedOthers_ = others_.size();
+    }
+    const auto place = std::lower_bound(others_.begin(), others_.end(), Place{handle, nullptr}, isLess);
+    return place != others_.end() && place->handle == handle ? place->entry : nullptr;
 }
 
 } // namespace quor::db

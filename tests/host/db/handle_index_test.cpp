@@ -48,9 +48,11 @@ TEST_F(HandleIndexTest, KeepsTheFirstOfTwoWithOneHandle) {
     const ObjectEntry& first = add(5);
     add(5);
     EXPECT_EQ(index.find(5), &first);
+    const ObjectEntry& firstBelow = add(2);
     add(2);
     add(5);
     EXPECT_EQ(index.find(5), &first);
+    EXPECT_EQ(index.find(2), &firstBelow);
 }
 
 TEST_F(HandleIndexTest, LeavesOutWhatHasNoHandle) {
