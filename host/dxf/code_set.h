@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
+#include <cstddef>
 #include <initializer_list>
 
 namespace quor::dxf {
@@ -15,27 +15,22 @@ public:
 
     constexpr CodeSet(std::initializer_list<int> codes) {
         for (const int code : codes)
-            add(static_cast<unsigned>(code));
-        add(kFirstExtendedData);
+            holds_[static_cast<std::size_t>(code)] = true;
+        holds_.back() = true;
     }
     [[nodiscard]] static constexpr CodeSet all() {
         CodeSet set({});
-        set.bits_.fill(~std::uint64_t{0});
+        set.holds_.fill(true);
         return set;
     }
 
     // Also true of negative codes, which no record has.
     [[nodiscard]] constexpr bool contains(int code) const {
-        const unsigned bit = std::min(static_cast<unsigned>(code), unsigned{kFirstExtendedData});
-        return (bits_[bit / kWordBits] >> (bit % kWordBits) & 1) != 0;
+        return holds_[std::min(static_cast<std::size_t>(static_cast<unsigned>(code)), holds_.size() - 1)];
     }
 
 private:
-    static constexpr unsigned kWordBits = 64;
-
-    constexpr void add(unsigned bit) { bits_[bit / kWordBits] |= std::uint64_t{1} << (bit % kWordBits); }
-
-    std::array<std::uint64_t, kFirstExtendedData / kWordBits + 1> bits_{};
+    std::array<bool, kFirstExtendedData + 1> holds_{};
 };
 
 } // namespace quor::dxf

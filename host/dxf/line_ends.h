@@ -22,7 +22,7 @@ public:
             block_ += kBlock;
             mask_ = lineFeedsFrom(block_);
         }
-        const std::size_t at = block_ + static_cast<std::size_t>(std::countr_zero(mask_));
+        const std::size_t at = block_ + static_cast<unsigned>(std::countr_zero(mask_));
         mask_ &= mask_ - 1;
         return at;
     }

@@ -52,16 +52,19 @@ bool TagReader::nextAscii(Tag& tag, const CodeSet& wanted) {
     LineEnds ends = ends_;
     std::size_t at = at_;
     while (at < end) {
-        const std::size_t codeEnd = std::min(ends.next(), end);
-        const int code = codeAt(file, at, codeEnd);
-        if (code == kBadCode || codeEnd + 1 >= end) {
+        const std::size_t codeEnd = ends.next();
+        if (codeEnd + 1 >= end) {
             break;
         }
-        const std::size_t valueEnd = std::min(ends.next(), end);
+        const int code = codeAt(file, at, codeEnd);
+        if (code == kBadCode) {
+            break;
+        }
+        const std::size_t valueEnd = ends.next();
         const std::size_t tagEnd = std::min(valueEnd + 1, end);
         if (wanted.contains(code)) {
             tag.code = code;
-            tag.raw = lineBody(file, codeEnd + 1, valueEnd);
+            tag.raw = lineBody(file, codeEnd + 1, std::min(valueEnd, end));
             tag.begin = at;
             tag.end = tagEnd;
             tag.form = form_;
