@@ -18,6 +18,7 @@ namespace {
 struct EntityKind {
     std::string_view type;
     std::unique_ptr<ZrDbObject> (*make)();
+    ZrRxClass* (*desc)();
     std::span<const FieldGroup> (*groups)();
 };
 
@@ -26,9 +27,14 @@ std::unique_ptr<ZrDbObject> make() {
     return std::make_unique<T>();
 }
 
+template <class T>
+constexpr EntityKind kind(std::string_view type, std::span<const FieldGroup> (*groups)()) {
+    return {type, make<T>, T::desc, groups};
+}
+
 constexpr std::array kEntityKinds{
-    EntityKind{"LIGHT", make<ZrDbLight>, lightGroups}, EntityKind{"LINE", make<ZrDbLine>, lineGroups},
-    EntityKind{"3DFACE", make<ZrDbFace>, faceGroups}, EntityKind{"", make<RawEntity>, entityGroups}, // everything else
+    kind<ZrDbLight>("LIGHT", lightGroups), kind<ZrDbLine>("LINE", lineGroups), kind<ZrDbFace>("3DFACE", faceGroups),
+    kind<RawEntity>("", entityGroups), // everything else
 };
 
 const EntityKind& entityKind(std::string_view type) {
@@ -108,6 +114,10 @@ std::unique_ptr<ZrDbObjectData> readData(Database& database, const ObjectEntry& 
     std::unique_ptr<ZrDbObjectData> data = std::move(kind.make()->hostData());
     readEntity(database, entry, kind, *data);
     return data;
+}
+
+ZrRxClass* entityClass(const Database& database, const ObjectEntry& entry) {
+    return entityKind(database.file().typeName(entry.type)).desc();
 }
 
 std::unique_ptr<ZrDbObject> readObject(Database& database, ObjectEntry& entry) {

@@ -18,6 +18,9 @@ struct FieldGroup;
 // The object of an entry, its values read from its record where it has one.
 [[nodiscard]] std::unique_ptr<ZrDbObject> readObject(Database& database, ObjectEntry& entry);
 
+// The class of which an entity of the file is, or will be when it is made.
+[[nodiscard]] ZrRxClass* entityClass(const Database& database, const ObjectEntry& entry);
+
 // The values of an entity, a light or a layer as they stand in the file.
 [[nodiscard]] std::unique_ptr<ZrDbObjectData> readData(Database& database, const ObjectEntry& entry);
 
