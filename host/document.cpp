@@ -2,6 +2,7 @@
 
 #include "host/db/ref_edit.h"
 #include "host/ed/command_processor.h"
+#include "host/ed/selection_change.h"
 #include "host/session.h"
 #include "host/sys/utf8.h"
 #include "host/texts/input.h"
@@ -22,6 +23,16 @@ void addOnce(std::vector<Listener*>& listeners, Listener* listener) {
 template <class Listener>
 void drop(std::vector<Listener*>& listeners, Listener* listener) {
     listeners.erase(std::remove(listeners.begin(), listeners.end(), listener), listeners.end());
+}
+
+bool hasSelection(const Document* document) { return document != nullptr && !document->impliedSelection.empty(); }
+
+// Each drawing has a pick-first selection of its own.
+void sayCurrent(const DocumentManager& documents, bool somethingWasSelected) {
+    Document* const current = documents.current();
+    documents.tell([&](ZrApDocumentReactor& listener) { listener.documentBecameCurrent(current); });
+    if (somethingWasSelected || hasSelection(documents.current()))
+        ed::tellSelectionChanged(documents);
 }
 
 } // namespace
@@ -84,11 +95,12 @@ void DocumentManager::sayDeactivated() const {
 
 Document& DocumentManager::add(std::unique_ptr<Document> document) {
     sayDeactivated();
+    const bool somethingWasSelected = hasSelection(current_);
     Document& added = *documents_.emplace_back(std::move(document));
     // Code that is told of it finds it as the working drawing.
     current_ = &added;
     tell([&](ZrApDocumentReactor& listener) { listener.documentCreated(added); });
-    tell([&](ZrApDocumentReactor& listener) { listener.documentBecameCurrent(&added); });
+    sayCurrent(*this, somethingWasSelected);
     return added;
 }
 
@@ -96,8 +108,9 @@ void DocumentManager::setCurrent(Document* document) {
     if (document == current_)
         return;
     sayDeactivated();
+    const bool somethingWasSelected = hasSelection(current_);
     current_ = document;
-    tell([&](ZrApDocumentReactor& listener) { listener.documentBecameCurrent(document); });
+    sayCurrent(*this, somethingWasSelected);
 }
 
 void DocumentManager::close(Document& document) {
@@ -112,7 +125,7 @@ void DocumentManager::close(Document& document) {
     if (current_ != closed.get())
         return;
     current_ = documents_.empty() ? nullptr : documents_.back().get();
-    tell([&](ZrApDocumentReactor& listener) { listener.documentBecameCurrent(current_); });
+    sayCurrent(*this, hasSelection(closed.get()));
 }
 
 ZrApDocument* DocumentManager::curDocument() const { return current_; }

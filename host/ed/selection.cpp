@@ -2,6 +2,7 @@
 
 #include "host/document.h"
 #include "host/ed/id_set.h"
+#include "host/ed/selection_change.h"
 #include "host/session.h"
 
 #include <algorithm>
@@ -28,6 +29,15 @@ ZrDbObjectIdArray usable(const ZrDbObjectIdArray& ids, const Document& document)
 
 } // namespace
 
+void quor::ed::tellSelectionChanged(const DocumentManager& documents) {
+    const std::vector<ZrEdSelectionReactor*> listeners = documents.selectionReactors();
+    for (ZrEdSelectionReactor* const listener : listeners) {
+        const std::vector<ZrEdSelectionReactor*>& present = documents.selectionReactors();
+        if (std::find(present.begin(), present.end(), listener) != present.end())
+            listener->impliedSelectionChanged();
+    }
+}
+
 ZrDbObjectIdArray zredImpliedSelection() {
     const Document* const document = currentDocument();
     if (document == nullptr)
@@ -47,11 +57,7 @@ void zredSetImpliedSelection(const ZrDbObjectIdArray& ids) {
     if (wanted == document->impliedSelection)
         return;
     document->impliedSelection = std::move(wanted);
-    const std::vector<ZrEdSelectionReactor*>& present = Session::current().documents().selectionReactors();
-    const std::vector<ZrEdSelectionReactor*> listeners = present;
-    for (ZrEdSelectionReactor* listener : listeners)
-        if (std::find(present.begin(), present.end(), listener) != present.end())
-            listener->impliedSelectionChanged();
+    quor::ed::tellSelectionChanged(Session::current().documents());
 }
 
 void zredAddSelectionReactor(ZrEdSelectionReactor* reactor) {

@@ -52,10 +52,46 @@ TEST_F(LightListDocuments, ClosingTheCurrentDrawingShowsTheNextOne) {
     EXPECT_EQ(names(), Names{L"First drawing"});
 }
 
+// Each drawing has a selection of its own.
+
+TEST_F(LightListDocuments, TheLightsThatAreSelectedInADrawingAreSelectedWhenItIsCurrentAgain) {
+    make(L"Second light");
+    click(0);
+    documents().newDocument();
+    EXPECT_TRUE(selectedInDrawing().empty());
+
+    backToFirst();
+
+    EXPECT_EQ(selectedInDrawing().size(), 1U);
+    EXPECT_EQ(selectedNames(), Names{L"First drawing"});
+}
+
+TEST_F(LightListDocuments, AClickWithCtrlAddsToWhatWasSelectedBeforeTheDrawingWasLeft) {
+    make(L"Second light");
+    click(0);
+    documents().newDocument();
+    backToFirst();
+
+    click(1, MK_CONTROL);
+
+    EXPECT_EQ(selectedInDrawing().size(), 2U);
+}
+
 TEST_F(LightListDocuments, WithoutADrawingTheListIsEmpty) {
     documents().close(*documents().current());
 
     EXPECT_TRUE(names().empty());
+}
+
+TEST_F(LightListDocuments, WithoutADrawingTheOrderOfTheRowsStays) {
+    clickHeading(0);
+    documents().close(*documents().current());
+
+    show();
+
+    EXPECT_EQ(light::rowOrder.column, 0);
+    EXPECT_TRUE(light::rowOrder.ascending[0]);
+    EXPECT_TRUE(light::rowOrder.ascending[1]);
 }
 
 TEST_F(LightListDocuments, WithoutADrawingWhatAPersonDoesIsHarmless) {
