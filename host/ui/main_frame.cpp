@@ -8,13 +8,14 @@
 #include <utility>
 
 void CZrMainFrame::ShowControlBar(CControlBar* bar, bool show, bool delay) {
-    if (bar == nullptr || (!bar->IsWindow() && (!show || !make(*bar))))
+    if (bar == nullptr || (!bar->IsWindow() && (!show || !bar->createWindow(*this))))
         return;
     known(*bar).broughtToView = show;
+    // Who is told of it may show and hide bars too, and take this one away.
+    const quor::ui::WindowRef window(bar);
     if (show && !delay)
         place(*bar);
-    // What is told of it may show and hide bars too.
-    if (bar->ShowWindow(show) != show)
+    if (window && bar->ShowWindow(show) != show && window)
         bar->visibilityChanged(show);
     quor::Session& session = quor::Session::current();
     if (!session.processor().isRunning())
@@ -34,15 +35,6 @@ CControlBar* CZrMainFrame::takeBroughtToView() {
     return nullptr;
 }
 
-bool CZrMainFrame::make(CControlBar& bar) {
-    try {
-        return bar.createWindow(*this);
-    } catch (...) {
-        bar.DestroyWindow();
-        throw;
-    }
-}
-
 CZrMainFrame::Bar& CZrMainFrame::known(CControlBar& bar) {
     std::erase_if(bars_, [](const Bar& each) { return !each.exists(); });
     const auto at = std::find_if(bars_.begin(), bars_.end(), [&](const Bar& each) { return each.bar == &bar; });
@@ -53,8 +45,10 @@ void CZrMainFrame::place(CControlBar& bar) {
     auto* const floating = dynamic_cast<CZkUiDockControlBar*>(&bar);
     if (floating == nullptr)
         return;
+    const quor::ui::WindowRef window(floating);
     floating->MoveWindow(floating->floatingPlace());
-    floating->layOut(floating->GetClientRect());
+    if (window)
+        floating->layOut(floating->GetClientRect());
 }
 
 CZrMainFrame* zredGetQuorFrame() {

@@ -3,6 +3,7 @@
 #include "host/session.h"
 #include "host/ui/resource_lookup.h"
 #include "sdk/ui/window.h"
+#include "sdk/ui/window_ref.h"
 
 bool CMenu::LoadMenu(unsigned id) {
     DestroyMenu();
@@ -71,9 +72,10 @@ bool CMenu::DeleteMenu(int position) {
 bool CMenu::TrackPopupMenu(CPoint screen, CWnd& owner) const {
     if (entries_.empty() || !quor::Session::exists())
         return false;
+    const quor::ui::WindowRef window(&owner);
     const unsigned chosen = quor::Session::current().front().trackMenu(*this, screen);
-    if (find(chosen) == nullptr)
+    if (find(chosen) == nullptr || !window)
         return false;
-    owner.SendMessage(WM_COMMAND, chosen);
+    window->SendMessage(WM_COMMAND, chosen);
     return true;
 }

@@ -28,31 +28,35 @@ bool CWnd::Create(const Creation& creation) {
     text_ = creation.text;
     if (parent_ != nullptr)
         parent_->children_.push_back(this);
-    PreSubclassWindow();
-    if (!OnCreate()) {
-        destroyChildren();
-        dropWindow();
-    }
-    if (!exists_)
-        return false;
-    announce();
-    return true;
-}
-
-// Those who show windows have a new one. What they throw comes through, and there is no window.
-void CWnd::announce() {
-    if (parent_ != nullptr) {
-        parent_->tellPeer(WindowPeer::Change::Content);
-        return;
-    }
-    if (!quor::Session::exists())
-        return;
+    // Whoever is told of the new window may take it away, with its object.
+    const WindowRef made(this);
     try {
-        quor::Session::current().front().realise(*this);
+        PreSubclassWindow();
+        if (OnCreate())
+            announce(made);
+        else if (made.get() == this)
+            refuse();
     } catch (...) {
-        DestroyWindow();
+        if (made.get() == this)
+            DestroyWindow();
         throw;
     }
+    return made.get() == this;
+}
+
+// Those who show windows have a new one, if it is still there.
+void CWnd::announce(const WindowRef& made) {
+    if (made.get() != this)
+        return;
+    if (parent_ != nullptr)
+        parent_->tellPeer(WindowPeer::Change::Content);
+    else if (quor::Session::exists())
+        quor::Session::current().front().realise(*this);
+}
+
+void CWnd::refuse() {
+    destroyChildren();
+    dropWindow();
 }
 
 bool CWnd::SubclassWindow(CWnd& other) {
@@ -142,8 +146,10 @@ void CWnd::SetWindowText(const ZrString& text) {
     if (!exists_ || text == text_)
         return;
     text_ = text;
+    const WindowRef self(this);
     Invalidate();
-    tellPeer(WindowPeer::Change::Text);
+    if (self)
+        tellPeer(WindowPeer::Change::Text);
 }
 
 bool CWnd::ModifyStyle(unsigned remove, unsigned add) {
@@ -172,10 +178,12 @@ void CWnd::MoveWindow(const CRect& rect, bool repaint) {
         return;
     const bool resized = rect.Size() != rect_.Size();
     rect_ = rect;
+    const WindowRef self(this);
     if (repaint)
         Invalidate();
-    tellPeer(WindowPeer::Change::Place);
-    if (resized)
+    if (self)
+        tellPeer(WindowPeer::Change::Place);
+    if (resized && self)
         OnSize(rect.Width(), rect.Height());
 }
 
@@ -200,12 +208,15 @@ bool CWnd::ShowWindow(bool show) {
     if (!exists_ || show == before)
         return before;
     style_ ^= WS_VISIBLE;
+    const WindowRef self(this);
     if (show)
         Invalidate();
     else
         loseFocus();
-    tellPeer(WindowPeer::Change::Visibility);
-    OnShowWindow(show);
+    if (self)
+        tellPeer(WindowPeer::Change::Visibility);
+    if (self)
+        OnShowWindow(show);
     return before;
 }
 
@@ -221,11 +232,14 @@ bool CWnd::EnableWindow(bool enable) {
     if (!exists_ || enable != wasDisabled)
         return wasDisabled;
     style_ ^= WS_DISABLED;
+    const WindowRef self(this);
     Invalidate();
-    if (!enable)
+    if (!enable && self)
         loseFocus();
-    tellPeer(WindowPeer::Change::Enabled);
-    OnEnable(enable);
+    if (self)
+        tellPeer(WindowPeer::Change::Enabled);
+    if (self)
+        OnEnable(enable);
     return wasDisabled;
 }
 
@@ -251,8 +265,10 @@ void CWnd::Invalidate() {
 }
 
 void CWnd::contentChanged() {
+    const WindowRef self(this);
     Invalidate();
-    tellPeer(WindowPeer::Change::Content);
+    if (self)
+        tellPeer(WindowPeer::Change::Content);
 }
 
 void CWnd::tellPeer(WindowPeer::Change change) {

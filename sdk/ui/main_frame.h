@@ -26,8 +26,6 @@ private:
         [[nodiscard]] bool exists() const { return window.get() == bar; }
     };
 
-    // False when it stays without a window.
-    bool make(CControlBar& bar);
     [[nodiscard]] Bar& known(CControlBar& bar);
     static void place(CControlBar& bar);
 

@@ -30,6 +30,8 @@ inline constexpr std::uintptr_t ICON_BIG = 1;
 
 namespace quor::ui {
 
+class WindowRef;
+
 // What a program attaches to a window to show it. Told after each change.
 class WindowPeer {
 public:
@@ -75,8 +77,9 @@ public:
     CWnd& operator=(const CWnd&) = delete;
 
     // Makes the window of this object: PreSubclassWindow(), then OnCreate(). False when it has one already or the
-    // parent has none; false, and no window, when OnCreate() refuses. Without a parent the program that runs may show
-    // it: what that throws comes through, and there is no window.
+    // parent has none; false, and no window, when OnCreate() refuses, or when it is gone again once it was announced.
+    // Without a parent the program that runs may show it. What is thrown on the way comes through, and there is no
+    // window.
     bool Create(const Creation& creation);
     // Takes the place of another window: its text, rectangle, styles, number, children, its place among its siblings,
     // and what the control holds, with its peer and the keyboard. The other object has no window afterwards. Then calls
@@ -198,7 +201,8 @@ protected:
     void contentChanged();
 
 private:
-    void announce();
+    void announce(const quor::ui::WindowRef& made);
+    void refuse();
     void destroyChildren();
     void dropWindow();
     void leaveParent();

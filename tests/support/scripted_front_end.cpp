@@ -112,9 +112,12 @@ void ScriptedFrontEnd::realise(CWnd& window) {
 
 void ScriptedFrontEnd::paletteShown(const CZkUiPaletteSet& palette) { print(ui::paletteText(palette, columns())); }
 
-unsigned ScriptedFrontEnd::trackMenu(const CMenu& menu, CPoint /*screen*/) {
+unsigned ScriptedFrontEnd::trackMenu(const CMenu& menu, CPoint screen) {
     lastMenu_.clear();
     addMenuLines(menu, {}, lastMenu_);
+    lastMenuPlace_ = screen;
+    if (whenMenuShown_)
+        whenMenuShown_();
     return takeFirst(menuAnswers_).value_or(0);
 }
 

@@ -27,6 +27,8 @@ public:
     void choose(std::optional<ZrString> file) { files_.push_back(std::move(file)); }
     // The command that is chosen in the next menu; without one nothing is chosen.
     void chooseMenu(unsigned command) { menuAnswers_.push_back(command); }
+    // Done while a menu is shown, before the person chooses.
+    void whenMenuShown(std::function<void()> action) { whenMenuShown_ = std::move(action); }
     // Done to each window at the top when it is made; may throw, as a program that cannot show it.
     void whenRealised(std::function<void(CWnd&)> action) { whenRealised_ = std::move(action); }
 
@@ -46,6 +48,8 @@ public:
     // The menu that was shown last, a line for each entry: "[x] " before those that are checked, those of submenus
     // indented, "---" for a separator.
     [[nodiscard]] const std::vector<ZrString>& lastMenu() const { return lastMenu_; }
+    // Where it was, on the screen.
+    [[nodiscard]] CPoint lastMenuPlace() const { return lastMenuPlace_; }
     // The windows at the top that were made, in their order; they may be gone.
     [[nodiscard]] const std::vector<CWnd*>& realised() const { return realised_; }
     // How often something that is shown had changed.
@@ -81,6 +85,8 @@ private:
     std::deque<std::optional<ZrString>> files_;
     std::deque<unsigned> menuAnswers_;
     std::vector<ZrString> lastMenu_;
+    CPoint lastMenuPlace_;
+    std::function<void()> whenMenuShown_;
     std::vector<CWnd*> realised_;
     std::function<void(CWnd&)> whenRealised_;
     ZrString screen_;

@@ -91,6 +91,21 @@ TEST_F(TheMainFrame, PassesOnWhatTheProgramThrowsAndTriesAgain) {
     EXPECT_EQ(log_, (Log{"laid out 208 x 438", "shown"}));
 }
 
+TEST_F(TheMainFrame, GoesOnWithoutABarThatIsGoneOnceItsWindowIsMade) {
+    front().whenRealised([&](CWnd&) { palettes().ReleasePaletteSet(palette_); });
+    show();
+    frame().RecalcLayout();
+    EXPECT_TRUE(palettes().palettes().empty());
+    EXPECT_EQ(frame().takeBroughtToView(), nullptr);
+}
+
+TEST_F(TheMainFrame, GoesOnWithoutABarThatIsGoneOnceItIsLaidOut) {
+    palette_->whenTold = [&] { palettes().ReleasePaletteSet(palette_); };
+    show();
+    EXPECT_TRUE(palettes().palettes().empty());
+    EXPECT_EQ(log_, (Log{"laid out 208 x 438", "window destroyed"}));
+}
+
 TEST_F(TheMainFrame, PutsTheShownBarsInTheirPlaces) {
     LoggingPalette& hidden = append(L"Others", "hidden");
     frame().ShowControlBar(&hidden, true, false);

@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <memory>
+
 using namespace quor;
 using ui::MenuEntry;
 using ui::MenuTemplate;
@@ -106,10 +109,13 @@ public:
     unsigned trackMenu(const CMenu& menu, CPoint screen) override {
         shown = menu.GetMenuItemCount();
         at = screen;
+        if (whenShown)
+            whenShown();
         return chosen_;
     }
     int shown = -1; // how many entries
     CPoint at;
+    std::function<void()> whenShown;
 
 private:
     unsigned chosen_;
@@ -135,14 +141,16 @@ protected:
                                 .resourceFolder = {},
                                 .moduleFolders = {},
                                 .language = L"zh"});
-        const bool result = popup().TrackPopupMenu({30, 40}, owner_);
+        front.whenShown = whenShown_;
+        const bool result = popup().TrackPopupMenu({30, 40}, *owner_);
         shown_ = front.shown;
         at_ = front.at;
         return result;
     }
 
     test::TemporaryFolder folder_;
-    Owner owner_;
+    std::unique_ptr<Owner> owner_ = std::make_unique<Owner>();
+    std::function<void()> whenShown_;
     int shown_ = -1;
     CPoint at_;
 };
@@ -152,17 +160,23 @@ TEST_F(ShownMenu, IsShownAtThePointAndSendsTheChosenCommandToItsOwner) {
 
     EXPECT_EQ(shown_, 3);
     EXPECT_EQ(at_, (CPoint{30, 40}));
-    EXPECT_EQ(owner_.commands, std::vector<unsigned>{22});
+    EXPECT_EQ(owner_->commands, std::vector<unsigned>{22});
+}
+
+TEST_F(ShownMenu, SendsNothingToAnOwnerThatIsGoneMeanwhile) {
+    whenShown_ = [this] { owner_.reset(); };
+
+    EXPECT_FALSE(track(22));
 }
 
 TEST_F(ShownMenu, SendsNothingWhenNothingIsChosen) {
     EXPECT_FALSE(track(0));
-    EXPECT_TRUE(owner_.commands.empty());
+    EXPECT_TRUE(owner_->commands.empty());
 }
 
 TEST_F(ShownMenu, SendsNoCommandThatItDoesNotHave) {
     EXPECT_FALSE(track(99));
-    EXPECT_TRUE(owner_.commands.empty());
+    EXPECT_TRUE(owner_->commands.empty());
 }
 
 TEST_F(ShownMenu, WithoutEntriesIsNotShown) {
@@ -170,12 +184,12 @@ TEST_F(ShownMenu, WithoutEntriesIsNotShown) {
 
     EXPECT_FALSE(track(11));
     EXPECT_EQ(shown_, -1);
-    EXPECT_TRUE(owner_.commands.empty());
+    EXPECT_TRUE(owner_->commands.empty());
 }
 
 TEST_F(ShownMenu, IsNotShownWhileNoHostIsRunning) {
-    EXPECT_FALSE(popup().TrackPopupMenu({30, 40}, owner_));
-    EXPECT_TRUE(owner_.commands.empty());
+    EXPECT_FALSE(popup().TrackPopupMenu({30, 40}, *owner_));
+    EXPECT_TRUE(owner_->commands.empty());
 }
 
 } // namespace
