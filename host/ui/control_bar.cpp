@@ -11,8 +11,7 @@ void CZkUiDockControlBar::SetFloatingRect(const CRect& rect) {
 void CZkUiDockControlBar::OnSize(int width, int height) { layOut({0, 0, width, height}); }
 
 CRect CZkUiDockControlBar::floatingPlace() const {
-    CSize least;
-    GetMinSize(least);
+    const CSize least = smallestSize();
     const int width = std::max({floating_.Width(), least.cx, 0});
     const int height = std::max({floating_.Height(), least.cy, 0});
     return {floating_.left, floating_.top, floating_.left + width, floating_.top + height};

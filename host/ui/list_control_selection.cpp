@@ -57,6 +57,14 @@ bool CListCtrl::select(unsigned id, bool select) {
     return true;
 }
 
+void CListCtrl::selectOnly(const std::vector<unsigned>& ids) {
+    rows_->selectAll(false);
+    for (const unsigned id : ids)
+        if (rows_->has(id))
+            selectRow(id, true);
+    contentChanged();
+}
+
 void CListCtrl::selectRow(unsigned id, bool select) {
     if (select && isSingleSelection())
         rows_->selectAll(false);

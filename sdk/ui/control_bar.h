@@ -11,7 +11,8 @@ public:
 
 protected:
     friend class CZrMainFrame;
-    // Makes its window, hidden, when it is shown for the first time.
+    // Makes its window, hidden, when it is shown for the first time. False when there is none; the bar may be gone
+    // then.
     virtual bool createWindow(CWnd& frame) = 0;
     // Its visibility has really changed.
     virtual void visibilityChanged(bool /*shown*/) {}
@@ -27,9 +28,10 @@ public:
     void SetFloatingRect(const CRect& rect);
     // Width and height below which it cannot be made; none at first.
     void SetMinSize(const CSize& size) { minSize_ = size; }
-    virtual void GetMinSize(CSize& size) const { size = minSize_; }
 
 protected:
+    // What the frame goes by.
+    [[nodiscard]] virtual CSize smallestSize() const { return minSize_; }
     // Lays out what is inside; called when the frame recalculates its layout and when the size has changed.
     virtual void layOut(const CRect& /*client*/) {}
     void OnSize(int width, int height) override;

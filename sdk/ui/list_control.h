@@ -100,6 +100,8 @@ public:
     void SelectAll(bool select);
     [[nodiscard]] bool isSelected(unsigned id) const;
     bool select(unsigned id, bool select);
+    // Exactly these rows, as one change.
+    void selectOnly(const std::vector<unsigned>& ids);
     // From where Shift extends a selection; -1 for none. Set answers what it was.
     [[nodiscard]] int GetSelectionMark() const;
     int SetSelectionMark(int index);

@@ -72,7 +72,14 @@ public:
     virtual void paletteShownChanged(bool /*shown*/) {}
     // Whether the person can see it.
     [[nodiscard]] virtual bool IsWindowVisibleEx() const { return IsVisible() && IsWindowVisible(); }
+    // Below which it cannot be made; what SetMinSize() was given.
+    virtual void GetMinSize(CSize& size) const { size = CZkUiPaletteSet::smallestSize(); }
 
 protected:
+    [[nodiscard]] CSize smallestSize() const final {
+        CSize size;
+        GetMinSize(size);
+        return size;
+    }
     void visibilityChanged(bool shown) override { paletteShownChanged(shown); }
 };
