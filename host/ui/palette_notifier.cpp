@@ -1,11 +1,13 @@
 #include "host/ui/palette_notifier.h"
 
 #include "host/document.h"
+#include "host/ed/command_processor.h"
 #include "host/session.h"
 #include "host/sys/system_variables.h"
 #include "host/ui/acting.h"
 #include "host/ui/user_interface.h"
 #include "sdk/db/light.h"
+#include "sdk/ed/selection.h"
 #include "sdk/ui/palette_set_manager.h"
 
 #include <utility>
@@ -15,6 +17,7 @@ namespace quor::ui {
 namespace {
 
 constexpr std::wstring_view kThemeVariable = L"COLORTHEME";
+constexpr std::wstring_view kEditedBlockVariable = L"REFEDITNAME";
 
 void invalidateAll(CWnd& window) {
     window.Invalidate();
@@ -82,9 +85,24 @@ void PaletteNotifier::objectErased(const ZrDbDatabase& database, const ZrDbObjec
     tellOfLight(&CZrRxPaletteSet::lightChangedNow, database, object);
 }
 
-void PaletteNotifier::headerSysVarChanged(const ZrDbDatabase& /*database*/, const wchar_t* name) {
+void PaletteNotifier::headerSysVarChanged(const ZrDbDatabase& database, const wchar_t* name) {
     toldByDrawing_ = name;
     forEachPalette([&](CZrRxPaletteSet& palette) { palette.sysVarChanged(name); });
+    if (name == kEditedBlockVariable && &database == zrdbWorkingDatabase())
+        objectsInPlayChanged();
+}
+
+void PaletteNotifier::objectsInPlayChanged() {
+    if (session_.processor().isRunning())
+        otherObjectsInPlay_ = true;
+    else
+        tellOfCurrentDocument();
+}
+
+void PaletteNotifier::tellOfCurrentDocument() {
+    documentBecameCurrent(session_.documents().current());
+    if (!zredImpliedSelection().empty())
+        impliedSelectionChanged();
 }
 
 void PaletteNotifier::variableSet(const ZrString& name) {
@@ -108,6 +126,7 @@ void PaletteNotifier::followTheme() {
 void PaletteNotifier::documentCreated(ZrApDocument& document) { document.database()->addReactor(this); }
 
 void PaletteNotifier::documentBecameCurrent(ZrApDocument* document) {
+    otherObjectsInPlay_ = false;
     forEachPalette([&](CZrRxPaletteSet& palette) { palette.documentBecameCurrent(document); });
 }
 
@@ -129,6 +148,8 @@ void PaletteNotifier::commandEnded(const ZrString& /*globalName*/) { commandFini
 void PaletteNotifier::commandCancelled(const ZrString& /*globalName*/) { commandFinished(); }
 
 void PaletteNotifier::commandFinished() {
+    if (otherObjectsInPlay_)
+        tellOfCurrentDocument();
     forEachPalette([](CZrRxPaletteSet& palette) { palette.commandFinished(); });
     ui_.settle();
 }

@@ -51,6 +51,9 @@ private:
     void tellOfLight(ObjectSlot slot, const ZrDbDatabase& database, const ZrDbObject& object);
     void commandFinished();
     void variableSet(const ZrString& name);
+    // Editing a block in place has begun or ended: other objects count in the current drawing.
+    void objectsInPlayChanged();
+    void tellOfCurrentDocument();
     // In the colours of another theme, every palette looks different, its icon too.
     void followTheme();
 
@@ -60,6 +63,8 @@ private:
     bool isDark_;
     // The header variable of which the palettes have just been told by the drawing: who set it tells it again.
     ZrString toldByDrawing_;
+    // Told at the end of the command, when all of them are there.
+    bool otherObjectsInPlay_ = false;
 };
 
 } // namespace quor::ui

@@ -46,6 +46,9 @@ protected:
         test_.run(lines);
         return std::exchange(log_, {});
     }
+    static void sayThatABlockIsEdited(Document& document) {
+        document.drawing().journal().settingChanged(L"REFEDITNAME", [] {});
+    }
     sys::SystemVariables& variables() { return test_.session().variables(); }
 
     ZrDbObjectId light_;
@@ -154,6 +157,55 @@ TEST_F(ThePalette, IsToldOfAVariableThatUndoGivesBack) {
 TEST_F(ThePalette, IsToldThatTheSelectionChanged) {
     zredSetImpliedSelection({addLight()});
     EXPECT_EQ(log_, (Log{"appended Lamp", "selection"}));
+}
+
+TEST_F(ThePalette, IsToldOfTheSelectionOfTheDrawingThatBecomesCurrent) {
+    Document& first = test_.document();
+    zredSetImpliedSelection({addLight()});
+    log_.clear();
+    test_.session().documents().newDocument();
+    EXPECT_EQ(std::exchange(log_, {}), (Log{"to be deactivated Drawing1", "current Drawing2", "selection"}));
+    test_.session().documents().setCurrent(&first);
+    EXPECT_EQ(std::exchange(log_, {}), (Log{"to be deactivated Drawing2", "current Drawing1", "selection"}));
+    test_.session().documents().close(first);
+    EXPECT_EQ(log_, (Log{"to be deactivated Drawing1", "to be destroyed Drawing1", "current Drawing2", "selection"}));
+}
+
+// Editing a block in place: what is current is another set of objects.
+
+TEST_F(ThePalette, IsToldThatOtherObjectsAreCurrentAtTheEndOfTheCommand) {
+    test_.addCommand(L"EDIT", [this] {
+        sayThatABlockIsEdited(test_.document());
+        addLight();
+        return RTNORM;
+    });
+    EXPECT_EQ(toldBy({L"EDIT"}),
+              (Log{"command starts", "variable REFEDITNAME", "appended Lamp", "current Drawing1", "command finished"}));
+    EXPECT_EQ(toldBy({L"U"}), (Log{"command starts", "gone Lamp", "undone Lamp", "variable REFEDITNAME",
+                                   "current Drawing1", "command finished"}));
+    EXPECT_EQ(toldBy({L"REDO", L""}), (Log{"command starts", "variable REFEDITNAME", "back Lamp", "redone Lamp",
+                                           "current Drawing1", "command finished"}));
+    EXPECT_EQ(toldBy({L"MAKE"}), (Log{"command starts", "appended Lamp", "command finished"}));
+}
+
+TEST_F(ThePalette, IsToldThatOtherObjectsAreCurrentAtOnceBetweenCommands) {
+    sayThatABlockIsEdited(test_.document());
+    EXPECT_EQ(log_, (Log{"variable REFEDITNAME", "current Drawing1"}));
+}
+
+TEST_F(ThePalette, IsToldOfTheSelectionAmongOtherObjectsToo) {
+    zredSetImpliedSelection({addLight()});
+    log_.clear();
+    sayThatABlockIsEdited(test_.document());
+    EXPECT_EQ(log_, (Log{"variable REFEDITNAME", "current Drawing1", "selection"}));
+}
+
+TEST_F(ThePalette, IsToldNothingOfOtherObjectsInADrawingThatIsNotCurrent) {
+    Document& first = test_.document();
+    test_.session().documents().newDocument();
+    log_.clear();
+    sayThatABlockIsEdited(first);
+    EXPECT_EQ(log_, (Log{"variable REFEDITNAME"}));
 }
 
 TEST_F(ThePalette, IsNotToldOfTheSelectionThatThePersonMakesInIt) {
