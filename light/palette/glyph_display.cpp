@@ -20,11 +20,11 @@ public:
 };
 
 // Changes the light while the document is locked for it; false when the lock was refused.
-bool changeLocked(ZrApDocument& document, ZrDbObjectId id, GlyphDisplay display) {
+bool changeLocked(ZrApDocument& document, const std::function<ZrDbObjectId()>& findLight, GlyphDisplay display) {
     ZrApDocManager& documents = *zrapDocManager();
     if (documents.lockDocument(document) != Quor::eOk)
         return false;
-    if (const ZrDbObjectPointer<ZrDbLight> light(id, ZrDb::kForWrite); light)
+    if (const ZrDbObjectPointer<ZrDbLight> light(findLight(), ZrDb::kForWrite); light)
         light->setGlyphDisplay(display);
     documents.unlockDocument(document);
     return true;
@@ -32,13 +32,13 @@ bool changeLocked(ZrApDocument& document, ZrDbObjectId id, GlyphDisplay display)
 
 } // namespace
 
-void setGlyphDisplay(ZrDbObjectId light, GlyphDisplay display) {
+void setGlyphDisplay(const std::function<ZrDbObjectId()>& findLight, GlyphDisplay display) {
     const ZrApDocManager* const documents = zrapDocManager();
     ZrApDocument* const document = documents != nullptr ? documents->curDocument() : nullptr;
     if (document == nullptr)
         return;
     const AnnouncedOperation announced;
-    if (!changeLocked(*document, light, display))
+    if (!changeLocked(*document, findLight, display))
         return;
     zrapRefreshGraphics(*document);
     zredUpdateDisplay();

@@ -5,6 +5,7 @@
 #include "light/palette/show_light_list.h"
 #include "light/res/ui_resources.h"
 #include "sdk/db/light.h"
+#include "sdk/db/object_class.h"
 #include "sdk/ed/selection_sets.h"
 #include "sdk/sys/ads.h"
 #include "sdk/ui/dpi.h"
@@ -12,9 +13,11 @@
 #include "sdk/ui/menu.h"
 #include "sdk/ui/resource_templates.h"
 #include "sdk/ui/ui_service.h"
+#include "sdk/ui/window_ref.h"
 
 #include <bit>
 #include <new>
+#include <utility>
 
 using quor::light::isListedLight;
 
@@ -29,12 +32,6 @@ constexpr unsigned iconId = 58013;
 constexpr int interfaceResources = 1;
 constexpr std::size_t pendingStep = 8;
 
-// A light itself, not one of a derived class.
-bool isExactlyLight(ZrDbObjectId id) {
-    ZrDbLightSummary light;
-    return zrdbLightSummary(id, light) == Quor::eOk;
-}
-
 // The lights of the pick-first selection, in its order.
 std::vector<ZrDbObjectId> selectedLights(const ZdsName& set) {
     std::vector<ZrDbObjectId> lights;
@@ -45,7 +42,7 @@ std::vector<ZrDbObjectId> selectedLights(const ZdsName& set) {
         ZrDbObjectId id;
         if (zredSSName(set, index, name) != RTNORM || zrdbGetObjectId(id, name) != Quor::eOk)
             continue;
-        if (isExactlyLight(id))
+        if (zrdbObjectClass(id) == ZrDbLight::desc()) // not of a derived class
             lights.push_back(id);
     }
     return lights;
@@ -99,8 +96,10 @@ void CZrLightList::setIcon() {
 }
 
 void CZrLightList::OnRButtonUp(unsigned flags, CPoint point) {
+    const quor::ui::WindowRef self(this);
     showMenu();
-    CZrRxPaletteSet::OnRButtonUp(flags, point);
+    if (self)
+        CZrRxPaletteSet::OnRButtonUp(flags, point);
 }
 
 void CZrLightList::showMenu() {
@@ -224,14 +223,13 @@ void CZrLightList::forgetPending() {
 void CZrLightList::commandFinished() {
     if (listDialog_ == nullptr)
         return;
-    if (!pendingLightIds_.empty()) {
-        for (const ZrDbObjectId id : pendingLightIds_)
-            updateRow(id);
-        pendingLightIds_.clear();
-    } else if (pendingLightId_.isValid()) {
-        updateRow(pendingLightId_);
-        pendingLightId_ = {};
-    }
+    if (pendingLightIds_.empty())
+        return updateRow(std::exchange(pendingLightId_, {}));
+    std::vector<ZrDbObjectId> appended;
+    appended.reserve(pendingStep);
+    appended.swap(pendingLightIds_); // others may come while the rows are shown
+    for (const ZrDbObjectId id : appended)
+        updateRow(id);
 }
 
 void CZrLightList::updateRow(ZrDbObjectId id) {

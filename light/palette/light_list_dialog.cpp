@@ -4,19 +4,20 @@
 #include "light/palette/drawing_selection.h"
 #include "light/palette/glyph_display.h"
 #include "light/palette/row_menu.h"
+#include "light/palette/theme_color.h"
 #include "light/res/load_text.h"
 #include "light/res/ui_resources.h"
 #include "sdk/db/light.h"
 #include "sdk/ed/macro.h"
-#include "sdk/sys/system.h"
 #include "sdk/ui/dpi.h"
 #include "sdk/ui/menu.h"
-#include "sdk/ui/ui_service.h"
+#include "sdk/ui/window_ref.h"
 
 #include <algorithm>
 
 using quor::light::LoadedText;
 using quor::light::texts;
+using quor::light::themeColor;
 
 namespace {
 
@@ -96,7 +97,8 @@ void CZrlightListDlg::layOutControls() {
 }
 
 void CZrlightListDlg::refreshList() {
-    rows_.refresh();
+    if (!rows_.refresh())
+        return;
     quor::light::rowOrder = {.column = nameColumn, .ascending = {false, false}};
     list_.notifyParent({.code = quor::ui::Notification::Code::ColumnClick, .column = nameColumn});
 }
@@ -114,10 +116,9 @@ void CZrlightListDlg::toggleTips() {
 }
 
 bool CZrlightListDlg::OnEraseBkgnd(CDC& dc) {
-    const ZwTheme& theme = CZwSystem::instance().ui().theme();
-    dc.FillSolidRect(GetClientRect(), theme.color(kThemeDialogBackground));
-    list_.SetBkColor(theme.color(kThemeListBackground));
-    list_.SetTextColor(theme.color(kThemePanelText));
+    dc.FillSolidRect(GetClientRect(), themeColor(kThemeDialogBackground));
+    list_.SetBkColor(themeColor(kThemeListBackground));
+    list_.SetTextColor(themeColor(kThemePanelText));
     return true;
 }
 
@@ -159,16 +160,18 @@ bool CZrlightListDlg::OnCommand(unsigned id) {
     else if (id == quor::light::kShowTipsInList)
         toggleTips();
     else if (const auto display = quor::light::glyphDisplayOf(id))
-        quor::light::setGlyphDisplay(markedLight(), *display);
+        quor::light::setGlyphDisplay([this] { return markedLight(); }, *display);
     else
         return CZrUiDialog::OnCommand(id);
     return true;
 }
 
 void CZrlightListDlg::OnRButtonUp(unsigned flags, CPoint point) {
+    const quor::ui::WindowRef self(this);
     if (!tips_.IsWindowVisible() || !tips_.GetWindowRect().PtInRect(GetCursorPos()))
         showDialogMenu();
-    CZrUiDialog::OnRButtonUp(flags, point);
+    if (self)
+        CZrUiDialog::OnRButtonUp(flags, point);
 }
 
 void CZrlightListDlg::showDialogMenu() {
@@ -188,8 +191,9 @@ void CZrlightListDlg::showRowMenu(int row) {
     const bool loaded = quor::light::loadRowMenu(menu, markedLight(), list_.GetSelectedCount());
     std::vector<ZrDbObjectId> lights = selectedLights();
     std::reverse(lights.begin(), lights.end());
+    const quor::ui::WindowRef self(this);
     quor::light::selectInDrawing(lights);
-    if (const CMenu* const popup = loaded ? menu.GetSubMenu(0) : nullptr)
+    if (const CMenu* const popup = loaded && self ? menu.GetSubMenu(0) : nullptr)
         popup->TrackPopupMenu(GetCursorPos(), *this);
 }
 

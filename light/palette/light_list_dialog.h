@@ -19,7 +19,7 @@ public:
     CZrlightListDlg() : rows_(list_) {}
     ~CZrlightListDlg() override;
 
-    // All rows anew, in ascending order of the names.
+    // All rows anew, in ascending order of the names. Without a drawing there are none, and the order stays.
     void refreshList();
     void clearList();
     // Adds, brings up to date or removes the row of one open light.
@@ -28,7 +28,8 @@ public:
     void selectLights(const std::vector<ZrDbObjectId>& ids);
     // Shows the tips, or hides them.
     void toggleTips();
-    [[nodiscard]] bool tipsVisible() const { return tips_.isShown(); }
+    // The person can see them, with all that is around them.
+    [[nodiscard]] bool tipsVisible() const { return tips_.IsWindowVisible(); }
 
 protected:
     void OnInitDialog() override;

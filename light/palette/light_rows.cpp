@@ -40,21 +40,21 @@ void addLights(ZrDbBlockTableRecordIterator& lights, ListedLights& listed) {
     }
 }
 
-// Those of the working database's model space.
-ListedLights modelSpaceLights() {
-    ListedLights listed;
+// Those of the working database's model space; none without one.
+std::optional<ListedLights> modelSpaceLights() {
     ZrDbDatabase* database = zrdbWorkingDatabase();
     ZrDbBlockTable* table = nullptr;
     if (database == nullptr || database->getBlockTable(table, ZrDb::kForRead) != Quor::eOk)
-        return listed;
+        return std::nullopt;
     ZrDbObjectId spaceId;
     const Quor::ErrorStatus found = table->getIdAt(L"*Model_Space", spaceId);
     table->close();
     if (found != Quor::eOk)
-        return listed;
+        return std::nullopt;
     const ZrDbObjectPointer<ZrDbBlockTableRecord> space(spaceId, ZrDb::kForRead);
     if (!space)
-        return listed;
+        return std::nullopt;
+    ListedLights listed;
     const std::size_t count = space->entityCount(ZrDbLight::desc());
     listed.ids.reserve(count);
     listed.names.reserve(count);
@@ -231,9 +231,12 @@ LightRows::~LightRows() = default;
 
 void LightRows::clear() { state_->clear(); }
 
-void LightRows::refresh() {
+bool LightRows::refresh() {
     state_->clear();
-    state_->append(modelSpaceLights());
+    std::optional<ListedLights> lights = modelSpaceLights();
+    if (lights)
+        state_->append(std::move(*lights));
+    return lights.has_value();
 }
 
 void LightRows::update(const ZrDbLight& light) {
@@ -252,7 +255,6 @@ void LightRows::sortByClick(int column) {
     rowOrder.ascending[column] = column != rowOrder.column || !rowOrder.ascending[column];
     rowOrder.column = column;
     state_->sortAll();
-    list_.NumberItems();
 }
 
 void LightRows::select(const std::vector<ZrDbObjectId>& ids) {
@@ -264,13 +266,11 @@ void LightRows::select(const std::vector<ZrDbObjectId>& ids) {
         state_->names.appendRowsOf(*first, static_cast<std::size_t>(next - first), rows);
         first = next;
     }
-    if (list_.GetSelectedCount() > 0)
-        list_.SelectAll(false);
+    if (!rows.empty() || list_.GetSelectedCount() > 0)
+        list_.selectOnly(rows);
     int mark = -1;
-    for (const unsigned row : rows) {
-        list_.select(row, true);
+    for (const unsigned row : rows)
         mark = std::max(mark, list_.MapIDToIndex(row));
-    }
     if (mark >= 0)
         list_.SetSelectionMark(mark);
 }

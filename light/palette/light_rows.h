@@ -27,8 +27,9 @@ public:
 
     // No rows, no names.
     void clear();
-    // One row per light of the working database's model space, in drawing order; the rows are not sorted.
-    void refresh();
+    // One row per light of the working database's model space, in drawing order; the rows are not sorted. False, and no
+    // rows, when there is no such space.
+    bool refresh();
     // Adds, renames, gives another icon to, or removes the row of one open light. A new row goes to its sorted place,
     // and so do those that were renamed since the rows were sorted last.
     void update(const ZrDbLight& light);

@@ -20,13 +20,6 @@ CZrRxPaletteSet* failedPalette = nullptr;
 
 short lightListState() { return lightListPalette != nullptr && lightListPalette->IsWindowVisibleEx() ? 1 : 0; }
 
-// Whether the host had it and has destroyed it.
-bool releasePalette(CZrRxPaletteSet* palette) {
-    CZwSystem::instance().ui().dropPaletteSet(palette, 0);
-    CZrRxPaletteSetManager* const manager = Singleton<CZrRxPaletteSetManager>::instancePtr(false);
-    return manager != nullptr && manager->ReleasePaletteSet(palette);
-}
-
 } // namespace
 
 void addLightList() {
@@ -39,10 +32,12 @@ void addLightList() {
 
 void releaseLightList() {
     CZwSystem::instance().systemVariables().unregisterVariable(stateVariable);
-    if (releasePalette(lightListPalette))
+    CZrRxPaletteSet* const failed = std::exchange(failedPalette, nullptr);
+    CZrRxPaletteSet* const palette = failed != nullptr ? failed : lightListPalette;
+    CZwSystem::instance().ui().dropPaletteSet(palette, 0);
+    CZrRxPaletteSetManager* const manager = Singleton<CZrRxPaletteSetManager>::instancePtr(false);
+    if (manager != nullptr && manager->ReleasePaletteSet(palette))
         lightListPalette = nullptr;
-    if (failedPalette != nullptr)
-        releasePalette(std::exchange(failedPalette, nullptr));
 }
 
 void showInFrame(CControlBar& bar, bool show) {

@@ -6,8 +6,8 @@
 using quor::light::themeColor;
 
 namespace {
-constexpr std::size_t kLongestText = 255;
-constexpr int kIndent = 5; // pixels, the same on every screen
+constexpr std::size_t longestText = 255;
+constexpr int indent = 5; // pixels, the same on every screen
 } // namespace
 
 void ThemeHeaderCtrl::OnPaint(CDC& dc) {
@@ -18,7 +18,7 @@ void ThemeHeaderCtrl::OnPaint(CDC& dc) {
 
 void ThemeHeaderCtrl::drawItem(CDC& dc, int index) const {
     const Item& item = *GetItem(index);
-    const std::wstring_view text = std::wstring_view(item.text).substr(0, kLongestText);
+    const std::wstring_view text = std::wstring_view(item.text).substr(0, longestText);
     CRect place = GetItemRect(index);
     dc.FillSolidRect(place, themeColor(kThemeHeaderBackground));
     dc.FillSolidRect({place.right - 1, place.top, place.right, place.bottom}, themeColor(kThemeHeaderSeparator));
@@ -26,7 +26,7 @@ void ThemeHeaderCtrl::drawItem(CDC& dc, int index) const {
     dc.SetTextColor(themeColor(kThemeHeaderText));
     dc.SetBkColor(themeColor(kThemeHeaderBackground));
     dc.SetBkMode(TRANSPARENT);
-    place.left += kIndent;
+    place.left += indent;
     const quor::ui::Font before = dc.SelectStockObject(DEFAULT_GUI_FONT);
     dc.DrawText(text, place, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
     const CSize size = dc.GetTextExtent(text);

@@ -7,9 +7,9 @@ using quor::light::themeColor;
 
 namespace {
 
-constexpr int kIconColumn = 0;
-constexpr int kSelectionColumn = 1;
-constexpr int kIndentedColumn = 2;
+constexpr int iconColumn = 0;
+constexpr int selectionColumn = 1;
+constexpr int indentedColumn = 2;
 
 // Keeps the colours of a context and sets them again.
 class KeptColors {
@@ -45,7 +45,7 @@ void ThemeListCtrl::DrawItem(const quor::ui::DrawItem& item) {
     const bool isPlain = item.index == 0 && GetSelectedCount() > 1;
     const bool isSelected = item.selected && !isPlain;
     const COLORREF behindSelected = isSelected ? selectionColor() : background;
-    const CRect label = GetSubItemRect(item.index, kSelectionColumn, LVIR_LABEL);
+    const CRect label = GetSubItemRect(item.index, selectionColumn, LVIR_LABEL);
     if (isSelected)
         item.dc.FillSolidRect(label, behindSelected);
     // Only the row that has the focus is framed, as everywhere: however many are selected, and the first row only while
@@ -54,9 +54,9 @@ void ThemeListCtrl::DrawItem(const quor::ui::DrawItem& item) {
         item.dc.DrawFocusRect(label);
 
     for (int column = 0; column < heading_.GetItemCount(); ++column) {
-        if (column == kIconColumn)
+        if (column == iconColumn)
             drawIcon(item.dc, item.index);
-        drawText(item.dc, item.index, column, column == kSelectionColumn ? behindSelected : background);
+        drawText(item.dc, item.index, column, column == selectionColumn ? behindSelected : background);
     }
 }
 
@@ -71,7 +71,7 @@ void ThemeListCtrl::drawIcon(CDC& dc, int row) const {
 
 void ThemeListCtrl::drawText(CDC& dc, int row, int column, COLORREF behind) const {
     CRect place = GetSubItemRect(row, column, LVIR_LABEL);
-    if (column == kIndentedColumn)
+    if (column == indentedColumn)
         place.left += ZkUiGetCtrlDPISize(20);
     place.left += ZkUiGetCtrlDPISize(3);
     dc.SetTextColor(themeColor(kThemeListText));

@@ -119,8 +119,46 @@ TEST_F(PaletteLayout, HiddenTipsStayHiddenWhenThePaletteIsShownAgain) {
     EXPECT_FALSE(dialog().tipsVisible());
 }
 
-TEST_F(PaletteLayout, OnAFinerScreenTheLabelKeepsItsText) {
+TEST_F(PaletteLayout, TipsThatAreHiddenOtherwiseAreShown) {
+    tips().ShowWindow(false);
+
+    dialog().toggleTips();
+
+    EXPECT_TRUE(tips().isShown());
+    EXPECT_EQ(list().GetRectInParent(), (CRect{10, 25, 198, 320}));
+}
+
+// Nobody sees them then.
+TEST_F(PaletteLayout, WhileThePaletteIsHiddenItsTipsAreShownRatherThanHidden) {
+    hide();
+    EXPECT_FALSE(dialog().tipsVisible());
+
+    dialog().toggleTips();
+    show();
+
+    EXPECT_TRUE(dialog().tipsVisible());
+}
+
+TEST_F(PaletteLayout, WithoutTheLabelNothingIsMoved) {
+    label().DestroyWindow();
+
+    resize(300, 500);
+
+    EXPECT_EQ(list().GetRectInParent(), (CRect{10, 25, 198, 320}));
+    EXPECT_EQ(tips().GetRectInParent(), (CRect{10, 328, 198, 428}));
+}
+
+TEST_F(PaletteLayout, OnTheUsualScreenTheLabelKeepsAnyText) {
+    label().SetWindowText(L"Another");
+
+    resize(300, 500);
+
+    EXPECT_EQ(label().GetWindowText(), L"Another");
+}
+
+TEST_F(PaletteLayout, OnAFinerScreenTheLabelGetsItsTextAgain) {
     ui::setScreenDpi(144);
+    label().SetWindowText(L"Another");
 
     resize(312, 657);
 

@@ -3,6 +3,7 @@
 
 #include "sdk/rx/result_codes.h"
 #include "sdk/sys/ads.h"
+#include "sdk/ui/main_frame.h"
 #include "sdk/ui/palette_set_manager.h"
 #include "tests/light/palette/palette_test.h"
 
@@ -136,6 +137,50 @@ TEST_F(LightListCommands, AFailureWhileTheMenuClosesThePaletteIsDropped) {
     palette().attachPeer(nullptr);
 }
 
+// The frame arranges itself anew.
+
+class LightListLayout : public LightListCommands {
+protected:
+    LightListLayout() {
+        auto bar = std::make_unique<CZrRxPaletteSet>();
+        bar->SetInitialFloatingRect(kBarPlace);
+        bar_ = Singleton<CZrRxPaletteSetManager>::instancePtr(true)->Append(std::move(bar), L"Bar");
+        zredGetQuorFrame()->ShowControlBar(bar_, true, false);
+        runCommand(L"LightList");
+    }
+    void displaceBar() { bar_->MoveWindow({0, 0, 10, 10}); }
+    [[nodiscard]] CRect barPlace() const { return bar_->GetWindowRect(); }
+
+    static constexpr CRect kBarPlace = {500, 10, 600, 110};
+
+private:
+    CZrRxPaletteSet* bar_;
+};
+
+TEST_F(LightListLayout, LightListGivesOtherBarsTheirPlaces) {
+    displaceBar();
+
+    runCommand(L"LightList");
+
+    EXPECT_EQ(barPlace(), kBarPlace);
+}
+
+TEST_F(LightListLayout, LightListCloseGivesOtherBarsTheirPlaces) {
+    displaceBar();
+
+    runCommand(L"LightListClose");
+
+    EXPECT_EQ(barPlace(), kBarPlace);
+}
+
+TEST_F(LightListLayout, TheCloseEntryOfTheMenuGivesOtherBarsTheirPlaces) {
+    displaceBar();
+
+    palette().SendMessage(WM_COMMAND, 7501);
+
+    EXPECT_EQ(barPlace(), kBarPlace);
+}
+
 // LIGHTLISTSTATE.
 
 TEST_F(LightListCommands, TheVariableIsZeroBeforeThePaletteWasEverShown) { EXPECT_EQ(lightListState(), 0); }
@@ -195,6 +240,31 @@ TEST_F(LightListCommands, OtherPalettesAreToldWhenItIsShownAndHidden) {
     runCommand(L"LightListClose");
 
     EXPECT_EQ(heard, (std::vector<short>{1, 0}));
+}
+
+// Another palette, which looks where this one stands when it is told that it is shown.
+class PlaceWatcher final : public CZrRxPaletteSet {
+public:
+    explicit PlaceWatcher(CRect& place) : place_(place) {}
+    void sysVarChanged(const ZrString& name) override {
+        if (name == L"LIGHTLISTSTATE")
+            place_ = light::lightListPalette->GetWindowRect();
+    }
+
+private:
+    CRect& place_;
+};
+
+TEST_F(LightListCommands, ItHasItsPlaceBeforeItIsShown) {
+    CRect place;
+    Singleton<CZrRxPaletteSetManager>::instancePtr(true)->Append(std::make_unique<PlaceWatcher>(place), L"Watcher");
+    runCommand(L"LightList");
+    runCommand(L"LightListClose");
+    palette().MoveWindow({0, 0, 10, 10});
+
+    runCommand(L"LightList");
+
+    EXPECT_EQ(place, (CRect{6, 181, 214, 619}));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "host/ui/input.h"
 #include "host/ui/painting.h"
 #include "host/ui/recording_device.h"
+#include "sdk/ed/get.h"
 #include "sdk/sys/ads.h"
 #include "sdk/sys/system.h"
 #include "sdk/ui/ui_service.h"
@@ -128,6 +129,16 @@ TEST_F(LightListDialog, AClickOnAHeadingChangesNoSelection) {
     EXPECT_TRUE(isSelected(3));
 }
 
+TEST_F(LightListDialog, AListThatWasMadeAnewForgetsTheDirectionOfTheIcons) {
+    clickHeading(0);
+    ASSERT_TRUE(light::rowOrder.ascending[0]);
+
+    show();
+
+    EXPECT_FALSE(light::rowOrder.ascending[0]);
+    EXPECT_TRUE(light::rowOrder.ascending[1]);
+}
+
 TEST_F(LightListDialog, ANewLightGoesToItsSortedPlace) {
     makeSome();
     show();
@@ -165,6 +176,46 @@ TEST_F(LightListDialog, ADoubleClickBesideTheRowsDoesNothing) {
     runWaiting();
 
     EXPECT_FALSE(front().shows(L"_properties"));
+}
+
+TEST_F(LightListDialog, WhatOtherControlsTellMeansNothing) {
+    makeSome();
+    show();
+
+    tips().notifyParent({.code = ui::Notification::Code::DoubleClick, .index = 0});
+    tips().notifyParent({.code = ui::Notification::Code::ColumnClick, .column = 1});
+    tips().notifyParent({.code = ui::Notification::Code::RightClick, .index = 0});
+    runWaiting();
+
+    EXPECT_EQ(tips().notifyParent({.code = ui::Notification::Code::BeginMarquee}), 0);
+    EXPECT_EQ(names(), (Names{L"A", L"B", L"C", L"D"}));
+    EXPECT_FALSE(front().shows(L"_properties"));
+    EXPECT_TRUE(front().lastMenu().empty());
+}
+
+TEST_F(LightListDialog, ADoubleClickGivesTheKeyboardBackToTheDrawing) {
+    make(L"Lamp");
+
+    doubleClick(0);
+
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+}
+
+// The command that runs goes on; the macro waits for its end.
+TEST_F(LightListDialog, PropertiesAndDeleteCancelNoCommand) {
+    make(L"Lamp");
+    click(0);
+    session_.addCommand(L"BUSY", [] {
+        press(VK_DELETE);
+        ZrString answer;
+        return zredGetString(0, L"busy? ", answer);
+    });
+
+    type({L"BUSY", L"yes"});
+
+    EXPECT_TRUE(front().shows(L"busy? yes"));
+    EXPECT_TRUE(front().shows(L"\n命令: _.ERASE"));
+    EXPECT_FALSE(front().shows(L"取消"));
 }
 
 // Keys.
@@ -207,7 +258,35 @@ TEST_P(SwallowedKey, NeitherMovesTheSelectionNorClosesThePalette) {
 
 INSTANTIATE_TEST_SUITE_P(All, SwallowedKey, testing::Values(VK_ESCAPE, VK_RETURN, VK_UP, VK_DOWN));
 
+class OwnKey : public LightListDialog, public testing::WithParamInterface<unsigned> {};
+
+TEST_P(OwnKey, GoesNoFurtherThanTheDialog) {
+    EXPECT_TRUE(
+        dialog().dispatchPreTranslate({.kind = InputMessage::Kind::KeyDown, .window = &list(), .key = GetParam()}));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, OwnKey, testing::Values(VK_DELETE, VK_ESCAPE, VK_RETURN, VK_UP, VK_DOWN));
+
+TEST_F(LightListDialog, OtherKeysReachTheList) {
+    EXPECT_FALSE(
+        dialog().dispatchPreTranslate({.kind = InputMessage::Kind::KeyDown, .window = &list(), .key = VK_END}));
+}
+
 // The menu of the dialog.
+
+TEST_F(LightListDialog, ItsMenuIsShownAtTheCursor) {
+    ui::rightClick(dialog(), {2, 2});
+
+    EXPECT_EQ(front().lastMenuPlace(), dialog().ClientToScreen({2, 2}));
+}
+
+TEST_F(LightListDialog, TheResourcesInUseAreThoseOfBeforeAfterItsMenu) {
+    const ZwResourceInstance before = zwGetResourceInstance();
+
+    ui::rightClick(dialog(), {2, 2});
+
+    EXPECT_EQ(zwGetResourceInstance(), before);
+}
 
 TEST_F(LightListDialog, ARightClickBesideTheControlsOffersTheTips) {
     ui::rightClick(dialog(), {2, 2});

@@ -5,6 +5,7 @@ namespace quor::test {
 namespace {
 
 constexpr const wchar_t* everyKind = L"" QUOR_TEST_DATA "/dxf/own/every_kind.dxf";
+constexpr const wchar_t* luminaires = L"" QUOR_TEST_DATA "/dxf/own/luminaires.dxf"; // has a block LAMP
 
 using LightList = ShownPaletteTest;
 
@@ -65,6 +66,17 @@ TEST_F(LightList, MakingTheListAnewLooksAtNoLayer) {
 
 TEST_F(LightList, ALightInPaperSpaceIsNotAddedWhileModelSpaceIsCurrent) {
     make({.name = L"Lamp", .space = L"*Paper_Space"});
+
+    EXPECT_TRUE(names().empty());
+}
+
+TEST_F(LightList, ALightInABlockIsNotAddedWhileModelSpaceIsCurrent) {
+    type({L"OPEN", luminaires});
+    dialog().clearList();
+
+    const ZrDbObjectId lamp = make({.name = L"Lamp", .space = L"LAMP"});
+    erase(lamp);
+    erase(lamp, false);
 
     EXPECT_TRUE(names().empty());
 }
@@ -229,10 +241,6 @@ TEST_F(LightList, EachTypeHasItsIcon) {
 
     EXPECT_EQ(images(), (std::vector<int>{0, 1, 2, 3}));
 }
-
-// Of lights that are only modified the one that was touched last is looked at.
-
-// The lights of a command that made some stand before the one that it touched.
 
 TEST_F(LightList, TwoLightsOfOneNameHaveARowEach) {
     make(L"Twin");

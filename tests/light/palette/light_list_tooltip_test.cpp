@@ -39,6 +39,41 @@ TEST_F(LightListTooltip, TheTipOfTheListIsTheNameUnderTheMouse) {
     EXPECT_EQ(tooltip().shown(), &list());
 }
 
+// Looks which tip is shown when something of the tooltips has changed.
+class WatchingPeer final : public ui::WindowPeer {
+public:
+    explicit WatchingPeer(std::vector<const CWnd*>& shown) : shown_(shown) {}
+    void changed(CWnd& window, Change change) override {
+        if (change == Change::Content)
+            shown_.push_back(static_cast<CToolTipCtrl&>(window).shown());
+    }
+
+private:
+    std::vector<const CWnd*>& shown_;
+};
+
+TEST_F(LightListTooltip, TheTipIsTakenAwayBeforeItHasAnotherName) {
+    moveTo(0);
+    std::vector<const CWnd*> shown;
+    tooltip().attachPeer(std::make_unique<WatchingPeer>(shown));
+
+    moveTo(1);
+
+    EXPECT_EQ(shown, (std::vector<const CWnd*>{nullptr, &list()}));
+    tooltip().attachPeer(nullptr);
+}
+
+TEST_F(LightListTooltip, TheTipStaysWhileTheMouseStaysOnARow) {
+    moveTo(0);
+    std::vector<const CWnd*> shown;
+    tooltip().attachPeer(std::make_unique<WatchingPeer>(shown));
+
+    moveTo(0);
+
+    EXPECT_TRUE(shown.empty());
+    tooltip().attachPeer(nullptr);
+}
+
 TEST_F(LightListTooltip, BesideTheRowsThereIsNoTip) {
     moveTo(0);
 

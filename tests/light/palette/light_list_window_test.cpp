@@ -77,6 +77,39 @@ TEST_F(LightListWindow, ARightClickOffersTheTipsAndToClose) {
     EXPECT_THAT(front().lastMenu(), ElementsAre(L"[x] 显示提示", L"---", L"关闭"));
 }
 
+TEST_F(LightListWindow, ItsMenuIsShownAtTheCursor) {
+    rightClickPalette();
+
+    EXPECT_EQ(front().lastMenuPlace(), palette().ClientToScreen({5, 5}));
+}
+
+TEST_F(LightListWindow, TheResourcesInUseAreThoseOfBeforeAfterItsMenu) {
+    const ZwResourceInstance before = zwGetResourceInstance();
+
+    rightClickPalette();
+
+    EXPECT_EQ(zwGetResourceInstance(), before);
+}
+
+TEST_F(LightListWindow, ADoubleClickOnItsEdgeLeavesItAsItIs) {
+    ui::doubleClick(palette(), {5, 5});
+    runWaiting();
+
+    EXPECT_TRUE(palette().IsWindowVisibleEx());
+    EXPECT_EQ(palette().GetWindowRect(), (CRect{6, 181, 214, 619}));
+    EXPECT_FALSE(front().shows(L"_properties"));
+}
+
+TEST_F(LightListWindow, ItPaintsNothingAroundItsDialog) {
+    dialog().ShowWindow(false);
+    ui::RecordingDevice device;
+
+    ui::paint(palette(), device);
+
+    EXPECT_TRUE(device.calls().empty());
+    EXPECT_FALSE(palette().needsPaint());
+}
+
 TEST_F(LightListWindow, ItsMenuHidesAndShowsTheTips) {
     front().chooseMenu(7502);
     rightClickPalette();
@@ -127,6 +160,21 @@ TEST_F(LightListWindow, TheTipsMessageShowsHidesAndTells) {
 
 TEST_F(LightListWindow, AQuestionForTheTipsWithoutAPlaceForTheAnswerIsHarmless) {
     EXPECT_EQ(palette().SendMessage(ui::kTipsMessage, 1, 0), 0);
+}
+
+TEST_F(LightListWindow, AnotherValueWithTheTipsMessageMeansNothing) {
+    unsigned char answer = 7;
+
+    EXPECT_EQ(palette().SendMessage(ui::kTipsMessage, 2, reinterpret_cast<std::intptr_t>(&answer)), 0);
+
+    EXPECT_EQ(answer, 7);
+    EXPECT_TRUE(dialog().tipsVisible());
+}
+
+TEST_F(LightListWindow, TheTipsOfAHiddenPaletteAreNotShown) {
+    hide();
+
+    EXPECT_EQ(tipsAnswer(), 0);
 }
 
 TEST_F(LightListWindow, OtherMessagesMeanNothingToIt) { EXPECT_EQ(palette().SendMessage(WM_APP + 0x1C, 1, 0), 0); }

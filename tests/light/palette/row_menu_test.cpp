@@ -146,6 +146,70 @@ TEST_F(RowMenu, TheResourcesInUseAreThoseOfBeforeAfterwards) {
     EXPECT_EQ(zwGetResourceInstance(), before);
 }
 
+TEST_F(RowMenu, ItIsShownAtTheCursor) {
+    rightClick(1);
+
+    EXPECT_EQ(front().lastMenuPlace(), GetCursorPos());
+    EXPECT_NE(front().lastMenuPlace(), CPoint());
+}
+
+TEST_F(RowMenu, TheLightsAreSelectedInTheDrawingBeforeItIsShown) {
+    Ids during;
+    front().whenMenuShown([&] { during = selectedInDrawing(); });
+
+    rightClick(1);
+
+    EXPECT_EQ(during, Ids{lamp_});
+}
+
+// The row that the menu is for has the mark, selected or not.
+
+TEST_F(RowMenu, TheGlyphDisplayThatIsCheckedIsThatOfTheMarkedRow) {
+    asCommand([&] { ZrDbObjectPointer<ZrDbLight>(lamp_, ZrDb::kForWrite)->setGlyphDisplay(GlyphDisplay::kOff); });
+    click(2);
+
+    list().notifyParent({.code = ui::Notification::Code::RightClick, .index = 1});
+
+    EXPECT_THAT(front().lastMenu(), ElementsAre(L"删除", L"特性", L"轮廓显示", L"  自动", L"  开", L"  [x] 关"));
+}
+
+TEST_F(RowMenu, WhetherThereIsAGlyphIsAskedOfTheMarkedRow) {
+    click(2);
+    list().notifyParent({.code = ui::Notification::Code::RightClick, .index = 0});
+    EXPECT_THAT(front().lastMenu(), ElementsAre(L"删除", L"特性"));
+
+    click(0);
+    list().notifyParent({.code = ui::Notification::Code::RightClick, .index = 2});
+
+    EXPECT_EQ(front().lastMenu().size(), 6U);
+}
+
+TEST_F(RowMenu, AGlyphCommandReachesTheMarkedRow) {
+    click(2);
+    list().SetSelectionMark(1);
+
+    dialog().SendMessage(WM_COMMAND, 7510);
+
+    EXPECT_EQ(glyphDisplay(lamp_), GlyphDisplay::kOn);
+    EXPECT_EQ(glyphDisplay(spot_), GlyphDisplay::kAutomatic);
+}
+
+// Its name stands for no light any more.
+TEST_F(RowMenu, ARowWhoseTwinIsGoneStandsForNoLight) {
+    const ZrDbObjectId second = make(L"B lamp");
+    erase(second);
+    ASSERT_EQ(names(), (Names{L"A sun", L"B lamp", L"C spot"}));
+
+    click(1);
+    EXPECT_TRUE(selectedInDrawing().empty());
+    choose(7510, 1);
+
+    EXPECT_THAT(front().lastMenu(), ElementsAre(L"删除", L"特性", L"轮廓显示", L"  自动", L"  开", L"  关"));
+    EXPECT_TRUE(selectedInDrawing().empty());
+    EXPECT_EQ(glyphDisplay(lamp_), GlyphDisplay::kAutomatic);
+    EXPECT_EQ(glyphDisplay(spot_), GlyphDisplay::kAutomatic);
+}
+
 TEST_F(RowMenu, WithoutResourcesThereIsNoMenu) {
     CMenu menu;
 
@@ -251,6 +315,36 @@ TEST_F(RowMenu, TheChangeOfAGlyphDisplayIsAnnouncedAroundIt) {
     choose(7510, 1);
 
     EXPECT_THAT(announcements.heard, ElementsAre(L"start automatic", L"end on"));
+}
+
+TEST_F(RowMenu, TheChangeOfAGlyphDisplayIsShownBeforeItsEndIsAnnounced) {
+    std::vector<int> redraws;
+    const Announcements announcements([&] {
+        redraws.push_back(front().redraws());
+        return ZrString();
+    });
+    list().SetSelectionMark(1);
+
+    dialog().SendMessage(WM_COMMAND, 7510);
+
+    // The drawing's picture and the display.
+    ASSERT_EQ(redraws.size(), 2U);
+    EXPECT_EQ(redraws[1], redraws[0] + 2);
+    EXPECT_EQ(front().redraws(), redraws[1]);
+}
+
+// Whoever is told of the start may still change what the row stands for.
+TEST_F(RowMenu, TheLightOfAGlyphCommandIsLookedUpOnceItsStartWasAnnounced) {
+    const Announcements announcements([&] {
+        list().SetSelectionMark(2);
+        return ZrString();
+    });
+    list().SetSelectionMark(1);
+
+    dialog().SendMessage(WM_COMMAND, 7510);
+
+    EXPECT_EQ(glyphDisplay(lamp_), GlyphDisplay::kAutomatic);
+    EXPECT_EQ(glyphDisplay(spot_), GlyphDisplay::kOn);
 }
 
 class RowMenuInEnglish : public PaletteTest {

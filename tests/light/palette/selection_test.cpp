@@ -29,6 +29,16 @@ protected:
     ZrDbObjectId a_, b_, c_, d_;
 };
 
+// Counts the changes of what a window holds.
+class CountingPeer final : public ui::WindowPeer {
+public:
+    explicit CountingPeer(int& changes) : changes_(changes) {}
+    void changed(CWnd&, Change change) override { changes_ += change == Change::Content ? 1 : 0; }
+
+private:
+    int& changes_;
+};
+
 // From the list to the drawing.
 
 TEST_F(ListSelection, AClickSelectsTheLightInTheDrawing) {
@@ -202,6 +212,36 @@ TEST_F(ListSelection, AClickInTheListIsNotToldToTheListAgain) {
 
     EXPECT_FALSE(isSelected(0));
     EXPECT_TRUE(isSelected(1));
+}
+
+TEST_F(ListSelection, ALightThatIsOpenForWriteIsSelectedInTheList) {
+    const ZrDbObjectPointer<ZrDbLight> writer(a_, ZrDb::kForWrite);
+
+    selectInDrawing({a_});
+
+    EXPECT_EQ(selectedNames(), Names{L"A"});
+}
+
+TEST_F(ListSelection, ASelectionThatCannotBeAskedForLeavesNoRowSelected) {
+    list().SelectAll(true);
+
+    palette().impliedSelectionChanged();
+
+    EXPECT_TRUE(selectedNames().empty());
+}
+
+// Rows come and go one by one, a selection at once.
+TEST_F(ListSelection, ASelectionOfManyLightsIsOneChangeOfTheList) {
+    int changes = 0;
+    list().attachPeer(std::make_unique<CountingPeer>(changes));
+
+    selectInDrawing({a_, b_, c_, d_});
+    EXPECT_EQ(changes, 1);
+    selectInDrawing({c_, d_});
+    EXPECT_EQ(changes, 2);
+    list().attachPeer(nullptr);
+
+    EXPECT_EQ(selectedNames(), (Names{L"C", L"D"}));
 }
 
 TEST_F(ListSelection, TheEndOfACommandThatUsedTheSelectionClearsTheList) {

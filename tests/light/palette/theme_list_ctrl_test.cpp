@@ -68,6 +68,18 @@ TEST_F(ThemedList, DrawsOfARowTheBackgroundTheIconAndTheTexts) {
                 ElementsAreArray({background(1), icon(1), text(1, 0, themeColor(34)), text(1, 1, themeColor(34))}));
 }
 
+// The first row is the one of the list, not the topmost on the screen.
+TEST_F(ThemedList, ShowsTheSelectionOfTheTopmostRowWhenItIsScrolled) {
+    std::vector<CListCtrl::Row> rows(40, {{L"", L"Lamp"}, 1});
+    list_.SetRows(std::move(rows));
+    list_.SetTopIndex(5);
+    list_.SetItemState(5, LVIS_SELECTED, LVIS_SELECTED);
+    list_.SetItemState(6, LVIS_SELECTED, LVIS_SELECTED);
+
+    EXPECT_THAT(drawRow(5), Contains(highlight(5)));
+    EXPECT_THAT(drawRow(6), Contains(highlight(6)));
+}
+
 TEST_F(ThemedList, HasItsIndentsOnTheScreenInUse) {
     ui::setScreenDpi(144);
 
