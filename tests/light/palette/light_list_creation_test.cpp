@@ -67,8 +67,9 @@ TEST_F(LightListCreation, ItsDialogIsShownBeforeItHasItsIcon) {
 constexpr unsigned kOtherStyle = 0x1;
 
 void styleList(CWnd& dialog, ui::WindowPeer::Change) {
-    if (auto* const list = dynamic_cast<CListCtrl*>(dialog.GetDlgItem(kLightList)))
-        list->SetExtendedStyle(list->GetExtendedStyle() | kOtherStyle);
+    auto* const list = dynamic_cast<CListCtrl*>(dialog.GetDlgItem(kLightList));
+    if (list != nullptr && list->GetExtendedStyle() == 0)
+        list->SetExtendedStyle(kOtherStyle);
 }
 
 TEST_F(LightListCreation, WholeRowsAreSelectedBesideWhatTheListDoesAlready) {

@@ -4,7 +4,6 @@
 #include "host/ui/input.h"
 #include "host/ui/painting.h"
 #include "host/ui/recording_device.h"
-#include "sdk/ed/get.h"
 #include "sdk/sys/ads.h"
 #include "sdk/sys/system.h"
 #include "sdk/ui/ui_service.h"
@@ -201,21 +200,16 @@ TEST_F(LightListDialog, ADoubleClickGivesTheKeyboardBackToTheDrawing) {
     EXPECT_EQ(CWnd::GetFocus(), nullptr);
 }
 
-// The command that runs goes on; the macro waits for its end.
-TEST_F(LightListDialog, PropertiesAndDeleteCancelNoCommand) {
+TEST_F(LightListDialog, PropertiesAndDeleteCancelNothingFirst) {
     make(L"Lamp");
     click(0);
-    session_.addCommand(L"BUSY", [] {
-        press(VK_DELETE);
-        ZrString answer;
-        return zredGetString(0, L"busy? ", answer);
-    });
 
-    type({L"BUSY", L"yes"});
+    doubleClick(0);
+    runWaiting();
+    press(VK_DELETE);
+    runWaiting();
 
-    EXPECT_TRUE(front().shows(L"busy? yes"));
-    EXPECT_TRUE(front().shows(L"\n命令: _.ERASE"));
-    EXPECT_FALSE(front().shows(L"取消"));
+    EXPECT_THAT(front().echoed(), ElementsAre(L"_properties", L"_.ERASE"));
 }
 
 // Keys.
@@ -281,11 +275,12 @@ TEST_F(LightListDialog, ItsMenuIsShownAtTheCursor) {
 }
 
 TEST_F(LightListDialog, TheResourcesInUseAreThoseOfBeforeAfterItsMenu) {
-    const ZwResourceInstance before = zwGetResourceInstance();
+    constexpr ZwUiResources others{};
+    const ZwResourceScope inUse(&others);
 
     ui::rightClick(dialog(), {2, 2});
 
-    EXPECT_EQ(zwGetResourceInstance(), before);
+    EXPECT_EQ(zwGetResourceInstance(), &others);
 }
 
 TEST_F(LightListDialog, ARightClickBesideTheControlsOffersTheTips) {

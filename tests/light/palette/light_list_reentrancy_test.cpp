@@ -156,37 +156,39 @@ TEST_F(LightListGoes, WhileTheEndOfACommandIsTold) {
     EXPECT_TRUE(isGone());
 }
 
-using LightListGoesOn = LightListGoes;
-
-// Tells the palette of lights that are appended while a row is being shown.
+// Tells the palette of lights that are appended while a row is being shown, more than it has room for.
 class AppendingPeer final : public ui::WindowPeer {
 public:
-    explicit AppendingPeer(ZrDbObjectId light) : light_(light) {}
+    explicit AppendingPeer(std::vector<ZrDbObjectId> lights) : lights_(std::move(lights)) {}
     void changed(CWnd&, Change) override {
-        const ZrDbObjectPointer<ZrDbLight> light(light_, ZrDb::kForRead);
-        for (int count = 0; count < 20; ++count)
+        for (const ZrDbObjectId id : lights_) {
+            const ZrDbObjectPointer<ZrDbLight> light(id, ZrDb::kForRead);
             light::lightListPalette->lightAppended(light->database(), light.object());
+        }
     }
 
 private:
-    ZrDbObjectId light_;
+    std::vector<ZrDbObjectId> lights_;
 };
+
+using LightListGoesOn = LightListGoes;
 
 TEST_F(LightListGoesOn, WhenLightsAreAppendedWhileOthersAreBeingShown) {
     show();
     const ZrDbObjectId late = make(L"Late");
+    const ZrDbObjectId later = make(L"Later");
     asCommand([&] {
         for (const wchar_t* const name : {L"A", L"B", L"C"})
             type({L"POINTLIGHT", L"1,2,3", L"N", name, L"X"});
         dialog().clearList();
-        list().attachPeer(std::make_unique<AppendingPeer>(late));
+        list().attachPeer(std::make_unique<AppendingPeer>(std::vector{late, later}));
     });
     list().attachPeer(nullptr);
     EXPECT_EQ(names(), (Names{L"A", L"B", L"C"}));
 
     palette().commandFinished();
 
-    EXPECT_EQ(names(), (Names{L"A", L"B", L"C", L"Late"}));
+    EXPECT_EQ(names(), (Names{L"A", L"B", L"C", L"Late", L"Later"}));
 }
 
 } // namespace

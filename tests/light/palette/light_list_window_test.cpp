@@ -84,11 +84,12 @@ TEST_F(LightListWindow, ItsMenuIsShownAtTheCursor) {
 }
 
 TEST_F(LightListWindow, TheResourcesInUseAreThoseOfBeforeAfterItsMenu) {
-    const ZwResourceInstance before = zwGetResourceInstance();
+    constexpr ZwUiResources others{};
+    const ZwResourceScope inUse(&others);
 
     rightClickPalette();
 
-    EXPECT_EQ(zwGetResourceInstance(), before);
+    EXPECT_EQ(zwGetResourceInstance(), &others);
 }
 
 TEST_F(LightListWindow, ADoubleClickOnItsEdgeLeavesItAsItIs) {

@@ -139,11 +139,12 @@ TEST_F(RowMenu, PropertiesRunsTheHostsCommandOnTheSelectedLights) {
 }
 
 TEST_F(RowMenu, TheResourcesInUseAreThoseOfBeforeAfterwards) {
-    const ZwResourceInstance before = zwGetResourceInstance();
+    constexpr ZwUiResources others{};
+    const ZwResourceScope inUse(&others);
 
     rightClick(1);
 
-    EXPECT_EQ(zwGetResourceInstance(), before);
+    EXPECT_EQ(zwGetResourceInstance(), &others);
 }
 
 TEST_F(RowMenu, ItIsShownAtTheCursor) {
