@@ -61,7 +61,8 @@ public:
     virtual void lightTouched(const ZrDbDatabase* /*database*/, const ZrDbObject* /*object*/) {}
     virtual void lightTouchedByUndo(const ZrDbDatabase* /*database*/, const ZrDbObject* /*object*/) {}
     virtual void lightTouchedByRedo(const ZrDbDatabase* /*database*/, const ZrDbObject* /*object*/) {}
-    // Null when the last one was closed.
+    // Null when the last one was closed. Told again when editing a block in place has begun or ended there: other
+    // objects count then.
     virtual void documentBecameCurrent(ZrApDocument* /*document*/) {}
     // Around every outermost command, also one that is cancelled.
     virtual void commandStarting() {}

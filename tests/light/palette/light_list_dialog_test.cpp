@@ -1,7 +1,6 @@
-// The dialog in the palette: its columns, icons and texts, headings, keys, menus and colours.
+// The dialog in the palette: its columns, icons and texts, headings, menus and colours.
 #include "tests/light/palette/palette_test.h"
 
-#include "host/ed/input_stack.h"
 #include "host/ui/input.h"
 #include "host/ui/painting.h"
 #include "host/ui/recording_device.h"
@@ -199,75 +198,6 @@ TEST_F(LightListDialog, ADoubleClickGivesTheKeyboardBackToTheDrawing) {
     doubleClick(0);
 
     EXPECT_EQ(CWnd::GetFocus(), nullptr);
-}
-
-// Esc at the command prompt shows nothing: the macros are read instead of run.
-TEST_F(LightListDialog, PropertiesAndDeleteCancelNothingFirst) {
-    make(L"Lamp");
-    ed::InputStack& input = session_.session().input();
-
-    doubleClick(0);
-    ASSERT_TRUE(input.hasProgramInput());
-    EXPECT_EQ(input.ask({}).text, L"_properties");
-    input.clear();
-    press(VK_DELETE);
-    ASSERT_TRUE(input.hasProgramInput());
-    EXPECT_EQ(input.ask({}).text, L"_.ERASE");
-    input.clear();
-}
-
-// Keys.
-
-TEST_F(LightListDialog, DeleteErasesWhatIsSelectedInTheDrawing) {
-    makeSome();
-    click(0);
-    click(2, MK_CONTROL);
-
-    press(VK_DELETE);
-    runWaiting();
-
-    EXPECT_EQ(names(), (Names{L"B", L"D"}));
-    EXPECT_TRUE(front().shows(L"_.ERASE"));
-}
-
-TEST_F(LightListDialog, DeleteGivesTheKeyboardBackToTheDrawing) {
-    makeSome();
-    click(0);
-
-    press(VK_DELETE);
-
-    EXPECT_EQ(CWnd::GetFocus(), nullptr);
-}
-
-class SwallowedKey : public LightListDialog, public testing::WithParamInterface<unsigned> {};
-
-TEST_P(SwallowedKey, NeitherMovesTheSelectionNorClosesThePalette) {
-    makeSome();
-    click(1);
-
-    press(GetParam());
-    runWaiting();
-
-    EXPECT_EQ(selectedNames(), Names{L"B"});
-    EXPECT_EQ(list().GetNextItem(-1, LVNI_FOCUSED), 1);
-    EXPECT_TRUE(palette().IsWindowVisibleEx());
-    EXPECT_EQ(names().size(), 4U);
-}
-
-INSTANTIATE_TEST_SUITE_P(All, SwallowedKey, testing::Values(VK_ESCAPE, VK_RETURN, VK_UP, VK_DOWN));
-
-class OwnKey : public LightListDialog, public testing::WithParamInterface<unsigned> {};
-
-TEST_P(OwnKey, GoesNoFurtherThanTheDialog) {
-    EXPECT_TRUE(
-        dialog().dispatchPreTranslate({.kind = InputMessage::Kind::KeyDown, .window = &list(), .key = GetParam()}));
-}
-
-INSTANTIATE_TEST_SUITE_P(All, OwnKey, testing::Values(VK_DELETE, VK_ESCAPE, VK_RETURN, VK_UP, VK_DOWN));
-
-TEST_F(LightListDialog, OtherKeysReachTheList) {
-    EXPECT_FALSE(
-        dialog().dispatchPreTranslate({.kind = InputMessage::Kind::KeyDown, .window = &list(), .key = VK_END}));
 }
 
 // The menu of the dialog.
