@@ -30,12 +30,11 @@ ZrDbObjectIdArray usable(const ZrDbObjectIdArray& ids, const Document& document)
 } // namespace
 
 void quor::ed::tellSelectionChanged(const DocumentManager& documents) {
-    const std::vector<ZrEdSelectionReactor*> listeners = documents.selectionReactors();
-    for (ZrEdSelectionReactor* const listener : listeners) {
-        const std::vector<ZrEdSelectionReactor*>& present = documents.selectionReactors();
+    const std::vector<ZrEdSelectionReactor*>& present = documents.selectionReactors();
+    const std::vector<ZrEdSelectionReactor*> listeners(present.begin(), present.end());
+    for (ZrEdSelectionReactor* const listener : listeners)
         if (std::find(present.begin(), present.end(), listener) != present.end())
             listener->impliedSelectionChanged();
-    }
 }
 
 ZrDbObjectIdArray zredImpliedSelection() {

@@ -20,8 +20,9 @@ std::optional<T> takeFirst(std::deque<T>& waiting) {
 
 void addMenuLines(const CMenu& menu, const ZrString& indent, std::vector<ZrString>& lines) {
     for (const CMenu::Entry& entry : menu.entries()) {
-        const ZrString text = entry.isSeparator() ? ZrString(L"---") : entry.text;
-        lines.push_back(indent + (entry.checked ? L"[x] " : L"") + text);
+        ZrString& line = lines.emplace_back(indent);
+        line += entry.checked ? L"[x] " : L"";
+        line += entry.isSeparator() ? L"---" : entry.text;
         if (entry.submenu != nullptr)
             addMenuLines(*entry.submenu, indent + L"  ", lines);
     }

@@ -90,6 +90,7 @@ void PaletteTest::erase(ZrDbObjectId light, bool erasing) {
 
 Names PaletteTest::names() {
     Names all;
+    all.reserve(static_cast<std::size_t>(list().GetItemCount()));
     for (int row = 0; row < list().GetItemCount(); ++row)
         all.push_back(list().GetItemText(row, 1));
     return all;
@@ -97,6 +98,7 @@ Names PaletteTest::names() {
 
 std::vector<int> PaletteTest::images() {
     std::vector<int> all;
+    all.reserve(static_cast<std::size_t>(list().GetItemCount()));
     for (int row = 0; row < list().GetItemCount(); ++row)
         all.push_back(list().GetItemImage(row));
     return all;
