@@ -119,29 +119,25 @@ void PalettePerson::act(unsigned what, unsigned choice, unsigned held) {
         checkRows(*palette);
 }
 
-void PalettePerson::clickRow(CZkUiPaletteSet& palette, unsigned choice) {
+void PalettePerson::pressRow(CZkUiPaletteSet& palette, unsigned choice, Press press) {
     const Target target = rowAt(palette, choice);
     if (target.window == nullptr)
         return;
     const bool isHit = listIn(palette)->HitTest(target.point) >= 0;
-    ui::click(*target.window, target.point, flags_);
+    press(*target.window, target.point, flags_);
     if (isHit)
         checkSelectionIsShared(session_);
+}
+
+void PalettePerson::clickRow(CZkUiPaletteSet& palette, unsigned choice) { pressRow(palette, choice, ui::click); }
+
+void PalettePerson::rightClickRow(CZkUiPaletteSet& palette, unsigned choice) {
+    pressRow(palette, choice, ui::rightClick);
 }
 
 void PalettePerson::doubleClickRow(CZkUiPaletteSet& palette, unsigned choice) {
     if (const Target target = rowAt(palette, choice); target.window != nullptr)
         ui::doubleClick(*target.window, target.point, flags_);
-}
-
-void PalettePerson::rightClickRow(CZkUiPaletteSet& palette, unsigned choice) {
-    const Target target = rowAt(palette, choice);
-    if (target.window == nullptr)
-        return;
-    const bool isHit = listIn(palette)->HitTest(target.point) >= 0;
-    ui::rightClick(*target.window, target.point, flags_);
-    if (isHit)
-        checkSelectionIsShared(session_);
 }
 
 void PalettePerson::moveOverRow(CZkUiPaletteSet& palette, unsigned choice) {

@@ -30,6 +30,8 @@ private:
     using HostAct = void (PalettePerson::*)(unsigned choice);
     static const HostAct kHostActs[];
 
+    using Press = void (*)(CWnd& window, CPoint point, unsigned flags);
+    void pressRow(CZkUiPaletteSet& palette, unsigned choice, Press press);
     void clickRow(CZkUiPaletteSet& palette, unsigned choice);
     void doubleClickRow(CZkUiPaletteSet& palette, unsigned choice);
     void rightClickRow(CZkUiPaletteSet& palette, unsigned choice);

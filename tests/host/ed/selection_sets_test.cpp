@@ -1,35 +1,19 @@
 #include "sdk/ed/selection_sets.h"
 
-#include "sdk/db/database.h"
-#include "sdk/db/line.h"
-#include "sdk/ed/selection.h"
-#include "sdk/rx/command.h"
+#include "tests/host/ed/drawn_lines.h"
 #include "tests/support/test_session.h"
 
 #include <gtest/gtest.h>
 
+using quor::test::addLine;
+using quor::test::erase;
+using quor::test::SelectionCounter;
 using quor::test::TestSession;
 
 namespace {
 
-class Counter final : public ZrEdSelectionReactor {
-public:
-    void impliedSelectionChanged() override { ++changes; }
-    int changes = 0;
-};
-
 class SelectionSets : public testing::Test {
 protected:
-    static ZrDbObjectId addLine() {
-        auto line = std::make_unique<ZrDbLine>(ZrGePoint3d(0, 0, 0), ZrGePoint3d(0, 1, 0));
-        const ZrDbObjectId id = RxCommand::postToDb(*line, nullptr, nullptr, true);
-        (void)line.release(); // the drawing owns it now
-        return id;
-    }
-    static void erase(ZrDbObjectId id) {
-        const ZrDbObjectPointer<ZrDbEntity> entity(id, ZrDb::kForWrite);
-        entity->erase();
-    }
     static ZdsName nameOf(ZrDbObjectId id) {
         ZdsName name;
         EXPECT_EQ(zrdbGetZdsName(name, id), Quor::eOk);
@@ -190,7 +174,7 @@ TEST_F(SelectionSets, SetsDoNotKnowOfEachOther) {
 }
 
 TEST_F(SelectionSets, SetBecomesThePickFirstSelection) {
-    Counter counter;
+    SelectionCounter counter;
     zredAddSelectionReactor(&counter);
     const ZdsName set = setOf({third_, first_});
 

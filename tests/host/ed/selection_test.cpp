@@ -1,40 +1,24 @@
 #include "sdk/ed/selection.h"
 
-#include "sdk/db/database.h"
-#include "sdk/db/line.h"
-#include "sdk/rx/command.h"
 #include "sdk/rx/result_codes.h"
 #include "sdk/sys/format.h"
+#include "tests/host/ed/drawn_lines.h"
 #include "tests/support/test_session.h"
 
 #include <gtest/gtest.h>
 
+using quor::test::addLine;
+using quor::test::erase;
+using quor::test::SelectionCounter;
 using quor::test::TestSession;
 
 namespace {
-
-class Counter final : public ZrEdSelectionReactor {
-public:
-    void impliedSelectionChanged() override { ++changes; }
-    int changes = 0;
-};
 
 class Selection : public testing::Test {
 protected:
     Selection() { zredAddSelectionReactor(&counter_); }
     ~Selection() override { zredRemoveSelectionReactor(&counter_); }
 
-    ZrDbObjectId addLine(double x) {
-        auto line = std::make_unique<ZrDbLine>(ZrGePoint3d(x, 0, 0), ZrGePoint3d(x, 1, 0));
-        const ZrDbObjectId id = RxCommand::postToDb(*line, nullptr, nullptr, true);
-        EXPECT_FALSE(id.isNull());
-        (void)line.release(); // the drawing owns it now
-        return id;
-    }
-    static void erase(ZrDbObjectId id) {
-        const ZrDbObjectPointer<ZrDbEntity> entity(id, ZrDb::kForWrite);
-        entity->erase();
-    }
     int select(std::initializer_list<ZrString> lines) {
         test_.front().type(lines);
         return zredSelect(nullptr, ids_);
@@ -42,7 +26,7 @@ protected:
     static ZrString handleOf(ZrDbObjectId id) { return zrFormat(L"%x", {id.handle().value()}); }
 
     TestSession test_;
-    Counter counter_;
+    SelectionCounter counter_;
     ZrDbObjectIdArray ids_;
     ZrDbObjectId first_ = addLine(0);
     ZrDbObjectId second_ = addLine(10);

@@ -4,9 +4,8 @@
 #include "host/ui/host_resources.h"
 #include "host/ui/resource_lookup.h"
 #include "sdk/ui/image_list.h"
-#include "tests/support/test_session.h"
+#include "tests/support/translated_session.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
 
 using namespace quor;
@@ -100,19 +99,11 @@ class ResourceText : public testing::Test {
 protected:
     ~ResourceText() override { setLanguage(Language::Chinese); }
     void translate(const char* translation) {
-        const std::filesystem::path language = folder_.path() / "lang" / "en";
-        std::filesystem::create_directories(language);
-        std::ofstream(language / "quorcmdres.txt") << "900 = \"" << translation << "\"\n";
-        session_.emplace(front_, SessionOptions{.settingsFile = folder_.path() / "settings.ini",
-                                                .resourceFolder = folder_.path(),
-                                                .moduleFolders = {},
-                                                .language = L"en"});
+        session_.emplace("quorcmdres.txt", "900 = \"" + std::string(translation) + "\"\n");
     }
 
 private:
-    test::TemporaryFolder folder_;
-    test::ScriptedFrontEnd front_;
-    std::optional<Session> session_;
+    std::optional<test::TranslatedSession> session_;
 };
 
 TEST_F(ResourceText, IsTheBuiltInOneWithoutASession) { EXPECT_EQ(zwResourceText({900, L"关闭"}), L"关闭"); }

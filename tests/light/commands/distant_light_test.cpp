@@ -3,7 +3,7 @@
 #include "sdk/db/database.h"
 #include "sdk/rx/result_codes.h"
 #include "tests/light/commands/opened_command.h"
-#include "tests/light/lightcmd/translated_session.h"
+#include "tests/support/translated_session.h"
 
 #include <functional>
 

@@ -1,6 +1,6 @@
 #include "light/lightcmd/color_input.h"
 
-#include "tests/light/lightcmd/translated_session.h"
+#include "tests/support/translated_session.h"
 
 namespace quor::light {
 namespace {

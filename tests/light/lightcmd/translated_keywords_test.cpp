@@ -4,7 +4,7 @@
 #include "host/ed/command_table.h"
 #include "host/sys/utf8.h"
 #include "sdk/db/database.h"
-#include "tests/light/lightcmd/translated_session.h"
+#include "tests/support/translated_session.h"
 
 #include <algorithm>
 

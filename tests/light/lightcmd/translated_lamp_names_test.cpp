@@ -1,6 +1,6 @@
 // "?" at the question for the lamp colour looks for names of the language pack, and a pack may have some of them or
 // none.
-#include "tests/light/lightcmd/translated_session.h"
+#include "tests/support/translated_session.h"
 
 namespace quor {
 namespace {

@@ -2,10 +2,8 @@
 
 #include "host/session.h"
 #include "host/sys/utf8.h"
-#include "tests/support/scripted_front_end.h"
-#include "tests/support/test_session.h"
+#include "tests/support/translated_session.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
 #include <optional>
 
@@ -28,19 +26,11 @@ TEST(LoadedText, ATextThatIsBuiltInEmptyIsEmpty) {
 class TranslatedText : public testing::Test {
 protected:
     void translate(const ZrString& translation) {
-        const std::filesystem::path language = folder_.path() / "lang" / "en";
-        std::filesystem::create_directories(language);
-        std::ofstream(language / "quorcmdres.txt") << "6814 = \"" << toUtf8(translation) << "\"\n";
-        session_.emplace(front_, SessionOptions{.settingsFile = folder_.path() / "settings.ini",
-                                                .resourceFolder = folder_.path(),
-                                                .moduleFolders = {},
-                                                .language = L"en"});
+        session_.emplace("quorcmdres.txt", "6814 = \"" + toUtf8(translation) + "\"\n");
     }
 
 private:
-    test::TemporaryFolder folder_;
-    test::ScriptedFrontEnd front_;
-    std::optional<Session> session_;
+    std::optional<test::TranslatedSession> session_;
 };
 
 TEST_F(TranslatedText, IsThatOfTheResourceModule) {
