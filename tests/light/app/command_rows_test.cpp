@@ -7,8 +7,8 @@
 #include "sdk/db/database.h"
 #include "sdk/db/light.h"
 #include "sdk/rx/command.h"
-#include "tests/support/translated_session.h"
 #include "tests/support/test_session.h"
+#include "tests/support/translated_session.h"
 
 #include <algorithm>
 #include <cwctype>

@@ -8,8 +8,8 @@
 #include "sdk/sys/ads.h"
 #include "sdk/ui/palette_set_manager.h"
 #include "sdk/ui/ui_service.h"
-#include "tests/support/translated_session.h"
 #include "tests/support/test_session.h"
+#include "tests/support/translated_session.h"
 
 #include <gtest/gtest.h>
 

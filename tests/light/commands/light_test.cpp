@@ -7,8 +7,8 @@
 #include "sdk/rx/result_codes.h"
 #include "sdk/sys/ads.h"
 #include "sdk/sys/global_vars.h"
-#include "tests/support/translated_session.h"
 #include "tests/support/test_session.h"
+#include "tests/support/translated_session.h"
 
 #include <gtest/gtest.h>
 
