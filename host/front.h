@@ -2,6 +2,7 @@
 // parsing, checking and asking again are the host's (host/ed).
 #pragma once
 
+#include "sdk/db/object_id.h"
 #include "sdk/ge/point3d.h"
 #include "sdk/sys/string.h"
 #include "sdk/ui/geometry.h"
@@ -16,8 +17,13 @@ class CMenu;
 class CWnd;
 class CZkUiPaletteSet;
 class CZrUiTaskDialog;
+class ZrDbEntity;
 
 namespace quor {
+
+namespace gs {
+class View;
+}
 
 // One question on the command line.
 struct Question {
@@ -28,17 +34,24 @@ struct Question {
     std::span<const ZrString> keywords;
     // Where a rubber band starts, in world coordinates.
     std::optional<ZrGePoint3d> base;
+    // The base is the first corner of a rectangle, not where a line starts.
+    bool baseIsCorner = false;
+    // What moves under the cursor during a drag, in the state of the last sample; it may stand in no drawing yet. Lives
+    // as long as the question.
+    const ZrDbEntity* dragged = nullptr;
     // Blanks belong to the answer.
     bool acceptsBlanks = false;
 };
 
-// What came back: typed text, a picked point (world coordinates), Enter alone, Esc, the end of all input, or that the
-// input broke (a read error); nobody is asked any more after that.
+// What came back: typed text, a picked point (world coordinates), entities that were picked (only for a selection),
+// Enter alone, Esc, the end of all input, or that the input broke (a read error); nobody is asked any more after that.
 struct Answer {
-    enum class Kind { Text, Point, Enter, Cancel, End, Broken };
+    enum class Kind { Text, Point, Objects, Enter, Cancel, End, Broken };
     Kind kind = Kind::End;
     ZrString text;
     ZrGePoint3d point;
+    std::vector<ZrDbObjectId> objects{};
+    bool takesAway = false; // the picked entities are to leave the selection
 };
 
 // The answer to a task dialog: the id of the command, or nothing when it was cancelled.
@@ -47,6 +60,9 @@ struct TaskDialogAnswer {
     bool checked = false;
     bool inputEnded = false; // cancelled because there is no more input
 };
+
+// What is to become of a drawing that would lose changes.
+enum class SaveChoice { Save, Discard, Cancel };
 
 // A file that is to be chosen.
 struct FileQuestion {
@@ -90,12 +106,25 @@ public:
     virtual Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) = 0;
     virtual TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) = 0;
     virtual FileAnswer chooseFile(const FileQuestion& question) = 0;
+    // What is to become of the changes of a drawing that is about to be closed; nothing: ask on the command line.
+    virtual std::optional<SaveChoice> askToSave(std::wstring_view /*drawing*/) { return std::nullopt; }
     // A window at the top was made: a program with a screen attaches its peers here.
     virtual void realise(CWnd& /*window*/) {}
     // A palette was brought to view by the command that has just ended, or in between: what it shows is up to date.
     virtual void paletteShown(const CZkUiPaletteSet& /*palette*/) {}
     // Shows a menu at a point of the screen and waits: the command that was chosen, or 0.
     virtual unsigned trackMenu(const CMenu& /*menu*/, CPoint /*screen*/) { return 0; }
+    // A macro waits for the next command prompt. A question that is open is answered with Esc where it is the command
+    // prompt or the macro cancels what runs.
+    virtual void macroQueued(bool /*cancelsFirst*/) {}
+    // Shows the properties of what is selected in a window of its own; false where there is no such window.
+    virtual bool showProperties() { return false; }
+    // The same of the layers.
+    virtual bool showLayers() { return false; }
+    // Shows or hides the window with all that the command line has said; false where there is none.
+    virtual bool showTextWindow(bool /*show*/) { return false; }
+    // The picture of the current drawing, which ZOOM and the like change; null where no drawing is seen.
+    virtual gs::View* view() { return nullptr; }
     // Something that is shown has changed.
     virtual void redraw() {}
     // How far something long has come, 0 to 1; 1 takes the display away.

@@ -86,6 +86,10 @@ int list(Session& session) {
 }
 
 int properties(Session& session) {
+    if (session.front().showProperties()) {
+        zredSetImpliedSelection(zredImpliedSelection()); // stays when the command ends
+        return RTNORM;
+    }
     ZrDbObjectIdArray ids;
     const int result = listSelected(session, ids);
     // What a command selects stays selected when it ends.

@@ -59,6 +59,10 @@ std::optional<Outcome> Asking::read(Answer answer) {
         if (rules_.wanted == Wanted::Point || rules_.wanted == Wanted::Distance || rules_.wanted == Wanted::Angle)
             return accept(drawing_.worldToUcs(answer.point));
         break;
+    case Answer::Kind::Objects:
+        if (question_.kind == Question::Kind::Selection)
+            return Reading{PickedAnswer{std::move(answer.objects), answer.takesAway}};
+        break;
     case Answer::Kind::Enter:
         if ((rules_.flags & RSG_NONULL) == 0)
             return Enter{};

@@ -33,12 +33,18 @@ public:
         question_.base = base;
         return *this;
     }
+    // The base is the first corner of a rectangle.
+    Asking& toCorner() {
+        question_.baseIsCorner = true;
+        return *this;
+    }
     Asking& as(Question::Kind kind) {
         question_.kind = kind;
         return *this;
     }
-    // Told of each point under the cursor, in world coordinates.
-    Asking& dragging(std::function<void(const ZrGePoint3d&)> sample) {
+    // What moves under the cursor, and who is told of each point under it, in world coordinates.
+    Asking& dragging(const ZrDbEntity* entity, std::function<void(const ZrGePoint3d&)> sample) {
+        question_.dragged = entity;
         sample_ = std::move(sample);
         return *this;
     }

@@ -36,6 +36,7 @@ std::optional<Verdict> CommandProcessor::step() {
         session_.input().dropTypedAhead();
         return Verdict{};
     case Answer::Kind::Point:
+    case Answer::Kind::Objects:
         return Verdict{};
     case Answer::Kind::Text:
         return whyNoText(answer.text) == nullptr ? run(answer.text, byProgram) : refuseBytes(answer.text);

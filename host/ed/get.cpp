@@ -119,10 +119,13 @@ int getInteger(const wchar_t* prompt, long long low, long long high, int& value)
     return result;
 }
 
-int getPoint(const ZrGePoint3d* base, const wchar_t* prompt, ZrGePoint3d& point) {
+int getPoint(const ZrGePoint3d* base, const wchar_t* prompt, ZrGePoint3d& point, bool isCorner = false) {
     const GetCall call(Wanted::Point);
     Reading reading;
-    const int result = call.finish(call.asking(prompt).from(worldOf(base)).run(), reading);
+    Asking asking = call.asking(prompt).from(worldOf(base));
+    if (isCorner)
+        asking.toCorner();
+    const int result = call.finish(asking.run(), reading);
     if (result == RTNORM)
         point = std::get<ZrGePoint3d>(reading);
     return result;
@@ -186,7 +189,7 @@ int zredGetPoint(const ZrGePoint3d* base, const wchar_t* prompt, ZrGePoint3d& po
 }
 
 int zredGetCorner(const ZrGePoint3d& base, const wchar_t* prompt, ZrGePoint3d& point) {
-    return getPoint(&base, prompt, point);
+    return getPoint(&base, prompt, point, true);
 }
 
 int zredGetInput(ZrString& keyword) {

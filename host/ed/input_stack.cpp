@@ -17,6 +17,7 @@ std::wstring_view shown(const Answer& answer) {
     case Answer::Kind::End:
         return L"^C";
     case Answer::Kind::Point:
+    case Answer::Kind::Objects:
     case Answer::Kind::Enter:
     case Answer::Kind::Broken:
         break;
@@ -58,7 +59,10 @@ void InputStack::dropEnded() {
         sources_.pop_back();
 }
 
-void InputStack::queueMacro(std::wstring_view macro) { macros_.push_back(std::make_unique<MacroSource>(macro)); }
+void InputStack::queueMacro(std::wstring_view macro) {
+    macros_.push_back(std::make_unique<MacroSource>(macro));
+    front_.macroQueued(macro.starts_with(L"^C"));
+}
 
 void InputStack::clear() {
     sources_.clear();

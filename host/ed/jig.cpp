@@ -41,7 +41,7 @@ ZrEdJig::DragStatus ZrEdJig::drag() {
     rules.flags = acceptsEnter ? 0 : RSG_NONULL;
     const Outcome outcome = Asking(session, rules, prompt_)
                                 .from(base_)
-                                .dragging([this, &session](const ZrGePoint3d& sample) {
+                                .dragging(entity(), [this, &session](const ZrGePoint3d& sample) {
                                     take(sample);
                                     session.front().redraw();
                                 })

@@ -4,12 +4,14 @@
 #include "host/db/units_settings.h"
 #include "host/ed/keywords.h"
 #include "host/texts/text.h"
+#include "sdk/db/object_id.h"
 #include "sdk/ge/point3d.h"
 
 #include <functional>
 #include <optional>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace quor::ed {
 
@@ -38,11 +40,16 @@ struct KeywordAnswer {
 struct TextAnswer {
     ZrString text;
 };
+// Entities that were picked; only a question for a selection gets them.
+struct PickedAnswer {
+    std::vector<ZrDbObjectId> ids;
+    bool takesAway = false;
+};
 struct Refusal {
     ZrString message;
 };
 // Numbers: whole, real, a distance; an angle in radians. Points: UCS.
-using Reading = std::variant<long long, double, ZrGePoint3d, KeywordAnswer, TextAnswer, Refusal>;
+using Reading = std::variant<long long, double, ZrGePoint3d, KeywordAnswer, TextAnswer, PickedAnswer, Refusal>;
 
 [[nodiscard]] Reading readAnswer(ZrString typed, const Rules& rules, const DrawingRules& drawing);
 // Whether a value that did not come as text (a distance or an angle between two points) is allowed; else the refusal.

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <unordered_set>
+#include <utility>
 
 namespace {
 
@@ -146,12 +147,21 @@ private:
             return pickAt(*point);
         if (const auto* text = std::get_if<TextAnswer>(&reading))
             return pickDirectHandle(text->text);
+        if (const auto* picked = std::get_if<PickedAnswer>(&reading))
+            return takePicked(*picked);
         const std::wstring_view word = std::get<KeywordAnswer>(reading).word;
         const Row* const row =
             std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& r) { return word == r.word; });
         return (this->*row->act)();
     }
 
+    // What was picked on the screen; with Shift it leaves the selection, whatever is going on.
+    bool takePicked(const PickedAnswer& picked) {
+        const bool before = std::exchange(removing_, removing_ || picked.takesAway);
+        const bool goesOn = take(picked.ids);
+        removing_ = before;
+        return goesOn;
+    }
     bool take(ZrDbObjectIdArray found) {
         if (removing_) {
             picked_.remove(found);

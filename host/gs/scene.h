@@ -1,0 +1,106 @@
+// The current space of a drawing, ready to be drawn: lines and triangles in small numbers, in chunks that stand close
+// together, and a mark for each light. Follows the drawing; what one change costs does not grow with the drawing.
+#pragma once
+
+#include "host/gs/camera.h"
+#include "host/gs/shape.h"
+#include "sdk/db/database.h"
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace quor::gs {
+
+// Coordinates relative to Scene::origin(), so that single precision is enough anywhere in the world.
+using Coordinates = std::array<float, 3>;
+struct SceneLine {
+    Coordinates a, b;
+};
+struct SceneTriangle {
+    Coordinates a, b, c;
+};
+
+// What an entity is drawn with: lines and triangles of one colour.
+struct SceneItem {
+    std::uint32_t entity = 0; // number of the entity in the scene
+    std::uint32_t rgb = 0xFFFFFF;
+    std::uint32_t firstLine = 0;
+    std::uint32_t lineCount = 0;
+    std::uint32_t firstTriangle = 0;
+    std::uint32_t triangleCount = 0;
+    bool visible = true; // its layer is on and thawed
+};
+
+// Items that stand together, and the box around them.
+struct SceneChunk {
+    Coordinates low, high;
+    std::uint32_t firstItem = 0;
+    std::uint32_t itemCount = 0;
+};
+
+// How an entity stands out.
+enum class Emphasis : std::uint8_t { None = 0, Hovered = 1, Selected = 2 };
+
+enum class GlyphKind : std::uint8_t { Point, Spot, Web, Distant };
+
+// A light as it is shown and as it shines.
+struct LightMark {
+    ZrDbObjectId id;
+    std::uint32_t entity = 0;
+    GlyphKind kind = GlyphKind::Point;
+    ZrGePoint3d position;
+    ZrGePoint3d target;
+    ZrGeVector3d direction;       // of length 1
+    bool hasTarget = false;
+    double hotspot = 0;           // full angles, radians
+    double falloff = 0;
+    std::uint32_t rgb = 0xFFFFFF; // of what it sends out: filter colour times lamp colour
+    double candela = 0;           // peak intensity times the intensity factor; the factor alone in generic lighting
+    bool isOn = true;
+    bool isGlyphShown = true;     // by its own setting, LIGHTGLYPHDISPLAY, its visibility and its layer
+};
+
+class Scene {
+public:
+    // Follows the drawing from now on, which has to outlive it.
+    explicit Scene(ZrDbDatabase& drawing);
+    ~Scene();
+    Scene(const Scene&) = delete;
+    Scene& operator=(const Scene&) = delete;
+
+    // Takes in what has changed since the last time. `progress` is told a share from 0 to 1 where that is much. Whether
+    // anything is to be drawn anew.
+    bool update(const std::function<void(double)>& progress = {});
+    // All anew at the next update.
+    void regenerate();
+
+    [[nodiscard]] const ZrGePoint3d& origin() const;
+    [[nodiscard]] std::span<const SceneChunk> chunks() const;
+    [[nodiscard]] std::span<const SceneItem> items() const;
+    [[nodiscard]] std::span<const SceneLine> lines() const;
+    [[nodiscard]] std::span<const SceneTriangle> triangles() const;
+    // In drawing order; those that were erased are left out.
+    [[nodiscard]] std::span<const LightMark> lights() const;
+    // Of what is visible; empty when nothing is.
+    [[nodiscard]] Box extents() const;
+
+    // By the number of an entity; null for one that does not exist any more.
+    [[nodiscard]] ZrDbObjectId entityId(std::uint32_t entity) const;
+    [[nodiscard]] std::span<const Emphasis> emphasis() const; // by the number of the entity
+    void setSelected(const std::vector<ZrDbObjectId>& ids);
+    // Null: none.
+    void setHovered(ZrDbObjectId id);
+
+    // The lines that a light shows when it is selected: its target line, its cone (hotspot and falloff), its web.
+    // Two points each, in the world.
+    [[nodiscard]] static std::vector<ZrGePoint3d> lightLines(const ZrDbObjectId& light);
+
+private:
+    class Parts;
+    std::unique_ptr<Parts> parts_;
+};
+
+} // namespace quor::gs
