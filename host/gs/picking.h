@@ -15,7 +15,7 @@ struct PickOptions {
 };
 
 // The nearest entity under the cursor; null for none. Hidden and frozen layers are not hit.
-[[nodiscard]] ZrDbObjectId pickAt(const Scene& scene, const Projector& projector, double x, double y,
+[[nodiscard]] ZrDbObjectId pickAt(const SceneData& scene, const Projector& projector, double x, double y,
                                   const PickOptions& options = {});
 
 struct PixelRect {
@@ -26,7 +26,7 @@ struct PixelRect {
 };
 // Entities that lie wholly inside (window), or also those that the rectangle touches (crossing). In drawing order.
 enum class RectPick { Window, Crossing };
-[[nodiscard]] std::vector<ZrDbObjectId> pickIn(const Scene& scene, const Projector& projector, const PixelRect& rect,
+[[nodiscard]] std::vector<ZrDbObjectId> pickIn(const SceneData& scene, const Projector& projector, const PixelRect& rect,
                                                RectPick how, const PickOptions& options = {});
 
 // Object snaps, as bits of OSMODE.
@@ -43,7 +43,7 @@ struct Snap {
     ZrGePoint3d at;
 };
 // The snap that is meant at the cursor; nothing when none is near.
-[[nodiscard]] std::optional<Snap> snapAt(const Scene& scene, const Projector& projector, double x, double y, int modes,
+[[nodiscard]] std::optional<Snap> snapAt(const SceneData& scene, const Projector& projector, double x, double y, int modes,
                                          double radius = 12);
 
 } // namespace quor::gs

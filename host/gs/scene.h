@@ -63,6 +63,18 @@ struct LightMark {
     bool isGlyphShown = true;     // by its own setting, LIGHTGLYPHDISPLAY, its visibility and its layer
 };
 
+// All that is to be drawn, as it is at the moment; holds until the scene is updated.
+struct SceneData {
+    ZrGePoint3d origin; // what the coordinates below are relative to
+    std::span<const SceneChunk> chunks;
+    std::span<const SceneItem> items;
+    std::span<const SceneLine> lines;
+    std::span<const SceneTriangle> triangles;
+    std::span<const LightMark> lights;      // in drawing order; those that were erased are left out
+    std::span<const ZrDbObjectId> entities; // by their number; null for one that does not exist any more
+    std::span<const Emphasis> emphasis;     // by the number of the entity
+};
+
 class Scene {
 public:
     // Follows the drawing from now on, which has to outlive it.
@@ -77,19 +89,10 @@ public:
     // All anew at the next update.
     void regenerate();
 
-    [[nodiscard]] const ZrGePoint3d& origin() const;
-    [[nodiscard]] std::span<const SceneChunk> chunks() const;
-    [[nodiscard]] std::span<const SceneItem> items() const;
-    [[nodiscard]] std::span<const SceneLine> lines() const;
-    [[nodiscard]] std::span<const SceneTriangle> triangles() const;
-    // In drawing order; those that were erased are left out.
-    [[nodiscard]] std::span<const LightMark> lights() const;
+    [[nodiscard]] SceneData data() const;
     // Of what is visible; empty when nothing is.
     [[nodiscard]] Box extents() const;
 
-    // By the number of an entity; null for one that does not exist any more.
-    [[nodiscard]] ZrDbObjectId entityId(std::uint32_t entity) const;
-    [[nodiscard]] std::span<const Emphasis> emphasis() const; // by the number of the entity
     void setSelected(const std::vector<ZrDbObjectId>& ids);
     // Null: none.
     void setHovered(ZrDbObjectId id);
