@@ -59,7 +59,9 @@ struct Camera {
 };
 
 // Each answers the camera after the movement. Directions that are no directions leave it as it is.
-// Around a point: `across` about the world's z axis, `over` about the horizontal of the picture; radians.
+// Around a point, in radians: the eye turns by `across` about the world's z axis, counterclockwise as seen from above,
+// and rises by `over` about the horizontal of the picture. An eye that stands upright stops when it looks straight
+// down or up.
 [[nodiscard]] Camera orbited(const Camera& camera, const ZrGePoint3d& center, double across, double over);
 // By pixels of the picture; what is under the cursor at the target's distance stays under it.
 [[nodiscard]] Camera panned(const Camera& camera, PictureSize size, double dx, double dy);
