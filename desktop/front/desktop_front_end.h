@@ -1,0 +1,96 @@
+// The host's port to the desktop: questions wait in an event loop of their own until a widget answers them. Widgets hear
+// of questions and texts through signals, and answer with give().
+#pragma once
+
+#include "desktop/front/parts.h"
+
+#include <QObject>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+class QEventLoop;
+
+namespace quor::desktop {
+
+class DesktopFrontEnd final : public QObject, public FrontEnd {
+    Q_OBJECT
+
+public:
+    explicit DesktopFrontEnd(QObject* parent = nullptr);
+    ~DesktopFrontEnd() override;
+
+    // Not owned; null takes one away.
+    void setDialogs(DialogPart* dialogs) { dialogs_ = dialogs; }
+    void setWindows(WindowPart* windows) { windows_ = windows; }
+    void setPanels(PanelPart* panels) { panels_ = panels; }
+    void setView(gs::View* view) { view_ = view; }
+
+    // For the widgets. The question that waits, the innermost one; null while a command works.
+    [[nodiscard]] const Question* question() const;
+    // Whether it is a drag, whose points under the cursor somebody wants to know.
+    [[nodiscard]] bool isDragging() const;
+    // A point under the cursor during a drag, in world coordinates.
+    void sample(const ZrGePoint3d& world);
+    // Answers the question that waits; nothing happens when none does.
+    void give(Answer answer);
+    void giveText(const ZrString& typed);
+    void givePoint(const ZrGePoint3d& world);
+    void giveEnter() { give({Answer::Kind::Enter, {}, {}}); }
+    // Esc.
+    void escape() { give({Answer::Kind::Cancel, {}, {}}); }
+    // What a button or a menu does: Esc until no command runs, then the line as if the person had typed it.
+    void run(const ZrString& line);
+    // The person closes the program: as run(QUIT), with Esc to an open dialog first.
+    void quit();
+
+    void print(std::wstring_view text) override;
+    Answer ask(const Question& question) override;
+    void echo(const Question& question, std::wstring_view answer) override;
+    Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) override;
+    TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) override;
+    FileAnswer chooseFile(const FileQuestion& question) override;
+    std::optional<SaveChoice> askToSave(std::wstring_view drawing) override;
+    void realise(CWnd& window) override;
+    unsigned trackMenu(const CMenu& menu, CPoint screen) override;
+    void macroQueued(bool cancelsFirst) override;
+    bool showProperties() override;
+    bool showLayers() override;
+    bool showTextWindow(bool show) override;
+    gs::View* view() override { return view_; }
+    void redraw() override { Q_EMIT redrawNeeded(); }
+    void progress(std::wstring_view what, double fraction) override;
+
+Q_SIGNALS:
+    void printed(const QString& text);
+    // A question waits: question() tells which. Also when an inner one was answered and the outer one waits again.
+    void questionOpened();
+    // It was answered, by a person or a script; as a command line shows it.
+    void questionAnswered(const QString& prompt, const QString& answer);
+    // How far something long has come; 1 ends it.
+    void progressed(const QString& what, double fraction);
+    void redrawNeeded();
+
+private:
+    using Sample = std::function<void(const ZrGePoint3d&)>;
+    struct Waiting {
+        const Question& question;
+        const Sample* sample;
+        QEventLoop& loop;
+        std::optional<Answer> answer;
+    };
+
+    Answer wait(const Question& question, const Sample* sample);
+    // What is known before anybody is asked: Esc and the line, while a line of run() waits for the command prompt.
+    [[nodiscard]] std::optional<Answer> readyAnswer(const Question& question);
+
+    DialogPart* dialogs_ = nullptr;
+    WindowPart* windows_ = nullptr;
+    PanelPart* panels_ = nullptr;
+    gs::View* view_ = nullptr;
+    std::vector<Waiting*> waiting_; // the innermost one last
+    std::optional<ZrString> line_;  // of run()
+};
+
+} // namespace quor::desktop

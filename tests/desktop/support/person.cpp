@@ -1,0 +1,153 @@
+#include "tests/desktop/support/person.h"
+
+#include "desktop/front/desktop_front_end.h"
+#include "desktop/qt_text.h"
+#include "desktop/window/main_window.h"
+#include "host/document.h"
+#include "host/ed/command_processor.h"
+#include "host/texts/text.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QMenu>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+#include <QTimer>
+
+#include <stdexcept>
+#include <thread>
+
+namespace quor::desktop::test {
+
+namespace {
+
+// Longer than anything takes, so that a program that hangs fails its test.
+constexpr int kPatience = 60'000;
+
+QString screenText;
+
+bool isWaiting(Program& program) {
+    return program.front().question() != nullptr || QApplication::activeModalWidget() != nullptr ||
+           QApplication::activePopupWidget() != nullptr || program.session().processor().quitRequested();
+}
+
+} // namespace
+
+void Person::post(const std::function<void()>& action) {
+    QMetaObject::invokeMethod(qApp, action, Qt::QueuedConnection);
+}
+
+void Person::inProgram(const std::function<void()>& action) {
+    QMetaObject::invokeMethod(qApp, action, Qt::BlockingQueuedConnection);
+}
+
+// Two rounds: what was posted is done in the first, what it queued in the second.
+void Person::waits() {
+    QElapsedTimer clock;
+    clock.start();
+    int rounds = 0;
+    while (rounds < 2) {
+        bool waiting = false;
+        inProgram([&] { waiting = isWaiting(program_); });
+        rounds = waiting ? rounds + 1 : 0;
+        if (clock.elapsed() > kPatience)
+            throw std::runtime_error("the program does not come back to the person");
+        if (!waiting)
+            QThread::msleep(1);
+    }
+}
+
+void Person::does(const std::function<void()>& action) {
+    post(action);
+    waits();
+}
+
+void Person::presses(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    does([=] {
+        QWidget* const widget = QApplication::focusWidget();
+        QTest::keyClick(widget != nullptr ? widget : QApplication::activeWindow(), key, modifiers);
+    });
+}
+
+void Person::types(const QString& line) {
+    does([=] {
+        QWidget* const widget = QApplication::focusWidget();
+        QWidget* const target = widget != nullptr ? widget : QApplication::activeWindow();
+        QTest::keyClicks(target, line);
+        QWidget* const now = QApplication::focusWidget();
+        QTest::keyClick(now != nullptr ? now : target, Qt::Key_Return);
+    });
+}
+
+void Person::takesPicture(const QString& name, QWidget* widget) {
+    inProgram([&] {
+        QDir folder(QString(QUOR_BUILD_DIR) + "/pictures");
+        folder.mkpath(".");
+        QWidget* const shown = widget != nullptr ? widget : &program_.window();
+        shown->grab().save(folder.filePath(name + ".png"));
+    });
+}
+
+QString Person::screen() {
+    return sees([] { return screenText; });
+}
+
+ProgramOptions usualOptions() {
+    ProgramOptions options;
+    options.session.resourceFolder = std::filesystem::path(QUOR_BUILD_DIR) / "share/quor";
+    options.session.moduleFolders = {std::filesystem::path(QUOR_BUILD_DIR) / "lib/quor"};
+    options.session.language = L"zh";
+    return options;
+}
+
+void withProgram(ProgramOptions options, const std::function<void(Person&)>& story) {
+    const QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", (home.path() + "/config").toUtf8());
+    qputenv("XDG_STATE_HOME", (home.path() + "/state").toUtf8());
+    if (options.session.settingsFile.empty())
+        options.session.settingsFile = (home.path() + "/settings.ini").toStdString();
+    setLanguage(options.session.language == L"en" ? Language::English : Language::Chinese);
+    screenText.clear();
+    std::string problem;
+    {
+        Program program(std::move(options));
+        QObject::connect(&program.front(), &DesktopFrontEnd::printed, qApp,
+                         [](const QString& text) { screenText += text; });
+        QObject::connect(&program.front(), &DesktopFrontEnd::questionAnswered, qApp,
+                         [](const QString& prompt, const QString& answer) { screenText += prompt + answer + "\n"; });
+        std::thread teller([&] {
+            Person person(program);
+            try {
+                person.waits();
+                story(person);
+            } catch (const std::exception& error) {
+                problem = error.what();
+            }
+            QMetaObject::invokeMethod(
+                qApp,
+                [&program] {
+                    while (QWidget* const dialog = QApplication::activeModalWidget())
+                        if (auto* const open = qobject_cast<QDialog*>(dialog))
+                            open->reject();
+                        else
+                            dialog->close();
+                    program.session().processor().requestQuit();
+                    program.front().run(L"._CMDECHO");
+                },
+                Qt::QueuedConnection);
+        });
+        QTimer::singleShot(0, qApp, [&] {
+            program.run();
+            QApplication::quit();
+        });
+        QApplication::exec();
+        teller.join();
+    }
+    if (!problem.empty())
+        throw std::runtime_error(problem);
+}
+
+} // namespace quor::desktop::test
