@@ -82,6 +82,7 @@ struct FileQuestion {
 struct FileAnswer {
     std::optional<ZrString> file;
     bool inputEnded = false; // cancelled because there is no more input
+    bool mayReplace = false; // the person was asked whether a file that exists is to be replaced
 };
 
 // Protocol of a question: print() its prompt is the front end's business inside ask(); the host prints everything else.
@@ -106,6 +107,8 @@ public:
     virtual Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) = 0;
     virtual TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) = 0;
     virtual FileAnswer chooseFile(const FileQuestion& question) = 0;
+    // Whether files are chosen in a dialog: commands ask there first, unless FILEDIA is 0.
+    [[nodiscard]] virtual bool hasDialogs() const { return false; }
     // What is to become of the changes of a drawing that is about to be closed; nothing: ask on the command line.
     virtual std::optional<SaveChoice> askToSave(std::wstring_view /*drawing*/) { return std::nullopt; }
     // A window at the top was made: a program with a screen attaches its peers here.
@@ -125,6 +128,8 @@ public:
     virtual bool showTextWindow(bool /*show*/) { return false; }
     // The picture of the current drawing, which ZOOM and the like change; null where no drawing is seen.
     virtual gs::View* view() { return nullptr; }
+    // Whether the desktop around the program is dark; without one it counts as dark.
+    [[nodiscard]] virtual bool desktopIsDark() const { return true; }
     // Something that is shown has changed.
     virtual void redraw() {}
     // How far something long has come, 0 to 1; 1 takes the display away.

@@ -26,6 +26,7 @@ public:
     void setWindows(WindowPart* windows) { windows_ = windows; }
     void setPanels(PanelPart* panels) { panels_ = panels; }
     void setView(gs::View* view) { view_ = view; }
+    void setDesktopIsDark(bool dark) { desktopIsDark_ = dark; }
 
     // For the widgets. The question that waits, the innermost one; null while a command works.
     [[nodiscard]] const Question* question() const;
@@ -51,6 +52,8 @@ public:
     Answer drag(const Question& question, const std::function<void(const ZrGePoint3d&)>& sample) override;
     TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) override;
     FileAnswer chooseFile(const FileQuestion& question) override;
+    [[nodiscard]] bool hasDialogs() const override { return dialogs_ != nullptr; }
+    [[nodiscard]] bool desktopIsDark() const override { return desktopIsDark_; }
     std::optional<SaveChoice> askToSave(std::wstring_view drawing) override;
     void realise(CWnd& window) override;
     unsigned trackMenu(const CMenu& menu, CPoint screen) override;
@@ -89,6 +92,7 @@ private:
     WindowPart* windows_ = nullptr;
     PanelPart* panels_ = nullptr;
     gs::View* view_ = nullptr;
+    bool desktopIsDark_ = true;
     std::vector<Waiting*> waiting_; // the innermost one last
     std::optional<ZrString> line_;  // of run()
 };

@@ -1,12 +1,14 @@
 #include "host/commands/drawing_files.h"
 
 #include "host/commands/ask.h"
+#include "host/commands/ask_file.h"
 #include "host/commands/save_place.h"
 #include "host/db/ref_edit.h"
 #include "host/db/versions.h"
 #include "host/session.h"
 #include "host/texts/files.h"
 #include "host/texts/ref_edit.h"
+#include "host/ui/file_dialog.h"
 
 #include <algorithm>
 
@@ -65,6 +67,17 @@ constexpr PlaceTexts kPlaceOfADrawing{.isFolder = texts::kIsFolder,
                                       .isOpenDrawing = texts::kOpenElsewhere,
                                       .notReplaced = texts::kNotReplaced};
 
+FileAnswer chooseSavePath(Session& session, const Document& document) {
+    FileQuestion chooser;
+    chooser.caption = texts::kChooseSave.get();
+    chooser.filters = {{texts::kDxfFiles.get(), L"*.dxf"}};
+    chooser.initialName = document.path().empty() ? document.fileName() + L".dxf" : textOf(document.path());
+    chooser.forSaving = true;
+    return ui::chooseFileFully(session, chooser);
+}
+
+FileAnswer typeSavePath() { return {askLine(texts::kAskSavePath.get())}; }
+
 } // namespace
 
 int openPath(Session& session, const fs::path& file, bool recover) {
@@ -108,11 +121,12 @@ int askSavePath(Session& session, const Document& document, fs::path& path) {
         printText(L"\n" + fillShown(texts::kNotSavedWhileEditing, editing.blockName()) + L"\n");
         return RTERROR;
     }
-    const std::optional<ZrString> answer = askLine(texts::kAskSavePath.get());
-    if (!answer || answer->empty())
+    const FileAnswer answer = asksInDialog(session) ? chooseSavePath(session, document) : typeSavePath();
+    if (!answer.file || answer.file->empty())
         return RTCAN;
-    path = withExtension(absolutePath(pathFromText(*answer)));
-    return checkPlace(session, path, &document, kPlaceOfADrawing);
+    const fs::path given = absolutePath(pathFromText(*answer.file));
+    path = withExtension(given);
+    return checkPlace(session, path, &document, kPlaceOfADrawing, answer.mayReplace && path == given);
 }
 
 int saveTo(Document& document, const fs::path& path) {

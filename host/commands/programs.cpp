@@ -1,10 +1,12 @@
 #include "host/commands/ask.h"
+#include "host/commands/ask_file.h"
 #include "host/commands/commands.h"
 #include "host/ed/input_stack.h"
 #include "host/ed/script_source.h"
 #include "host/rx/module_loader.h"
 #include "host/session.h"
 #include "host/texts/commands.h"
+#include "host/ui/file_dialog.h"
 #include "sdk/rx/dynamic_linker.h"
 
 namespace quor::commands {
@@ -20,11 +22,22 @@ int listModules(Session& session) {
     return RTNORM;
 }
 
+std::optional<ZrString> chooseOrType(Session& session, const Text& prompt, const Text& caption,
+                                     FileQuestion::Filter filter) {
+    if (!asksInDialog(session))
+        return askLine(prompt.get());
+    FileQuestion chooser;
+    chooser.caption = caption.get();
+    chooser.filters = {std::move(filter)};
+    return ui::chooseFile(session, chooser);
+}
+
 } // namespace
 
 // The script answers from the next command prompt on.
 int script(Session& session) {
-    const std::optional<ZrString> answer = askLine(texts::kAskScript.get());
+    const std::optional<ZrString> answer =
+        chooseOrType(session, texts::kAskScript, texts::kChooseScript, {texts::kScriptFiles.get(), L"*.scr"});
     if (!answer || answer->empty())
         return RTCAN;
     auto source = ed::ScriptSource::open(pathFromText(*answer));
@@ -40,7 +53,8 @@ int script(Session& session) {
 }
 
 int loadModule(Session& session) {
-    const std::optional<ZrString> answer = askLine(texts::kAskModule.get());
+    const std::optional<ZrString> answer =
+        chooseOrType(session, texts::kAskModule, texts::kChooseModule, {texts::kModuleFiles.get(), L"*.so"});
     if (!answer || answer->empty())
         return RTCAN;
     if (*answer == L"?")

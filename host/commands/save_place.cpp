@@ -9,7 +9,8 @@ namespace quor::commands {
 
 namespace fs = std::filesystem;
 
-int checkPlace(Session& session, const fs::path& path, const Document* own, const PlaceTexts& place) {
+int checkPlace(Session& session, const fs::path& path, const Document* own, const PlaceTexts& place,
+               bool mayReplace) {
     std::error_code error;
     if (fs::is_directory(path, error))
         return failWith(place.isFolder, textOf(path));
@@ -21,7 +22,7 @@ int checkPlace(Session& session, const fs::path& path, const Document* own, cons
     const Document* open = openDocument(session, path);
     if (open != nullptr && open != own)
         return failWith(place.isOpenDrawing, textOf(path));
-    if (open != nullptr || !fs::exists(path, error))
+    if (open != nullptr || mayReplace || !fs::exists(path, error))
         return RTNORM;
     const std::optional<bool> replace = askYesNo(fillShown(texts::kAskReplace, textOf(path)), false);
     if (!replace)

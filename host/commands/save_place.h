@@ -22,8 +22,8 @@ struct PlaceTexts {
 };
 
 // Says why nothing can be written there, and asks before it replaces a file. `own`: the open drawing that may be
-// written to its file again, unasked; null: none. RTNORM, RTCAN for Esc, RTERROR after a message.
+// written to its file again, unasked; null: none. `mayReplace`: the person has said so already. RTNORM, RTCAN for Esc, RTERROR after a message.
 [[nodiscard]] int checkPlace(Session& session, const std::filesystem::path& path, const Document* own,
-                             const PlaceTexts& place);
+                             const PlaceTexts& place, bool mayReplace = false);
 
 } // namespace quor::commands

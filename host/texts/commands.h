@@ -133,6 +133,10 @@ inline constexpr Text kVariableFromNextStart{L"\n%s 的新值从下次启动起�
 
 // SCRIPT, LOADMODULE.
 inline constexpr Text kAskScript{L"\n输入脚本文件名: ", L"\nEnter script file name: "};
+inline constexpr Text kChooseScript{L"运行脚本", L"Run script"};
+inline constexpr Text kScriptFiles{L"脚本", L"Scripts"};
+inline constexpr Text kChooseModule{L"加载模块", L"Load module"};
+inline constexpr Text kModuleFiles{L"模块", L"Modules"};
 inline constexpr Text kAskModule{L"\n输入模块的文件名或 [?]: ", L"\nEnter module file name or [?]: "};
 inline constexpr Text kModuleLoaded{L"\n已加载模块 %s。\n", L"\nModule %s loaded.\n"};
 inline constexpr Text kNoModules{L"\n未加载任何模块。\n", L"\nNo modules are loaded.\n"};

@@ -22,6 +22,7 @@ inline constexpr Text kAskDocument{L"\n输入要切换到的图形的编号或�
 // Captions of the file chooser.
 inline constexpr Text kChooseOpen{L"打开图形", L"Open drawing"};
 inline constexpr Text kChooseRecover{L"修复图形", L"Recover drawing"};
+inline constexpr Text kChooseSave{L"图形另存为", L"Save drawing as"};
 inline constexpr Text kDxfFiles{L"DXF 图形", L"DXF drawings"};
 
 // Progress.

@@ -41,8 +41,8 @@ struct VariableNote {
 };
 inline constexpr VariableNote variableNotes[] = {
     {L"COLORTHEME",
-     {L"0 为深色，1 为浅色；用于有窗口的程序中的选项板，以后运行时仍然有效。",
-      L"0 is dark, 1 is light; for palettes in programs with windows. Kept for later runs."}},
+     {L"0 为深色，1 为浅色，2 与桌面相同；用于有窗口的程序，以后运行时仍然有效。",
+      L"0 is dark, 1 is light, 2 is as the desktop; for programs with windows. Kept for later runs."}},
     {L"DEFAULTLIGHTING",
      {L"1 为打开默认光源，0 为关闭。打开时，光源命令先问是否关闭它；脚本中不问。\n"
       L"勾选“始终执行我的当前选择”后不再询问；要恢复询问，请从设置文件\n"
@@ -50,6 +50,9 @@ inline constexpr VariableNote variableNotes[] = {
       L"1 turns default lighting on, 0 off. While it is on, light commands first ask whether to turn it off; a\n"
       L"script is not asked. Once its check box is selected, the question is not asked again; to restore it,\n"
       L"remove allowCurSelectDialog from the settings file (~/.config/quor/settings.ini)."}},
+    {L"FILEDIA",
+     {L"1 为在对话框中选择文件，0 为在命令行中输入；用于有窗口的程序。脚本中总是输入。",
+      L"1 asks for files in a dialog, 0 on the command line; for programs with windows. Scripts always type them."}},
     {L"LANGUAGE",
      {L"zh 为中文，en 为英文，auto 依照环境变量: LC_ALL、LC_MESSAGES、LANG 中\n"
       L"第一个有值的以 en 开头时为英文，否则为中文。\n"

@@ -16,13 +16,17 @@ FileAnswer show(Session& session, const FileQuestion& question) {
 
 } // namespace
 
-std::optional<ZrString> chooseFile(Session& session, const FileQuestion& question) {
+FileAnswer chooseFileFully(Session& session, const FileQuestion& question) {
     FileAnswer answer = show(session, question);
     if (answer.inputEnded)
         session.processor().reportEndOfInput();
     else if (!answer.file)
         session.processor().reportEscape();
-    return std::move(answer.file);
+    return answer;
+}
+
+std::optional<ZrString> chooseFile(Session& session, const FileQuestion& question) {
+    return chooseFileFully(session, question).file;
 }
 
 } // namespace quor::ui

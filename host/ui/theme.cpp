@@ -61,7 +61,11 @@ COLORREF Theme::color(int element) const { return colorIn(kElements, element, is
 
 bool Theme::isDark() const {
     constexpr short kDark = 0;
-    return !Session::exists() || Session::current().variables().number(L"COLORTHEME", kDark) == kDark;
+    constexpr short kAsDesktop = 2;
+    if (!Session::exists())
+        return true;
+    const short theme = Session::current().variables().number(L"COLORTHEME", kDark);
+    return theme == kDark || (theme == kAsDesktop && Session::current().front().desktopIsDark());
 }
 
 } // namespace quor::ui
