@@ -53,14 +53,14 @@ struct LightMark {
     GlyphKind kind = GlyphKind::Point;
     ZrGePoint3d position;
     ZrGePoint3d target;
-    ZrGeVector3d direction;       // of length 1
+    ZrGeVector3d direction; // of length 1
     bool hasTarget = false;
-    double hotspot = 0;           // full angles, radians
+    double hotspot = 0; // full angles, radians
     double falloff = 0;
     std::uint32_t rgb = 0xFFFFFF; // of what it sends out: filter colour times lamp colour
     double candela = 0;           // peak intensity times the intensity factor; the factor alone in generic lighting
     bool isOn = true;
-    bool isGlyphShown = true;     // by its own setting, LIGHTGLYPHDISPLAY, its visibility and its layer
+    bool isGlyphShown = true; // by its own setting, LIGHTGLYPHDISPLAY, its visibility and its layer
 };
 
 // All that is to be drawn, as it is at the moment; holds until the scene is updated.
