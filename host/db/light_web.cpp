@@ -58,11 +58,14 @@ LightWeb readLightWeb(const ZrString& path, ZrString* reason) {
     return {statusOf(file.error().kind), 0, WebSymmetry::kUnknown};
 }
 
-WebSymmetry symmetryOfKeptWeb(const ZrString& kept) {
+std::optional<std::filesystem::path> findKeptWeb(const ZrString& kept) {
     if (kept.empty())
-        return WebSymmetry::kUnknown;
-    const std::optional<std::filesystem::path> file =
-        webFinder() ? webFinder()(kept) : std::filesystem::path(toUtf8(kept));
+        return std::nullopt;
+    return webFinder() ? webFinder()(kept) : std::filesystem::path(toUtf8(kept));
+}
+
+WebSymmetry symmetryOfKeptWeb(const ZrString& kept) {
+    const std::optional<std::filesystem::path> file = findKeptWeb(kept);
     if (!file)
         return WebSymmetry::kUnknown;
     const ies::LoadedWeb web = ies::loadWeb(*file);

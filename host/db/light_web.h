@@ -22,7 +22,10 @@ struct LightWeb {
 // The symmetry of the file that a path kept in a drawing stands for; kUnknown when there is none that can be read.
 [[nodiscard]] WebSymmetry symmetryOfKeptWeb(const ZrString& kept);
 
-// Where to look for that file; without a finder a path stands for itself.
+// That file; nothing when it is not found.
+[[nodiscard]] std::optional<std::filesystem::path> findKeptWeb(const ZrString& kept);
+
+// Where to look for it; without a finder a path stands for itself.
 using WebFinder = std::function<std::optional<std::filesystem::path>(const ZrString& kept)>;
 void setWebFinder(WebFinder finder);
 
