@@ -3,6 +3,7 @@
 #include "host/db/data.h"
 #include "host/db/database.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -67,6 +68,18 @@ ZrGeMatrix3d placementOf(const DrawingFile& file, const dxf::Record& record, con
     return planeOf(file, record) * inPlane * fromBase;
 }
 
+void readArray(const DrawingFile& file, const dxf::Record& record, BlockReference& reference) {
+    reference.columns = std::max<std::int64_t>(wholeOf(file, record, 70, 1), 1);
+    reference.rows = std::max<std::int64_t>(wholeOf(file, record, 71, 1), 1);
+    reference.isArray = reference.columns > 1 || reference.rows > 1;
+    if (!reference.isArray)
+        return;
+    const ZrGeMatrix3d plane = planeOf(file, record);
+    const ZrGeVector3d xAxis = turnedXAxis(realOf(file, record, 50, 0));
+    reference.columnStep = plane * (xAxis * realOf(file, record, 44, 0));
+    reference.rowStep = plane * (ZrGeVector3d(-xAxis.y, xAxis.x, 0) * realOf(file, record, 45, 0));
+}
+
 } // namespace
 
 std::optional<BlockReference> readBlockReference(Database& database, const ObjectEntry& entity) {
@@ -80,7 +93,7 @@ std::optional<BlockReference> readBlockReference(Database& database, const Objec
     reference.block = database.structure().findBlock(reference.name);
     reference.position = planeOf(file, record) * pointOf(file, record, 10, {});
     reference.placement = placementOf(file, record, basePoint(file, reference.block));
-    reference.isArray = wholeOf(file, record, 70, 1) > 1 || wholeOf(file, record, 71, 1) > 1;
+    readArray(file, record, reference);
     reference.isFlat = reference.placement.isSingular();
     return reference;
 }

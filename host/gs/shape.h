@@ -2,10 +2,10 @@
 #pragma once
 
 #include "host/db/object_entry.h"
-#include "sdk/ge/matrix3d.h"
 #include "sdk/ge/point3d.h"
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 namespace quor::db {
@@ -30,6 +30,9 @@ struct Part {
     std::uint32_t lineCount = 0;
     std::uint32_t firstTriangle = 0;
     std::uint32_t triangleCount = 0;
+    // Whose colour counts instead, of what is drawn in the colour of a reference on another layer; null: that of
+    // `layer`.
+    const db::ObjectEntry* colorLayer = nullptr;
 };
 
 struct Shape {
@@ -41,10 +44,28 @@ struct Shape {
 };
 
 // Appends what the entity looks like; nothing for a kind that has no look here (lights have marks of their own), for an
-// invisible one, and where its record makes no sense. An entity of a block stands where `placement` puts it. Whatever a
-// drawing says, a shape has at most kMostPrimitives.
+// invisible or erased one, and where its record makes no sense. A reference to a block shows what is in the block,
+// where and as the reference wants it. Whatever a drawing says, one entity adds at most kMostPrimitives.
 inline constexpr std::size_t kMostPrimitives = 2'000'000;
 void appendShape(Shape& shape, db::Database& drawing, const db::ObjectEntry& entity);
+
+// Gives the shapes of many entities of a drawing faster than one by one: what blocks look like is read once.
+class ShapeReader {
+public:
+    explicit ShapeReader(db::Database& drawing);
+    ~ShapeReader();
+    ShapeReader(const ShapeReader&) = delete;
+    ShapeReader& operator=(const ShapeReader&) = delete;
+
+    // As appendShape.
+    void append(Shape& shape, const db::ObjectEntry& entity);
+    // To be called when blocks or layers of the drawing have changed since the last shape.
+    void forget();
+
+private:
+    class Parts;
+    std::unique_ptr<Parts> parts_;
+};
 
 // Places on an entity that are picked exactly.
 struct SnapPoint {

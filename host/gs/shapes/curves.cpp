@@ -17,9 +17,7 @@ int segmentsOf(double sweep) {
 
 } // namespace
 
-ZrGePoint3d EllipseArc::at(double angle) const {
-    return center + major * std::cos(angle) + minor * std::sin(angle);
-}
+ZrGePoint3d EllipseArc::at(double angle) const { return center + major * std::cos(angle) + minor * std::sin(angle); }
 
 EllipseArc EllipseArc::placedBy(const ZrGeMatrix3d& matrix) const {
     return {matrix * center, matrix * major, matrix * minor, start, sweep};

@@ -13,9 +13,7 @@ bool isDrawable(double coordinate) { return std::abs(coordinate) <= kFarthest; }
 
 } // namespace
 
-bool isDrawable(const ZrGePoint3d& point) {
-    return isDrawable(point.x) && isDrawable(point.y) && isDrawable(point.z);
-}
+bool isDrawable(const ZrGePoint3d& point) { return isDrawable(point.x) && isDrawable(point.y) && isDrawable(point.z); }
 
 void Drawn::clear() {
     lines.clear();

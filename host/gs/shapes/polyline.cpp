@@ -11,7 +11,7 @@ namespace quor::gs {
 
 namespace {
 
-using Head = Values<10, 20, 30, 70, 71, 72, 73, 74, 210, 220, 230>;
+using Whole = Values<10, 20, 30, 70, 71, 72, 73, 74, 210, 220, 230>;
 using Vertex = Values<10, 20, 30, 42, 70, 71, 72, 73, 74>;
 
 // Of the whole.
@@ -43,7 +43,7 @@ bool forEachVertex(const Source& source, Take&& take) {
 
 bool isFrame(const Vertex& vertex) { return (vertex.whole<70>() & kFrame) != 0; }
 
-void showInPlane(const Source& source, const Head& head, Pen& pen) {
+void showInPlane(const Source& source, const Whole& head, Pen& pen) {
     std::vector<PlaneVertex> vertices;
     const double elevation = head.real<30>();
     const bool isWhole = forEachVertex(source, [&](const Vertex& vertex) {
@@ -64,7 +64,7 @@ std::vector<ZrGePoint3d> curvePoints(const Source& source) {
     return isWhole ? points : std::vector<ZrGePoint3d>();
 }
 
-void showInSpace(const Source& source, const Head& head, Pen& pen) {
+void showInSpace(const Source& source, const Whole& head, Pen& pen) {
     const std::vector<ZrGePoint3d> points = curvePoints(source);
     for (std::size_t i = 1; i < points.size(); ++i)
         pen.edge(points[i - 1], points[i]);
@@ -73,7 +73,7 @@ void showInSpace(const Source& source, const Head& head, Pen& pen) {
 }
 
 // A smoothed mesh has as many rows and columns as it was divided into.
-void showMesh(const Source& source, const Head& head, Pen& pen) {
+void showMesh(const Source& source, const Whole& head, Pen& pen) {
     const std::vector<ZrGePoint3d> points = curvePoints(source);
     const auto size = [](int number) { return static_cast<std::size_t>(std::max(number, 0)); };
     Grid grid{points, size(head.whole<71>()), size(head.whole<72>()), (head.whole<70>() & kClosed) != 0,
@@ -127,7 +127,7 @@ void showFaces(const Source& source, Pen& pen) {
 } // namespace
 
 void showPolyline(const Source& source, Pen& pen) {
-    const Head head(source);
+    const Whole head(source);
     if (head.isBroken())
         return;
     const int flags = head.whole<70>();

@@ -75,7 +75,7 @@ Head readHead(db::Database& drawing, const db::ObjectEntry& entity, LayerFinder&
     static constexpr dxf::CodeSet kWanted{kMarker, kLayer, kInvisible, kColorIndex, kTrueColor};
     Head head;
     const auto* const data =
-        entity.object == nullptr ? nullptr : dynamic_cast<const ZrDbEntityData*>(entity.object->hostData());
+        entity.object == nullptr ? nullptr : dynamic_cast<const ZrDbEntityData*>(entity.object->hostData().get());
     if (entity.isInFile()) {
         const dxf::Record& record = drawing.file().record(entity.record);
         dxf::TagReader reader = drawing.file().tags(record);

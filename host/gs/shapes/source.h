@@ -18,7 +18,7 @@ struct Source {
     // Null while nobody opened the entity: its record says all then.
     template <class Data>
     [[nodiscard]] const Data* opened() const {
-        return entity.object == nullptr ? nullptr : dynamic_cast<const Data*>(entity.object->hostData());
+        return entity.object == nullptr ? nullptr : dynamic_cast<const Data*>(entity.object->hostData().get());
     }
 };
 
@@ -31,6 +31,7 @@ public:
         bool isZero = true;
     };
     [[nodiscard]] Found find(const dxf::Tag& name);
+    void forget() { hasLast_ = false; }
 
 private:
     db::Database& drawing_;
