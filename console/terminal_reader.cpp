@@ -12,7 +12,7 @@ namespace quor::console {
 
 namespace {
 
-constexpr int kRecalledLines = static_cast<int>(History::kMostLines);
+constexpr int kRecalledLines = static_cast<int>(ed::History::kMostLines);
 
 // The editing library writes characters in the locale's encoding; files and pipes never depend on it.
 void useUtf8() {
@@ -41,7 +41,7 @@ struct TerminalReader::Calls {
 void TerminalReader::EndEditor::operator()(editline* editor) const { el_end(editor); }
 void TerminalReader::EndHistory::operator()(historyW* history) const { history_wend(history); }
 
-TerminalReader::TerminalReader(Output& output, History history, Source source)
+TerminalReader::TerminalReader(Output& output, ed::History history, Source source)
     : output_(output), history_(std::move(history)), source_(std::move(source)),
       keys_(STDIN_FILENO, [this] { drawAnew(); }) {
     useUtf8();
@@ -119,7 +119,7 @@ Line TerminalReader::read(const Question& question) {
 unsigned char TerminalReader::completeAtCaret() {
     const LineInfoW* info = el_wline(editor_.get());
     const std::wstring_view typed(info->buffer, static_cast<std::size_t>(info->cursor - info->buffer));
-    const Completion completion = complete(typed, source_(*question_));
+    const ed::Completion completion = ed::complete(typed, source_(*question_));
     if (completion.candidates.empty())
         return CC_ERROR;
     const std::wstring_view word = typed.substr(completion.from);

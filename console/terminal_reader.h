@@ -1,11 +1,11 @@
 // Lines from a person at a terminal: editing, history, completion.
 #pragma once
 
-#include "console/completion.h"
-#include "console/history.h"
 #include "console/line_reader.h"
 #include "console/output.h"
 #include "console/terminal_keys.h"
+#include "host/ed/completion.h"
+#include "host/ed/history.h"
 
 #include <memory>
 
@@ -18,9 +18,9 @@ namespace quor::console {
 class TerminalReader final : public LineReader {
 public:
     // What Tab may offer at a question; asked when Tab is pressed.
-    using Source = std::function<CompletionSource(const Question&)>;
+    using Source = std::function<ed::CompletionSource(const Question&)>;
 
-    TerminalReader(Output& output, History history, Source source);
+    TerminalReader(Output& output, ed::History history, Source source);
     ~TerminalReader() override;
     TerminalReader(const TerminalReader&) = delete;
     TerminalReader& operator=(const TerminalReader&) = delete;
@@ -49,7 +49,7 @@ private:
     [[nodiscard]] int rowOf(const wchar_t* place) const;
 
     Output& output_;
-    History history_;
+    ed::History history_;
     Source source_;
     TerminalKeys keys_;
     std::unique_ptr<historyW, EndHistory> recalled_;

@@ -1,13 +1,13 @@
 #include "console/typing_stage.h"
 
 #include "console/exit_status.h"
-#include "console/folder_names.h"
 #include "console/script_stage.h"
 #include "console/signals.h"
 #include "console/terminal_reader.h"
 #include "host/db/ref_edit.h"
 #include "host/document.h"
 #include "host/ed/command_processor.h"
+#include "host/ed/completion_source.h"
 #include "host/ed/input_stack.h"
 #include "host/sys/utf8.h"
 #include "host/sys/visible_text.h"
@@ -21,18 +21,6 @@ namespace quor::console {
 namespace {
 
 namespace words = texts::console;
-
-CompletionSource sourceFor(Session& session, const Question& question) {
-    CompletionSource source;
-    source.atCommandPrompt = question.kind == Question::Kind::Command;
-    source.acceptsBlanks = question.acceptsBlanks;
-    source.acceptsText = question.kind == Question::Kind::Text;
-    source.keywords = question.keywords;
-    source.files = folderNames;
-    for (const ed::Command* command : session.commands().all())
-        source.commands.push_back({command->globalName, command->localName});
-    return source;
-}
 
 // Asks for one command and runs it with all that it starts; nothing when the input has ended.
 std::optional<int> typeOne(const TypingRoom& room) {
@@ -73,8 +61,8 @@ void warnOfTheEnd(Session& session) {
 
 // Ctrl+D with unsaved changes warns once; pressed again at once it ends the session. With -o the end saves.
 int typeOnTerminal(const TypingRoom& room) {
-    TerminalReader reader(room.output, History(History::defaultFile()),
-                          [&](const Question& question) { return sourceFor(room.session, question); });
+    TerminalReader reader(room.output, ed::History(ed::History::defaultFile()),
+                          [&](const Question& question) { return ed::completionSource(room.session, question); });
     room.front.setReader(&reader);
     say(words::kBanner, fromUtf8(QUOR_VERSION));
     bool warned = false;

@@ -10,6 +10,11 @@ TEST(Columns, WordsRunDownTheColumnsThatFit) {
     EXPECT_EQ(inColumns({L"a", L"bb", L"cc"}, 4), L"a\nbb\ncc\n");
 }
 
+TEST(Columns, WideCharactersCountTwice) {
+    EXPECT_EQ(inColumns({L"点光源", L"ab", L"c"}, 20), L"点光源  c\nab\n");
+    EXPECT_EQ(inColumns({L"longer than the screen", L"b"}, 10), L"longer than the screen\nb\n");
+}
+
 TEST(Columns, CursorBehindAFullRowStandsOnTheNextOne) {
     EXPECT_EQ(lastRowOf(L"", 5), 0);
     EXPECT_EQ(lastRowOf(L"abcd", 5), 0);

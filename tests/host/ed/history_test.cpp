@@ -1,11 +1,10 @@
-#include "console/columns.h"
-#include "console/history.h"
+#include "host/ed/history.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-namespace quor::console {
+namespace quor::ed {
 namespace {
 
 class HistoryTest : public testing::Test {
@@ -46,10 +45,5 @@ TEST_F(HistoryTest, PlaceThatCannotBeWrittenIsNoError) {
     EXPECT_TRUE(history.load().empty());
 }
 
-TEST(ColumnsTest, WordsRunDownTheColumnsAndWideCharactersCountTwice) {
-    EXPECT_EQ(inColumns({L"点光源", L"ab", L"c"}, 20), L"点光源  c\nab\n");
-    EXPECT_EQ(inColumns({L"longer than the screen", L"b"}, 10), L"longer than the screen\nb\n");
-}
-
 } // namespace
-} // namespace quor::console
+} // namespace quor::ed

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <vector>
 
-namespace quor::console {
+namespace quor::ed {
 
 // Best effort: without a file that can be read or written there is no history, and nobody is told.
 class History {
@@ -27,4 +27,4 @@ private:
     std::filesystem::path file_;
 };
 
-} // namespace quor::console
+} // namespace quor::ed

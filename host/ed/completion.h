@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-namespace quor::console {
+namespace quor::ed {
 
 struct CommandName {
     ZrString global;
@@ -23,6 +23,7 @@ struct CompletionSource {
     bool acceptsBlanks = false;
     bool acceptsText = false; // a path may be meant
     std::vector<CommandName> commands;
+    std::vector<ZrString> otherNames; // aliases, system variables; offered once their beginning is typed
     std::span<const ZrString> keywords;
     FolderLister files;
 };
@@ -39,4 +40,4 @@ struct Completion {
 // `typed`: the line up to the caret.
 [[nodiscard]] Completion complete(std::wstring_view typed, const CompletionSource& source);
 
-} // namespace quor::console
+} // namespace quor::ed

@@ -1,8 +1,8 @@
-#include "console/completion.h"
+#include "host/ed/completion.h"
 
 #include <gtest/gtest.h>
 
-namespace quor::console {
+namespace quor::ed {
 namespace {
 
 using Words = std::vector<ZrString>;
@@ -88,4 +88,4 @@ TEST(CompletionTest, WhatFitsNothingHasNoCandidates) {
 }
 
 } // namespace
-} // namespace quor::console
+} // namespace quor::ed

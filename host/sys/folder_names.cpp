@@ -1,4 +1,4 @@
-#include "console/folder_names.h"
+#include "host/sys/folder_names.h"
 
 #include "host/sys/utf8.h"
 
@@ -7,7 +7,7 @@
 
 namespace fs = std::filesystem;
 
-namespace quor::console {
+namespace quor {
 
 namespace {
 
@@ -31,4 +31,4 @@ std::vector<ZrString> folderNames(const ZrString& folder) {
     return names;
 }
 
-} // namespace quor::console
+} // namespace quor

@@ -5,10 +5,10 @@
 
 #include <vector>
 
-namespace quor::console {
+namespace quor {
 
 // Those of folders end with "/". "~/" at the start of the folder is the home folder. Empty for a folder that cannot be
 // read.
 [[nodiscard]] std::vector<ZrString> folderNames(const ZrString& folder);
 
-} // namespace quor::console
+} // namespace quor

@@ -1,4 +1,4 @@
-#include "console/history.h"
+#include "host/ed/history.h"
 
 #include "host/sys/utf8.h"
 
@@ -9,7 +9,7 @@
 
 namespace fs = std::filesystem;
 
-namespace quor::console {
+namespace quor::ed {
 
 namespace {
 
@@ -60,4 +60,4 @@ void History::add(std::wstring_view line) const {
         append(file_, toUtf8(line) + '\n', O_APPEND);
 }
 
-} // namespace quor::console
+} // namespace quor::ed

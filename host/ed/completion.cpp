@@ -1,10 +1,10 @@
-#include "console/completion.h"
+#include "host/ed/completion.h"
 
 #include "host/sys/case_fold.h"
 
 #include <algorithm>
 
-namespace quor::console {
+namespace quor::ed {
 
 namespace {
 
@@ -12,18 +12,21 @@ constexpr std::wstring_view kMarks = L"'._";
 constexpr std::wstring_view kBlanks = L" \t";
 
 // Command names keep the marks that were typed in front of them; behind "_" only global names count.
-std::vector<ZrString> commandCandidates(std::wstring_view word, const std::vector<CommandName>& commands) {
+std::vector<ZrString> commandCandidates(std::wstring_view word, const CompletionSource& source) {
     const std::size_t markCount = std::min(word.find_first_not_of(kMarks), word.size());
     const ZrString marks(word.substr(0, markCount));
     const std::wstring_view name = word.substr(markCount);
     const bool globalOnly = marks.find(L'_') != ZrString::npos;
     std::vector<ZrString> found;
-    for (const CommandName& command : commands) {
+    for (const CommandName& command : source.commands) {
         if (startsWithFolded(command.local, name) && !globalOnly)
             found.push_back(marks + command.local);
         else if (startsWithFolded(command.global, name))
             found.push_back(marks + command.global);
     }
+    for (const ZrString& other : source.otherNames)
+        if (!name.empty() && startsWithFolded(other, name))
+            found.push_back(marks + other);
     return found;
 }
 
@@ -56,9 +59,9 @@ std::vector<ZrString> pathCandidates(std::wstring_view word, const FolderLister&
 
 std::vector<ZrString> candidatesFor(std::wstring_view word, bool isFirstWord, const CompletionSource& source) {
     if (source.atCommandPrompt)
-        return isFirstWord ? commandCandidates(word, source.commands) : std::vector<ZrString>();
+        return isFirstWord ? commandCandidates(word, source) : std::vector<ZrString>();
     if (word.starts_with(L"'") && isFirstWord)
-        return commandCandidates(word, source.commands);
+        return commandCandidates(word, source);
     if (source.acceptsText && source.files && looksLikePath(word))
         return pathCandidates(word, source.files);
     return keywordCandidates(word, source.keywords);
@@ -92,4 +95,4 @@ Completion complete(std::wstring_view typed, const CompletionSource& source) {
     return completion;
 }
 
-} // namespace quor::console
+} // namespace quor::ed
