@@ -45,11 +45,14 @@ struct RenderOptions {
 
 class Renderer {
 public:
-    Renderer();
+    // With so many threads; 0: as many as the machine has, within reason. The picture is the same with any number.
+    explicit Renderer(unsigned threads = 0);
     ~Renderer();
     Renderer(const Renderer&) = delete;
     Renderer& operator=(const Renderer&) = delete;
 
+    // Pictures that are empty or wider or higher than kMostPixels stay as they are.
+    static constexpr int kMostPixels = 16384;
     void render(const gs::SceneData& scene, const gs::Camera& camera, const RenderOptions& options,
                 const PixelBuffer& target);
 

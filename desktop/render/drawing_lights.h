@@ -1,0 +1,39 @@
+// Lets the lights of the drawing fall on the faces of a picture.
+#pragma once
+
+#include "desktop/render/frame.h"
+#include "desktop/render/shading_lights.h"
+#include "desktop/render/thread_pool.h"
+#include "desktop/render/tone_mapping.h"
+
+namespace quor::desktop {
+
+class DrawingLights {
+public:
+    // The frame holds faces in their own colours and which triangle is seen where; they get the colours that they have
+    // in this light.
+    void shade(Frame& frame, const gs::SceneData& scene, const gs::Camera& camera, const ViewTransform& view,
+               const RenderOptions& options, ThreadPool& threads);
+
+private:
+    // What is computed of one band.
+    struct BandLight {
+        LightSamples samples;
+        std::vector<Vector3> own;          // colours of the faces at the samples
+        std::vector<float> facing;         // how much the samples' faces are turned to the eye
+        std::vector<std::uint32_t> pixels; // how many show the sample
+        std::vector<std::uint32_t> colors; // in the end
+        BrightnessCounts brightness;
+        bool isDark = false; // no light falls on anything in the whole picture
+        void clear();
+    };
+    // Each pixel's triangle is replaced by the number of its sample plus one. One sample stands for a block of pixels
+    // as far as they show the same triangle.
+    static void takeSamples(Frame& frame, Band band, const gs::SceneData& scene, const ViewTransform& view, int block,
+                            BandLight& light);
+    static void paint(Frame& frame, Band band, const ToneCurve& curve, BandLight& light);
+
+    std::vector<BandLight> bands_;
+};
+
+} // namespace quor::desktop

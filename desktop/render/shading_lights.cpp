@@ -1,0 +1,138 @@
+#include "desktop/render/shading_lights.h"
+
+#include <algorithm>
+#include <numbers>
+
+namespace quor::desktop {
+namespace {
+
+float linear(std::uint32_t rgb, int shift) { return std::pow(static_cast<float>((rgb >> shift) & 0xFFU) / 255, 2.2F); }
+
+// Half the diagonal of what is there; of a scene of nothing 1.
+float sceneRadius(const gs::SceneData& scene) {
+    gs::Coordinates low{}, high{};
+    bool isEmpty = true;
+    for (const gs::SceneChunk& chunk : scene.chunks) {
+        if (!isFinite(Vector3(chunk.low)) || !isFinite(Vector3(chunk.high)))
+            continue;
+        for (std::size_t i = 0; i < 3; ++i) {
+            low[i] = isEmpty ? chunk.low[i] : std::min(low[i], chunk.low[i]);
+            high[i] = isEmpty ? chunk.high[i] : std::max(high[i], chunk.high[i]);
+        }
+        isEmpty = false;
+    }
+    const float radius = length(Vector3(high) - Vector3(low)) / 2;
+    return radius > 0 && std::isfinite(radius) ? radius : 1;
+}
+
+// False when the light sends nothing that can be computed with.
+bool makeLight(const gs::LightMark& mark, const ViewTransform& view, float radius, ShadingLight& light) {
+    constexpr double strongest = 1e18;
+    if (!mark.isOn || !(mark.candela > 0))
+        return false;
+    auto strength = static_cast<float>(std::min(mark.candela, strongest));
+    if (mark.kind == gs::GlyphKind::Distant)
+        strength /= radius * radius;
+    const auto cosOfHalf = [](double angle) {
+        return static_cast<float>(std::cos(std::clamp(angle, 0.0, 2 * std::numbers::pi) / 2));
+    };
+    light.kind = mark.kind;
+    light.position = Vector3(view.relative(mark.position));
+    light.direction = normalized(Vector3(mark.direction));
+    light.color = Vector3(linear(mark.rgb, 16), linear(mark.rgb, 8), linear(mark.rgb, 0)) * strength;
+    light.cosFalloff = cosOfHalf(std::isfinite(mark.falloff) ? mark.falloff : 0);
+    light.cosHotspot = cosOfHalf(std::isfinite(mark.hotspot) ? std::min(mark.hotspot, mark.falloff) : 0);
+    return isFinite(light.position) && isFinite(light.color) && isFinite(light.direction);
+}
+
+float strengthAt(const ShadingLight& light, Vector3 target, float radius) {
+    const float strength = light.color.x + light.color.y + light.color.z;
+    if (light.kind == gs::GlyphKind::Distant)
+        return strength;
+    const Vector3 way = light.position - target;
+    return strength / (dot(way, way) + radius * radius * 1e-4F);
+}
+
+} // namespace
+
+std::vector<ShadingLight> shadingLights(const gs::SceneData& scene, const gs::Camera& camera,
+                                        const ViewTransform& view) {
+    const float radius = sceneRadius(scene);
+    const Vector3 target(view.relative(camera.target));
+    std::vector<ShadingLight> lights;
+    for (const gs::LightMark& mark : scene.lights) {
+        ShadingLight light;
+        if (makeLight(mark, view, radius, light))
+            lights.push_back(light);
+    }
+    if (lights.size() > kMostShadingLights) {
+        std::stable_sort(lights.begin(), lights.end(), [&](const ShadingLight& a, const ShadingLight& b) {
+            return strengthAt(a, target, radius) > strengthAt(b, target, radius);
+        });
+        lights.resize(kMostShadingLights);
+    }
+    return lights;
+}
+
+void LightSamples::clear() {
+    for (std::vector<float>* values :
+         {&x_, &y_, &z_, &normalX_, &normalY_, &normalZ_, &red_, &green_, &blue_, &visible_})
+        values->clear();
+}
+
+void LightSamples::add(Vector3 position, Vector3 normal) {
+    x_.push_back(position.x);
+    y_.push_back(position.y);
+    z_.push_back(position.z);
+    normalX_.push_back(normal.x);
+    normalY_.push_back(normal.y);
+    normalZ_.push_back(normal.z);
+    for (std::vector<float>* values : {&red_, &green_, &blue_})
+        values->push_back(0);
+    visible_.push_back(1);
+}
+
+void LightSamples::addLight(const ShadingLight& light) {
+    if (light.kind == gs::GlyphKind::Distant)
+        addDistant(light);
+    else
+        addFromPlace(light);
+}
+
+void LightSamples::addDistant(const ShadingLight& light) {
+    const Vector3 to = light.direction * -1;
+    for (std::size_t i = 0; i < x_.size(); ++i) {
+        const float facing = normalX_[i] * to.x + normalY_[i] * to.y + normalZ_[i] * to.z;
+        const float share = std::max(facing, 0.0F) * visible_[i];
+        red_[i] += light.color.x * share;
+        green_[i] += light.color.y * share;
+        blue_[i] += light.color.z * share;
+    }
+}
+
+// The cone of a light that shines everywhere is all around.
+void LightSamples::addFromPlace(const ShadingLight& light) {
+    const bool isSpot = light.kind == gs::GlyphKind::Spot;
+    const float outer = isSpot ? light.cosFalloff : -3.0F;
+    const float inner = isSpot ? light.cosHotspot : -2.0F;
+    const float perCos = 1 / std::max(inner - outer, 1e-4F);
+    constexpr float nearest = 1e-30F;
+    for (std::size_t i = 0; i < x_.size(); ++i) {
+        const float wayX = light.position.x - x_[i];
+        const float wayY = light.position.y - y_[i];
+        const float wayZ = light.position.z - z_[i];
+        const float squared = std::max(wayX * wayX + wayY * wayY + wayZ * wayZ, nearest);
+        const float perDistance = 1 / std::sqrt(squared);
+        const float facing = (normalX_[i] * wayX + normalY_[i] * wayY + normalZ_[i] * wayZ) * perDistance;
+        const float cosine =
+            -(light.direction.x * wayX + light.direction.y * wayY + light.direction.z * wayZ) * perDistance;
+        const float within = std::min(std::max((cosine - outer) * perCos, 0.0F), 1.0F);
+        const float cone = within * within * (3 - 2 * within);
+        const float share = std::max(facing, 0.0F) * perDistance * perDistance * cone * visible_[i];
+        red_[i] += light.color.x * share;
+        green_[i] += light.color.y * share;
+        blue_[i] += light.color.z * share;
+    }
+}
+
+} // namespace quor::desktop
