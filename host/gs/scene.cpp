@@ -32,7 +32,8 @@ double middleOf(std::vector<double> values) {
 
 class Scene::Parts {
 public:
-    explicit Parts(ZrDbDatabase& drawing) : drawing_(drawing.host()), changes_(drawing), looks_(drawing_) {}
+    explicit Parts(ZrDbDatabase& drawing)
+        : drawing_(drawing.host()), changes_(drawing), looks_(drawing_), reader_(drawing_) {}
 
     bool update(const std::function<void(double)>& progress);
     void regenerate() { block_ = nullptr; }
@@ -72,6 +73,7 @@ private:
     std::vector<std::uint32_t> emphasised_;
     bool emphasisChanged_ = false;
     mutable std::optional<Box> extents_;
+    ShapeReader reader_;
     Shape shape_;
 };
 
@@ -79,6 +81,8 @@ bool Scene::Parts::update(const std::function<void(double)>& progress) {
     if (changes_.isOver())
         return false;
     const DrawingChanges::Changes changes = changes_.take();
+    if (changes.inBlocks || changes.ofLayers)
+        reader_.forget();
     const db::Block& block = drawing_.currentSpace();
     bool changed = emphasisChanged_;
     if (&block != block_) {
@@ -100,6 +104,7 @@ bool Scene::Parts::update(const std::function<void(double)>& progress) {
 void Scene::Parts::build(const db::Block& block, const std::function<void(double)>& progress) {
     constexpr std::size_t kStep = 8192;
     block_ = &block;
+    reader_.forget();
     looks_.refresh();
     items_.start(originFor(block));
     lights_.start(lightSettings(drawing_));
@@ -138,7 +143,7 @@ std::optional<ZrGePoint3d> Scene::Parts::somePointOf(const db::ObjectEntry& enti
     if (entity.erased)
         return std::nullopt;
     shape_.clear();
-    appendShape(shape_, drawing_, entity);
+    reader_.append(shape_, entity);
     const auto& points = shape_.lines.empty() ? shape_.triangles : shape_.lines;
     if (points.empty() || !std::isfinite(points.front().asVector().lengthSqrd()))
         return std::nullopt;
@@ -150,7 +155,7 @@ void Scene::Parts::put(std::uint32_t number) {
     entities_[number] = entity.erased ? ZrDbObjectId() : ZrDbObjectId(&entity);
     shape_.clear();
     if (!entity.erased)
-        appendShape(shape_, drawing_, entity);
+        reader_.append(shape_, entity);
     items_.put(number, shape_, looks_);
     lights_.put(number, drawing_, entity, looks_);
 }

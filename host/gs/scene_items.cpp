@@ -109,7 +109,8 @@ void SceneItems::addPart(std::uint32_t entity, const Shape& shape, const Part& p
     item.triangleCount = static_cast<std::uint32_t>(draft_.triangles.size()) - item.firstTriangle;
     if (item.lineCount == 0 && item.triangleCount == 0)
         return;
-    const Source source{part.color, looks.numberOf(part.layer)};
+    const Source source{part.color, looks.numberOf(part.layer),
+                        looks.numberOf(part.colorLayer != nullptr ? part.colorLayer : part.layer)};
     look(item, source, looks);
     draft_.items.push_back(item);
     draft_.sources.push_back(source);
@@ -240,9 +241,9 @@ void SceneItems::compact() {
 }
 
 void SceneItems::look(SceneItem& item, const Source& source, const LayerLooks& looks) const {
-    const LayerLook& layer = looks.at(source.layer);
-    item.rgb = source.color.from == PartColor::From::Layer ? layer.rgb : source.color.rgb;
-    item.visible = layer.visible;
+    const bool byLayer = source.color.from == PartColor::From::Layer;
+    item.rgb = byLayer ? looks.at(source.colorLayer).rgb : source.color.rgb;
+    item.visible = looks.at(source.layer).visible;
 }
 
 void SceneItems::refreshLooks(const LayerLooks& looks) {

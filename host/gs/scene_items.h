@@ -35,6 +35,7 @@ private:
     struct Source {
         PartColor color;
         std::uint32_t layer = 0;
+        std::uint32_t colorLayer = 0; // whose colour counts
     };
     // The items of an entity; they stay its own while it has none, to be used again.
     struct Place {
