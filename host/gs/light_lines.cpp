@@ -152,11 +152,13 @@ void addArrow(Points& points, const ZrDbLightData& light, const Beam& beam) {
 } // namespace
 
 std::vector<ZrGePoint3d> Scene::lightLines(const ZrDbObjectId& light) {
-    Points points;
     const ZrDbObjectPointer<ZrDbLight> open(light, ZrDb::kForRead);
-    if (!open)
-        return points;
-    const auto& data = static_cast<const ZrDbLightData&>(*open->hostData());
+    return open ? lightLines(*open) : Points();
+}
+
+std::vector<ZrGePoint3d> Scene::lightLines(const ZrDbLight& light) {
+    Points points;
+    const auto& data = static_cast<const ZrDbLightData&>(*light.hostData());
     const Beam beam(data);
     if (data.hasTarget)
         addLine(points, data.position, data.target);

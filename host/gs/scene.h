@@ -12,6 +12,8 @@
 #include <span>
 #include <vector>
 
+class ZrDbLight;
+
 namespace quor::gs {
 
 // Coordinates relative to Scene::origin(), so that single precision is enough anywhere in the world.
@@ -100,6 +102,8 @@ public:
     // The lines that a light shows when it is selected: its target line, its cone (hotspot and falloff), its web.
     // Two points each, in the world.
     [[nodiscard]] static std::vector<ZrGePoint3d> lightLines(const ZrDbObjectId& light);
+    // Of one that may stand in no drawing yet.
+    [[nodiscard]] static std::vector<ZrGePoint3d> lightLines(const ZrDbLight& light);
 
 private:
     class Parts;

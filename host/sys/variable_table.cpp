@@ -66,6 +66,8 @@ const VariableRow rows[] = {
     {.name = L"LUNITS", .type = Short, .home = Header, .headerCode = 70, .low = 1, .high = 5, .initial = short{2}},
     {.name = L"LUPREC", .type = Short, .home = Header, .headerCode = 70, .high = 8, .initial = short{4}},
     {.name = L"MEASUREMENT", .type = Short, .home = Header, .headerCode = 70, .high = 1},
+    {.name = L"ORTHOMODE", .type = Short, .home = Process, .high = 1},
+    {.name = L"OSMODE", .type = Short, .home = User, .high = most, .initial = short{7}},
     {.name = L"QUORVERSION", .type = Text, .home = Process, .readOnly = true, .initial = ZrString(kVersion)},
     {.name = L"REFEDITNAME", .type = Text, .home = Drawing, .readOnly = true, .read = readRefEditName},
     {.name = L"SUPPORTPATH", .type = Text, .home = User, .initial = ZrString()},

@@ -1,0 +1,115 @@
+#include "desktop/viewport/light_sketch.h"
+
+#include "desktop/render/glyph_shapes.h"
+#include "host/gs/scene.h"
+#include "sdk/db/light.h"
+
+#include <QLineF>
+#include <QPainter>
+
+#include <cmath>
+
+namespace quor::desktop {
+
+namespace {
+
+// Of 255.
+constexpr int kFaint = 90;
+constexpr int kLineStrength = 170;
+// Beyond this a line is not drawn: its end is behind the eye, nearly.
+constexpr double kFarthestPixel = 1e6;
+
+struct KindOfGlyph {
+    DrawableType type;
+    gs::GlyphKind glyph;
+};
+constexpr KindOfGlyph kGlyphs[] = {{DrawableType::kDistantLight, gs::GlyphKind::Distant},
+                                   {DrawableType::kPointLight, gs::GlyphKind::Point},
+                                   {DrawableType::kSpotLight, gs::GlyphKind::Spot},
+                                   {DrawableType::kWebLight, gs::GlyphKind::Web}};
+
+gs::GlyphKind glyphOf(DrawableType type) {
+    for (const KindOfGlyph& row : kGlyphs)
+        if (row.type == type)
+            return row.glyph;
+    return gs::GlyphKind::Point;
+}
+
+std::optional<QPointF> onScreen(const gs::Projector& projector, const ZrGePoint3d& world) {
+    const std::optional<gs::ScreenPoint> seen = projector.toScreen(world);
+    if (!seen || std::abs(seen->x) > kFarthestPixel || std::abs(seen->y) > kFarthestPixel)
+        return std::nullopt;
+    return QPointF(seen->x, seen->y);
+}
+
+// Where on the picture the light points to, as a direction of length 1.
+ShapePoint directionOnScreen(const gs::Camera& camera, const ZrGeVector3d& direction) {
+    const double x = direction.dotProduct(camera.right());
+    const double y = -direction.dotProduct(camera.up);
+    const double length = std::hypot(x, y);
+    if (length < 1e-3)
+        return {0, 1};
+    return {static_cast<float>(x / length), static_cast<float>(y / length)};
+}
+
+QColor faint(QColor color, int strength) {
+    color.setAlpha(strength);
+    return color;
+}
+
+void paintShape(QPainter& painter, const GlyphShape& shape, QPointF at, const QColor& color) {
+    const QColor ink = shape.isFaint ? faint(color, kFaint) : color;
+    const QPointF a = at + QPointF(shape.a.x, shape.a.y);
+    const QPointF b = at + QPointF(shape.b.x, shape.b.y);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    switch (shape.kind) {
+    case GlyphShape::Kind::Disc:
+        painter.drawEllipse(a, shape.radius, shape.radius);
+        return;
+    case GlyphShape::Kind::Ring:
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(ink, 1.4));
+        painter.drawEllipse(a, shape.radius, shape.radius);
+        return;
+    case GlyphShape::Kind::Stroke:
+        painter.setPen(QPen(ink, 2 * shape.radius, Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(a, b);
+        return;
+    case GlyphShape::Kind::Outline:
+        break;
+    }
+    QPolygonF outline;
+    for (const ShapePoint& point : shape.points)
+        outline << at + QPointF(point.x, point.y);
+    painter.drawPolygon(outline);
+}
+
+} // namespace
+
+void paintLightLines(QPainter& painter, const gs::Projector& projector, std::span<const ZrGePoint3d> lines,
+                     const ViewportColors& colors) {
+    QList<QLineF> seen;
+    for (std::size_t i = 0; i + 1 < lines.size(); i += 2) {
+        const std::optional<QPointF> a = onScreen(projector, lines[i]);
+        const std::optional<QPointF> b = onScreen(projector, lines[i + 1]);
+        if (a && b)
+            seen << QLineF(*a, *b);
+    }
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setPen(QPen(faint(colors.light, kLineStrength), 1));
+    painter.drawLines(seen);
+}
+
+void paintDraggedLight(QPainter& painter, const gs::Projector& projector, const ZrDbLight& light,
+                       const ViewportColors& colors) {
+    paintLightLines(painter, projector, gs::Scene::lightLines(light), colors);
+    const std::optional<QPointF> at = onScreen(projector, light.position());
+    if (!at)
+        return;
+    const ShapePoint direction = directionOnScreen(projector.camera(), light.lightDirection());
+    for (const GlyphShape& shape : glyphShapes(glyphOf(light.lightType()), direction))
+        paintShape(painter, shape, *at, colors.light);
+}
+
+} // namespace quor::desktop

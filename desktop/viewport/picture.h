@@ -1,0 +1,42 @@
+// The drawing as it was rendered last, kept until something makes it another one.
+#pragma once
+
+#include "desktop/render/renderer.h"
+
+#include <QImage>
+
+namespace quor::desktop {
+
+class Picture {
+public:
+    // What a picture depends on beside the contents of the scene.
+    struct Subject {
+        const void* scene = nullptr; // which one
+        std::size_t version = 0;     // of its contents
+        gs::Camera camera;
+        gs::VisualStyle style = gs::VisualStyle::Wireframe;
+        Lighting lighting = Lighting::Default;
+        bool isDark = true;
+        bool isMoving = false;
+        QSize size; // pixels of the screen
+        double pixelRatio = 1;
+        bool operator==(const Subject&) const = default;
+    };
+
+    // Renders when it has to.
+    const QImage& of(const Subject& subject, const gs::SceneData& scene);
+    // How often it had to.
+    [[nodiscard]] std::size_t renderCount() const { return renderCount_; }
+    // The next one is rendered, whatever it is of.
+    void forget() { shown_ = {}; }
+
+private:
+    void render(const Subject& subject, const gs::SceneData& scene);
+
+    Renderer renderer_;
+    QImage image_;
+    Subject shown_;
+    std::size_t renderCount_ = 0;
+};
+
+} // namespace quor::desktop
