@@ -38,7 +38,7 @@ ZrString shown(const Answer& answer) {
         return shownPoint(answer.point);
     case Answer::Kind::Cancel:
     case Answer::Kind::End:
-        return L"*";
+        return L"^C";
     case Answer::Kind::Objects:
     case Answer::Kind::Enter:
     case Answer::Kind::Broken:
@@ -116,6 +116,8 @@ Answer DesktopFrontEnd::wait(const Question& question, const Sample* sample) {
         // A loop that ends by itself ends with the program.
         answer = here.answer ? std::move(*here.answer) : Answer{Answer::Kind::End, {}, {}};
     }
+    if (question.kind == Question::Kind::Command && answer->kind == Answer::Kind::Text)
+        Q_EMIT commandGiven(toQt(answer->text));
     Q_EMIT questionAnswered(toQt(question.prompt), toQt(shown(*answer)));
     if (this->question() != nullptr)
         Q_EMIT questionOpened();
@@ -151,6 +153,11 @@ std::optional<SaveChoice> DesktopFrontEnd::askToSave(std::wstring_view drawing) 
 void DesktopFrontEnd::realise(CWnd& window) {
     if (windows_ != nullptr)
         windows_->realise(window);
+}
+
+void DesktopFrontEnd::paletteShown(const CZkUiPaletteSet& palette) {
+    if (windows_ != nullptr)
+        windows_->paletteShown(palette);
 }
 
 unsigned DesktopFrontEnd::trackMenu(const CMenu& menu, CPoint screen) {

@@ -56,6 +56,7 @@ public:
     [[nodiscard]] bool desktopIsDark() const override { return desktopIsDark_; }
     std::optional<SaveChoice> askToSave(std::wstring_view drawing) override;
     void realise(CWnd& window) override;
+    void paletteShown(const CZkUiPaletteSet& palette) override;
     unsigned trackMenu(const CMenu& menu, CPoint screen) override;
     void macroQueued(bool cancelsFirst) override;
     bool showProperties() override;
@@ -71,6 +72,8 @@ Q_SIGNALS:
     void questionOpened();
     // It was answered, by a person or a script; as a command line shows it.
     void questionAnswered(const QString& prompt, const QString& answer);
+    // The person gave a line at the command prompt, typed or by a button.
+    void commandGiven(const QString& line);
     // How far something long has come; 1 ends it.
     void progressed(const QString& what, double fraction);
     void redrawNeeded();

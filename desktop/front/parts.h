@@ -23,6 +23,8 @@ public:
     virtual ~WindowPart() = default;
     virtual void realise(CWnd& window) = 0;
     virtual unsigned trackMenu(const CMenu& menu, CPoint screen) = 0;
+    // A palette was brought to view.
+    virtual void paletteShown(const CZkUiPaletteSet& palette) = 0;
 };
 
 // The program's own palettes and windows.
