@@ -33,7 +33,7 @@ TEST_F(LightLinesTest, APointLightShowsNothing) { EXPECT_THAT(Scene::lightLines(
 
 TEST_F(LightLinesTest, WhatIsNoLightShowsNothing) {
     EXPECT_THAT(Scene::lightLines(addLine({1, 2, 3}, {4, 5, 6})), IsEmpty());
-    EXPECT_THAT(Scene::lightLines({}), IsEmpty());
+    EXPECT_THAT(Scene::lightLines(ZrDbObjectId()), IsEmpty());
 }
 
 TEST_F(LightLinesTest, ALightWithATargetShowsTheLineThere) {
