@@ -16,7 +16,7 @@ int difference(std::uint32_t a, std::uint32_t b) {
     int hue = 0;
     for (const int shift : {0, 8, 16})
         hue += std::abs(channel(a, shift) - channel(b, shift));
-    return std::abs(brightness(a) - brightness(b)) + hue / 8;
+    return std::abs(brightness(a) - brightness(b)) + hue / 16;
 }
 
 } // namespace

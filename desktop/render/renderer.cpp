@@ -6,12 +6,22 @@
 #include "desktop/render/scene_lines.h"
 #include "desktop/render/thread_pool.h"
 
+#include <cmath>
+
 namespace quor::desktop {
 namespace {
 
 bool canShow(const PixelBuffer& target) {
     return target.pixels != nullptr && target.width > 0 && target.height > 0 && target.stride >= target.width &&
            target.width <= Renderer::kMostPixels && target.height <= Renderer::kMostPixels;
+}
+
+// The options as they can be drawn with.
+RenderOptions usable(RenderOptions options) {
+    constexpr double smallest = 0.25;
+    constexpr double largest = 8;
+    options.pixelRatio = std::isfinite(options.pixelRatio) ? std::clamp(options.pixelRatio, smallest, largest) : 1;
+    return options;
 }
 
 } // namespace
@@ -92,7 +102,7 @@ Renderer::~Renderer() = default;
 void Renderer::render(const gs::SceneData& scene, const gs::Camera& camera, const RenderOptions& options,
                       const PixelBuffer& target) {
     if (canShow(target))
-        parts_->render(scene, camera, options, target);
+        parts_->render(scene, camera, usable(options), target);
 }
 
 } // namespace quor::desktop

@@ -18,7 +18,7 @@ public:
         const Vector3 seen = dot(normal, toEye) < 0 ? normal * -1 : normal;
         const float key = std::max(0.0F, dot(seen, key_));
         const float fill = std::max(0.0F, dot(seen, fill_));
-        const float sum = 0.30F + 0.56F * key + 0.20F * fill;
+        const float sum = 0.40F + 0.58F * key + 0.22F * fill;
         return static_cast<std::uint32_t>(toWhole(sum * 255, 0, 255));
     }
     [[nodiscard]] Vector3 backward() const { return backward_; }

@@ -14,7 +14,7 @@ public:
     SpriteChoice(SpriteStore& store, const RenderOptions& options, const ViewTransform& view)
         : store_(store), view_(view), palette_(options.colors), colors_(options.colors),
           halo_(mixed(options.colors.backgroundTop, options.colors.backgroundBottom, 128)),
-          ratio_(static_cast<float>(std::clamp(options.pixelRatio, 0.25, 8.0))) {}
+          ratio_(static_cast<float>(options.pixelRatio)) {}
 
     [[nodiscard]] const Sprite& of(const gs::LightMark& light, gs::Emphasis emphasis) {
         const std::size_t kind = static_cast<std::size_t>(light.kind) % kKinds;
@@ -80,7 +80,7 @@ void SceneGlyphs::collect(const gs::SceneData& scene, const ViewTransform& view,
     SpriteChoice sprites(sprites_, options, view);
     const auto width = static_cast<float>(view.width());
     const auto height = static_cast<float>(view.height());
-    const float reach = 20 * static_cast<float>(std::clamp(options.pixelRatio, 0.25, 8.0));
+    const float reach = 20 * static_cast<float>(options.pixelRatio);
     for (const gs::LightMark& light : scene.lights) {
         if (!light.isGlyphShown)
             continue;

@@ -11,24 +11,27 @@ struct LineLook {
     float nearer = 0; // share by which the line stands before what is at the same place
 };
 
-// Edges have to win over their faces, and lines that stand out over the others.
+// Edges have to win over their faces, lines that stand out over the others: over those at the same place, and over all
+// where no faces hide anything.
 constexpr float kBeforeFaces = 4e-5F;
 constexpr float kBeforeLines = 4e-4F;
+constexpr float kBeforeAll = 1e6F;
 
 class LineLooks {
 public:
     explicit LineLooks(const RenderOptions& options) : options_(options), palette_(options.colors) {
-        const auto ratio = static_cast<float>(std::clamp(options.pixelRatio, 0.25, 16.0));
+        const auto ratio = static_cast<float>(options.pixelRatio);
         thin_ = std::max(1.0F, options.isMoving ? std::round(ratio) : ratio);
         thick_ = thin_ + std::max(1.0F, std::round(ratio));
+        before_ = options.style == gs::VisualStyle::Wireframe ? kBeforeAll : kBeforeLines;
     }
 
     [[nodiscard]] LineLook of(const gs::SceneItem& item, gs::Emphasis emphasis) {
         switch (emphasis) {
         case gs::Emphasis::Hovered:
-            return {options_.colors.hovered | 0xFF000000U, thick_, kBeforeLines};
+            return {options_.colors.hovered | 0xFF000000U, thick_, before_};
         case gs::Emphasis::Selected:
-            return {options_.colors.selected | 0xFF000000U, thick_, kBeforeLines};
+            return {options_.colors.selected | 0xFF000000U, thick_, before_};
         case gs::Emphasis::None:
             break;
         }
@@ -43,6 +46,7 @@ private:
     Palette palette_;
     float thin_ = 1;
     float thick_ = 2;
+    float before_ = kBeforeLines;
 };
 
 constexpr float kMargin = 4; // pixels around the picture to which lines are cut
@@ -52,7 +56,7 @@ constexpr float kMargin = 4; // pixels around the picture to which lines are cut
 void collectLines(const gs::SceneData& scene, const ViewTransform& view, const RenderOptions& options,
                   std::span<const ItemRun> runs, BandBlock<ScreenLine>& block) {
     LineLooks looks(options);
-    const float margin = kMargin * std::max(1.0F, static_cast<float>(std::min(options.pixelRatio, 16.0)));
+    const float margin = kMargin * std::max(1.0F, static_cast<float>(options.pixelRatio));
     for (const ItemRun& run : runs) {
         for (const gs::SceneItem& item : scene.items.subspan(run.first, run.count)) {
             const bool isThere = std::uint64_t{item.firstLine} + item.lineCount <= scene.lines.size();
