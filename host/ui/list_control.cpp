@@ -39,6 +39,8 @@ void CListCtrl::takeContent(CWnd& other) {
     backgroundColor_ = list->backgroundColor_;
     textColor_ = list->textColor_;
     top_ = std::exchange(list->top_, 0);
+    left_ = std::exchange(list->left_, 0);
+    covered_ = std::exchange(list->covered_, {});
     edited_ = std::exchange(list->edited_, kNoRow);
 }
 

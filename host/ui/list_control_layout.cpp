@@ -28,7 +28,7 @@ int widthOfColumns(const CHeaderCtrl& header) {
 void CListCtrl::layOutHeader() {
     const int height = headerHeight(*this);
     header_->ShowWindow(height > 0);
-    header_->MoveWindow({0, 0, GetClientRect().right, height});
+    header_->MoveWindow({-left_, 0, GetClientRect().right, height});
 }
 
 void CListCtrl::OnSize(int /*width*/, int /*height*/) {
@@ -49,14 +49,14 @@ CRect CListCtrl::GetItemRect(int index, int part) const {
     if (!rows_->hasIndex(index) || header_ == nullptr)
         return {};
     const int top = headerHeight(*this) + (index - top_) * rowHeight();
-    return {0, top, widthOfColumns(*header_), top + rowHeight()};
+    return {-left_, top, widthOfColumns(*header_) - left_, top + rowHeight()};
 }
 
 CRect CListCtrl::GetSubItemRect(int index, int column, int part) const {
     if (!rows_->hasIndex(index) || header_ == nullptr || header_->GetItem(column) == nullptr)
         return {};
     const CRect row = GetItemRect(index, LVIR_BOUNDS);
-    const CRect heading = header_->GetItemRect(column);
+    const CRect heading = header_->GetItemRect(column).Moved(-left_, 0);
     const CRect cell{heading.left, row.top, heading.right, row.bottom};
     const int imageWidth = smallImages_ != nullptr ? smallImages_->GetImageSize().cx : 0;
     const int iconLeft = column == 0 ? cell.left + ZkUiGetCtrlDPISize(kIconIndent) : cell.left;
@@ -81,7 +81,7 @@ int CListCtrl::HitTest(CPoint point) const {
 }
 
 int CListCtrl::GetCountPerPage() const {
-    return std::max(0, (GetClientRect().bottom - headerHeight(*this)) / rowHeight());
+    return std::max(0, (GetClientRect().bottom - covered_.cy - headerHeight(*this)) / rowHeight());
 }
 
 // As far down as the last rows still fill the list.
@@ -91,6 +91,24 @@ void CListCtrl::SetTopIndex(int index) {
     const int top = std::clamp(index, 0, lastTopIndex());
     if (std::exchange(top_, top) != top)
         contentChanged();
+}
+
+void CListCtrl::SetScrollLeft(int pixels) {
+    if (header_ == nullptr)
+        return;
+    const int farthest = std::max(0, widthOfColumns(*header_) - (GetClientRect().right - covered_.cx));
+    const int left = std::clamp(pixels, 0, farthest);
+    if (std::exchange(left_, left) == left)
+        return;
+    layOutHeader();
+    contentChanged();
+}
+
+void CListCtrl::SetScrollBarSpace(const CSize& covered) {
+    if (std::exchange(covered_, covered) == covered)
+        return;
+    SetScrollLeft(left_);
+    rowsChanged();
 }
 
 bool CListCtrl::EnsureVisible(int index) {

@@ -42,13 +42,13 @@ CZrMainFrame::Bar& CZrMainFrame::known(CControlBar& bar) {
 }
 
 void CZrMainFrame::place(CControlBar& bar) {
-    auto* const floating = dynamic_cast<CZkUiDockControlBar*>(&bar);
-    if (floating == nullptr)
+    auto* const dockable = dynamic_cast<CZkUiDockControlBar*>(&bar);
+    if (dockable == nullptr)
         return;
-    const quor::ui::WindowRef window(floating);
-    floating->MoveWindow(floating->floatingPlace());
+    const quor::ui::WindowRef window(dockable);
+    dockable->MoveWindow(dockable->place());
     if (window)
-        floating->layOut(floating->GetClientRect());
+        dockable->layOut(dockable->GetClientRect());
 }
 
 CZrMainFrame* zredGetQuorFrame() {

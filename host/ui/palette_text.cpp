@@ -6,17 +6,12 @@
 #include "host/sys/text_table.h"
 #include "host/sys/visible_text.h"
 #include "host/texts/palettes.h"
-#include "sdk/ui/list_control.h"
+#include "host/ui/list_text.h"
 #include "sdk/ui/palette_set.h"
-
-#include <algorithm>
 
 namespace quor::ui {
 
 namespace {
-
-// A list shows the pictures of its rows in this column.
-constexpr int kPictureColumn = 0;
 
 void addShownLists(const CWnd& window, std::vector<const CListCtrl*>& lists) {
     for (const CWnd* const child : window.children()) {
@@ -29,42 +24,12 @@ void addShownLists(const CWnd& window, std::vector<const CListCtrl*>& lists) {
     }
 }
 
-// From the left.
-std::vector<int> columnsInOrder(const CHeaderCtrl& header) {
-    std::vector<int> columns(static_cast<std::size_t>(header.GetItemCount()));
-    for (std::size_t i = 0; i < columns.size(); ++i)
-        columns[i] = static_cast<int>(i);
-    std::sort(columns.begin(), columns.end(),
-              [&](int a, int b) { return header.GetItem(a)->order < header.GetItem(b)->order; });
-    return columns;
-}
-
-bool hasPictures(const CListCtrl& list) {
-    const CImageList* const images = list.GetImageList(LVSIL_SMALL);
-    return images != nullptr && images->GetImageCount() > 0;
-}
-
-ZrString pictureName(const CListCtrl& list, int row) {
-    const CImageList* const images = list.GetImageList(LVSIL_SMALL);
-    const PictureResource* const picture = images != nullptr ? images->picture(list.GetItemImage(row)) : nullptr;
-    return picture != nullptr ? zwResourceText(picture->name) : ZrString();
-}
-
-ZrString cell(const CListCtrl& list, int row, int column) {
-    const ZrString& text = list.GetItemText(row, column);
-    if (column != kPictureColumn)
-        return text;
-    const ZrString name = pictureName(list, row);
-    return name.empty() || text.empty() ? name + text : name + L" " + text;
-}
-
 void addColumn(TextTable& table, const CListCtrl& list, int column) {
-    const ZrString& title = list.GetHeaderCtrl()->GetItem(column)->text;
-    if (column == kPictureColumn && hasPictures(list))
-        table.addColumn(title.empty() ? texts::kPaletteKind.get() : title, Align::Left);
+    if (showsPictures(list, column))
+        table.addColumn(headingText(list, column), Align::Left);
     else
-        table.addColumn(title, Align::Left, Fit::MayBeCut);
-    if (!title.empty())
+        table.addColumn(headingText(list, column), Align::Left, Fit::MayBeCut);
+    if (!list.GetHeaderCtrl()->GetItem(column)->text.empty())
         table.keepLast();
 }
 
@@ -75,7 +40,7 @@ TextTable tableOf(const CListCtrl& list) {
         addColumn(table, list, column);
     for (int row = 0; row < list.GetItemCount(); ++row)
         for (const int column : columns)
-            table.addCell(cell(list, row, column));
+            table.addCell(cellText(list, row, column));
     return table;
 }
 

@@ -3,6 +3,8 @@
 
 #include "sdk/ui/window.h"
 
+#include <optional>
+
 // A window that the main frame shows and hides.
 class CControlBar : public CWnd {
 public:
@@ -24,8 +26,12 @@ public:
     // Where it floats at first, on the screen, in its pixels.
     void SetInitialFloatingRect(const CRect& rect) { floating_ = rect; }
     [[nodiscard]] const CRect& GetFloatingRect() const { return floating_; }
-    // The person, or the program that shows it, has moved or sized it; it is laid out anew.
+    // The person, or the program that shows it, has moved or sized it; it floats there and is laid out anew.
     void SetFloatingRect(const CRect& rect);
+    // The program that shows it has docked it there, on the screen. That is its place until it floats again; where it
+    // floated is kept.
+    void SetDockedRect(const CRect& rect);
+    [[nodiscard]] bool IsDocked() const { return docked_.has_value(); }
     // Width and height below which it cannot be made; none at first.
     void SetMinSize(const CSize& size) { minSize_ = size; }
 
@@ -38,9 +44,10 @@ protected:
 
 private:
     friend class CZrMainFrame;
-    // Where it floats, large enough.
-    [[nodiscard]] CRect floatingPlace() const;
+    // Where it is docked; else where it floats, large enough.
+    [[nodiscard]] CRect place() const;
 
     CRect floating_;
+    std::optional<CRect> docked_;
     CSize minSize_;
 };

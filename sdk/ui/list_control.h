@@ -116,6 +116,11 @@ public:
     // How many whole rows fit.
     [[nodiscard]] int GetCountPerPage() const;
     void SetTopIndex(int index);
+    // How far it is scrolled to the right, in pixels; at most until the last column is seen.
+    [[nodiscard]] int GetScrollLeft() const { return left_; }
+    void SetScrollLeft(int pixels);
+    // How many pixels the scroll bars of the program that shows it cover at the right and at the bottom; none at first.
+    void SetScrollBarSpace(const CSize& covered);
     // Scrolls as little as needed. False for a bad index.
     bool EnsureVisible(int index);
 
@@ -182,5 +187,7 @@ private:
     COLORREF backgroundColor_;
     COLORREF textColor_;
     int top_ = 0;
+    int left_ = 0;
+    CSize covered_; // by scroll bars
     unsigned edited_ = kNoRow;
 };

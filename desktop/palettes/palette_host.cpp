@@ -1,0 +1,74 @@
+#include "desktop/palettes/palette_host.h"
+
+#include "desktop/palettes/list_accessible.h"
+#include "desktop/palettes/painter_device.h"
+#include "desktop/palettes/palette_area.h"
+#include "desktop/palettes/popup_menu.h"
+#include "host/document.h"
+#include "host/session.h"
+#include "host/ui/dpi.h"
+#include "host/ui/user_interface.h"
+
+#include <QMainWindow>
+#include <QScreen>
+
+namespace quor::desktop {
+
+// A pixel of a window is a logical pixel of Qt: what makes the screen finer than 96 dots per inch is Qt's scale factor
+// as a rule, and then the lengths stay as they are.
+PaletteHost::PaletteHost(Session& session, QMainWindow& window) : session_(session), main_(window) {
+    ui::setScreenDpi(qRound(window.screen()->logicalDotsPerInchX()));
+    installListAccessibility();
+}
+
+PaletteHost::~PaletteHost() = default;
+
+void PaletteHost::realise(CWnd& window) {
+    if (auto* const palette = dynamic_cast<CZkUiPaletteSet*>(&window))
+        showPalette(*palette);
+}
+
+void PaletteHost::showPalette(CZkUiPaletteSet& palette) {
+    using Change = ui::WindowPeer::Change;
+    auto* const dock = new PaletteDock(palette, &main_); // the main window's, and the peer's
+    dock->hide();
+    palette.attachPeer(std::make_unique<WidgetPeer>(*dock));
+    for (const Change change : {Change::Text, Change::Icon, Change::Enabled, Change::Content})
+        dock->windowChanged(palette, change);
+    connect(&dock->area(), &PaletteArea::keyboardGivenUp, this, [this] {
+        if (focusDrawing_)
+            focusDrawing_();
+    });
+    connect(dock, &PaletteDock::shownByPerson, this, [this, dock] {
+        if (CZkUiPaletteSet* const shown = dock->shownPalette())
+            showAgain(*shown);
+    });
+    place(*dock, palette);
+    dock->windowChanged(palette, Change::Visibility);
+}
+
+// Where it was when the layout was saved; else it floats where it wants to.
+void PaletteHost::place(PaletteDock& dock, const CZkUiPaletteSet& palette) {
+    if (main_.restoreDockWidget(&dock))
+        return;
+    main_.addDockWidget(Qt::LeftDockWidgetArea, &dock);
+    dock.setFloating(true);
+    dock.placeInside(palette.GetFloatingRect());
+}
+
+// While a palette was hidden, its drawing may have changed, or gone.
+void PaletteHost::showAgain(CZkUiPaletteSet& palette) {
+    const ui::WindowRef window(&palette);
+    session_.ui().frame().ShowControlBar(&palette, true, false);
+    if (auto* const shown = dynamic_cast<CZrRxPaletteSet*>(window.get()))
+        shown->documentBecameCurrent(session_.documents().current());
+}
+
+unsigned PaletteHost::trackMenu(const CMenu& menu, CPoint screen) { return popUp(menu, screen, main_); }
+
+void PaletteHost::paletteShown(const CZkUiPaletteSet& palette) {
+    if (QWidget* const dock = widgetOf(palette))
+        dock->raise();
+}
+
+} // namespace quor::desktop

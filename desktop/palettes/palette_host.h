@@ -1,0 +1,45 @@
+// The windows of modules on the desktop: palettes are docks of the main window, menus pop up.
+#pragma once
+
+#include "desktop/front/parts.h"
+#include "desktop/palettes/palette_dock.h"
+
+#include <QObject>
+
+#include <functional>
+
+class QMainWindow;
+
+namespace quor {
+class Session;
+}
+
+namespace quor::desktop {
+
+class PaletteHost final : public QObject, public WindowPart {
+    Q_OBJECT
+
+public:
+    // Made before modules are loaded: lengths of their windows are those of the screen from then on.
+    PaletteHost(Session& session, QMainWindow& window);
+    ~PaletteHost() override;
+
+    // Gives the keyboard to whoever has it for the drawing, when a palette gives it up.
+    void setFocusDrawing(std::function<void()> focus) { focusDrawing_ = std::move(focus); }
+
+    void realise(CWnd& window) override;
+    unsigned trackMenu(const CMenu& menu, CPoint screen) override;
+    // Before other tabs and other windows.
+    void paletteShown(const CZkUiPaletteSet& palette) override;
+
+private:
+    void showPalette(CZkUiPaletteSet& palette);
+    void place(PaletteDock& dock, const CZkUiPaletteSet& palette);
+    void showAgain(CZkUiPaletteSet& palette);
+
+    Session& session_;
+    QMainWindow& main_;
+    std::function<void()> focusDrawing_;
+};
+
+} // namespace quor::desktop
