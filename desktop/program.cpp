@@ -1,23 +1,27 @@
 #include "desktop/program.h"
 
 #include "desktop/front/desktop_front_end.h"
+#include "desktop/signals.h"
 #include "desktop/window/main_window.h"
 #include "host/commands/drawing_files.h"
 #include "host/document.h"
 #include "host/ed/script_run.h"
+#include "host/ed/script_source.h"
 #include "host/rx/module_loader.h"
 
 namespace quor::desktop {
 
 Program::Program(ProgramOptions options)
-    : options_(std::move(options)), front_(std::make_unique<DesktopFrontEnd>()),
-      session_(std::make_unique<Session>(*front_, options_.session)),
-      window_(std::make_unique<MainWindow>(*session_, *front_)) {}
+    : options_(std::move(options)), front_(std::make_unique<DesktopFrontEnd>()) {
+    front_->setDesktopIsDark(options_.desktopIsDark);
+    session_ = std::make_unique<Session>(*front_, options_.session);
+    window_ = std::make_unique<MainWindow>(*session_, *front_);
+}
 
 // The windows of modules go with the session, while the widgets that show them are still there.
 Program::~Program() {
+    window_->leaveSession();
     session_.reset();
-    window_.reset();
 }
 
 void Program::loadModules() {
@@ -33,13 +37,32 @@ void Program::openDrawings() {
         session_->documents().newDocument();
 }
 
+// The first one runs first: each waits on top of the ones behind it.
+void Program::startScripts() {
+    for (auto script = options_.scripts.rbegin(); script != options_.scripts.rend(); ++script) {
+        auto source = ed::ScriptSource::open(*script);
+        if (source)
+            session_->input().push(std::move(source).value());
+        else
+            front_->print(L"\n" + source.error() + L"\n");
+    }
+}
+
 void Program::run() {
+    window_->restoreLayout();
     window_->show();
     loadModules();
     openDrawings();
-    while (!session_->processor().quitRequested() && session_->processor().step())
+    startScripts();
+    signals_ = std::make_unique<Signals>([this] { front_->quit(); });
+    while (!session_->processor().quitRequested()) {
         if (session_->input().hasProgramInput())
             ed::runSources(*session_, false);
+        else if (!session_->processor().step())
+            break;
+    }
+    signals_.reset();
+    window_->saveLayout();
     window_->hide();
 }
 

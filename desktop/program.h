@@ -5,18 +5,22 @@
 
 #include <filesystem>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace quor::desktop {
 
 class DesktopFrontEnd;
 class MainWindow;
+class Signals;
 
 // What to start with.
 struct ProgramOptions {
     std::vector<std::filesystem::path> drawings; // none: a new one
+    std::vector<std::string> scripts;            // run after the start
     SessionOptions session;
     std::vector<ZrString> modules{L"light"};
+    bool desktopIsDark = true;
 };
 
 class Program {
@@ -37,11 +41,13 @@ public:
 private:
     void loadModules();
     void openDrawings();
+    void startScripts();
 
     ProgramOptions options_;
     std::unique_ptr<DesktopFrontEnd> front_;
     std::unique_ptr<Session> session_;
     std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<Signals> signals_;
 };
 
 } // namespace quor::desktop
