@@ -23,5 +23,14 @@ void showLightPolyline(const Source& source, Pen& pen); // LWPOLYLINE
 void showPolyline(const Source& source, Pen& pen);
 void showFace(const Source& source, Pen& pen);
 void showSolid(const Source& source, Pen& pen);
+void showSpline(const Source& source, Pen& pen);
+void showRay(const Source& source, Pen& pen);
+void showConstructionLine(const Source& source, Pen& pen); // XLINE
+void showLeader(const Source& source, Pen& pen);
+void showMultiline(const Source& source, Pen& pen);       // MLINE
+void showSubdivisionMesh(const Source& source, Pen& pen); // MESH
+void showHatch(const Source& source, Pen& pen);
+void showSolidModel(const Source& source, Pen& pen); // 3DSOLID, REGION, BODY and the surfaces
+void showViewport(const Source& source, Pen& pen);
 
 } // namespace quor::gs

@@ -72,6 +72,14 @@ TEST_F(BlockReferences, AreArraysWithMoreThanOneColumn) {
     EXPECT_FALSE(reference(0x60)->isArray);
 }
 
+TEST_F(BlockReferences, TellHowAnArrayGoesOn) {
+    EXPECT_EQ(reference(0x65)->columns, 3);
+    EXPECT_EQ(reference(0x65)->rows, 1);
+    EXPECT_EQ(reference(0x60)->columns, 1);
+    EXPECT_EQ(reference(0x65)->columnStep, ZrGeVector3d(50, 0, 0));
+    EXPECT_EQ(reference(0x60)->columnStep, ZrGeVector3d());
+}
+
 TEST_F(BlockReferences, AreFlatWithAScaleOfZero) {
     EXPECT_FALSE(reference(0x62)->isFlat);
     std::string bytes = fileBytes("own/luminaires.dxf");
