@@ -6,7 +6,9 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 jobs=$(nproc)
 
 build_packages="build-essential cmake ninja-build pkg-config libfmt-dev libcli11-dev libfast-float-dev
-    libedit-dev libgtest-dev libgmock-dev python3 python3-ezdxf"
+    libedit-dev qt6-base-dev qt6-svg-dev libgtest-dev libgmock-dev python3 python3-ezdxf"
+# Windows are tested without a screen and on a virtual one; their pictures need letters of both languages.
+test_packages="xvfb xauth fonts-dejavu-core fonts-wqy-microhei"
 sanitize_packages="clang libclang-rt-14-dev llvm"
 lint_packages="clang-format clang-tidy git"
 
