@@ -3,6 +3,7 @@
 #include "host/ed/support_files.h"
 #include "host/ies/opening.h"
 #include "host/session.h"
+#include "host/sys/case_fold.h"
 #include "host/sys/path_text.h"
 #include "host/sys/text_width.h"
 #include "host/texts/ies_info.h"
@@ -105,6 +106,15 @@ void listKeyword(const ies::Keyword& keyword, Listing& listing) {
     listing.row(name, cut(keyword.text, kMostOfText));
 }
 
+// The keywords of a summary under names that people read; null for any other.
+const Text* summaryName(const std::wstring& keyword) {
+    if (equalFolded(keyword, L"MANUFAC"))
+        return &texts::kWebManufacturer;
+    if (equalFolded(keyword, L"LUMINAIRE"))
+        return &texts::kWebLuminaire;
+    return nullptr;
+}
+
 void listWarnings(const ies::PhotometricWeb& web, Listing& listing) {
     for (const ies::Warning& warning : web.warnings)
         listing.row(texts::kWebNotice,
@@ -165,6 +175,20 @@ void listWebFile(const ies::WebFile& file, Listing& listing) {
     listing.row(texts::kWebLargest, lightText(ies::maxIntensity(web)) + L" cd");
     listing.row(texts::kWebVertical, anglesText(web.vertical, texts::kWebOneAngle, texts::kWebAngles));
     listing.row(texts::kWebHorizontal, anglesText(web.horizontal, texts::kWebOnePlane, texts::kWebPlanes));
+    listing.row(texts::kWebSymmetry, symmetryText(web.symmetry));
+    listing.row(texts::kWebOpening, openingText(web));
+    listing.row(texts::kWebWatts, sizeText(web.watts) + L" W");
+    listWarnings(web, listing);
+}
+
+void listWebSummary(const ies::WebFile& file, Listing& listing) {
+    const ies::PhotometricWeb& web = file.web;
+    for (const ies::Keyword& keyword : web.keywords)
+        if (const Text* const name = summaryName(keyword.name); name != nullptr && !keyword.text.empty())
+            listing.row(*name, cut(keyword.text, kMostOfText));
+    listing.row(texts::kWebFlux, lightText(file.flux) + L" lm");
+    listing.row(texts::kWebLargest, lightText(ies::maxIntensity(web)) + L" cd");
+    listing.row(texts::kWebPhotometry, photometryText(web.photometry));
     listing.row(texts::kWebSymmetry, symmetryText(web.symmetry));
     listing.row(texts::kWebOpening, openingText(web));
     listing.row(texts::kWebWatts, sizeText(web.watts) + L" W");

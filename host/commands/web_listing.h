@@ -1,4 +1,4 @@
-// What LIST and IESINFO say about a photometric web.
+// What LIST, IESINFO and previews say about a photometric web.
 #pragma once
 
 #include "host/commands/listing.h"
@@ -10,6 +10,9 @@ namespace quor::commands {
 
 // The rows of IESINFO.
 void listWebFile(const ies::WebFile& file, Listing& listing);
+// Those that tell webs apart at a glance: who makes it and which luminaire it is, where the file says so; flux, largest
+// intensity, symmetry, opening, power.
+void listWebSummary(const ies::WebFile& file, Listing& listing);
 // The rows of LIST for a light that has a web, or might have one.
 void listLightWeb(const ZrDbLight& light, Listing& listing);
 

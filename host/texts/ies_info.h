@@ -34,6 +34,8 @@ inline constexpr Text kWebOpening{L"出光面", L"Luminous opening"};
 inline constexpr Text kWebWatts{L"输入功率", L"Input power"};
 inline constexpr Text kWebText{L"说明", L"Text"}; // a line of the label without a keyword
 inline constexpr Text kWebKeyword{L"[%s]", L"[%s]"};
+inline constexpr Text kWebManufacturer{L"厂商", L"Manufacturer"};
+inline constexpr Text kWebLuminaire{L"灯具", L"Luminaire"};
 inline constexpr Text kWebNotice{L"注意", L"Notice"};
 
 // In the order of ies::Symmetry.

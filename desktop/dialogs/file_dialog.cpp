@@ -1,0 +1,155 @@
+#include "desktop/dialogs/file_dialog.h"
+
+#include "desktop/dialogs/file_dialog_words.h"
+#include "desktop/dialogs/preview_pane.h"
+#include "desktop/qt_text.h"
+#include "host/texts/dialogs.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QSplitter>
+#include <QUrl>
+
+namespace quor::desktop {
+
+namespace {
+constexpr QSize kSize{760, 460};
+constexpr QSize kSizeWithPreview{1020, 560};
+} // namespace
+
+FileDialog::FileDialog(const FileQuestion& question, const QString& folder, std::vector<FilePlace> places,
+                       QWidget* parent)
+    : QFileDialog(parent, toQt(question.caption), folder), forSaving_(question.forSaving) {
+    setObjectName("file");
+    setModal(true);
+    setOption(DontUseNativeDialog);
+    setOption(DontConfirmOverwrite); // who asks for the file asks about that, too
+    setOption(DontUseCustomDirectoryIcons);
+    setAcceptMode(question.forSaving ? AcceptSave : AcceptOpen);
+    setFileMode(question.forSaving ? AnyFile : ExistingFile);
+    setViewMode(Detail);
+    setProxyModel(new FileColumns(this));
+    setFilters(question);
+    setWords(question.forSaving);
+    setPlaces(std::move(places));
+    if (question.previews)
+        addPreview();
+    addComplaint();
+    if (question.offersReadOnly && !question.forSaving)
+        addReadOnlyBox();
+    if (!question.initialName.empty())
+        selectFile(toQt(question.initialName));
+    resize(question.previews ? kSizeWithPreview : kSize);
+}
+
+// Qt keeps the places for the dialogs of all programs of the user: it gets back those that it had.
+FileDialog::~FileDialog() { setSidebarUrls(usualPlaces_); }
+
+void FileDialog::setFilters(const FileQuestion& question) {
+    QStringList filters;
+    for (const FileQuestion::Filter& filter : question.filters) {
+        const QString pattern = toQt(filter.pattern);
+        filters << toQt(filter.name) + " (" + QString(pattern).replace(';', ' ') + ")";
+    }
+    if (filters.isEmpty())
+        return;
+    setNameFilters(filters);
+    if (forSaving_)
+        setDefaultSuffix(toQt(question.filters.front().pattern).section('.', 1, 1).section(';', 0, 0));
+}
+
+void FileDialog::setWords(bool forSaving) {
+    setLabelText(LookIn, toQt(forSaving ? texts::kFileSaveIn : texts::kFileLookIn));
+    setLabelText(FileName, toQt(texts::kFileName));
+    setLabelText(FileType, toQt(texts::kFileType));
+    setLabelText(Accept, toQt(forSaving ? texts::kFileSave : texts::kFileOpen));
+    setLabelText(Reject, toQt(texts::kButtonCancel));
+    putWordsOnTools(*this);
+}
+
+void FileDialog::setPlaces(std::vector<FilePlace> places) {
+    usualPlaces_ = sidebarUrls();
+    QList<QUrl> urls;
+    for (const FilePlace& place : places)
+        urls << QUrl::fromLocalFile(place.folder);
+    setSidebarUrls(urls);
+    auto* const list = findChild<QListView*>("sidebar");
+    if (list == nullptr)
+        return;
+    list->setAccessibleName(toQt(texts::kFilePlaces));
+    list->setItemDelegate(new PlaceNames(std::move(places), list));
+}
+
+void FileDialog::addPreview() {
+    auto* const splitter = findChild<QSplitter*>("splitter");
+    if (splitter == nullptr)
+        return;
+    preview_ = new PreviewPane(this);
+    splitter->addWidget(preview_);
+    splitter->setSizes({150, 500, 330});
+    connect(this, &QFileDialog::currentChanged, preview_, &PreviewPane::showFile);
+}
+
+void FileDialog::addComplaint() {
+    complaint_ = new QLabel(this);
+    complaint_->setObjectName("complaint");
+    complaint_->setWordWrap(true);
+    complaint_->hide();
+    if (auto* const grid = qobject_cast<QGridLayout*>(layout()))
+        grid->addWidget(complaint_, grid->rowCount(), 0, 1, grid->columnCount());
+    connect(this, &QFileDialog::currentChanged, complaint_, &QLabel::hide);
+}
+
+void FileDialog::addReadOnlyBox() {
+    readOnly_ = new QCheckBox(toQt(texts::kFileReadOnly), this);
+    readOnly_->setObjectName("readonly");
+    if (auto* const grid = qobject_cast<QGridLayout*>(layout()))
+        grid->addWidget(readOnly_, grid->rowCount(), 0, 1, grid->columnCount());
+}
+
+bool FileDialog::isReadOnly() const { return readOnly_ != nullptr && readOnly_->isChecked(); }
+
+QString FileDialog::complaint() const { return complaint_->isVisibleTo(this) ? complaint_->text() : QString(); }
+
+QString FileDialog::typedName() const {
+    const auto* const edit = findChild<QLineEdit*>("fileNameEdit");
+    return edit == nullptr ? QString() : edit->text().trimmed();
+}
+
+QString FileDialog::meantFile(const QString& name) const {
+    const QString home = name.startsWith("~/") ? QDir::homePath() + name.mid(1) : name;
+    const QString whole = QDir::cleanPath(directory().absoluteFilePath(home));
+    if (forSaving_ || QFileInfo::exists(whole))
+        return whole;
+    const QString pattern = selectedNameFilter().section('(', -1).section(')', 0, 0).section(' ', 0, 0);
+    const QString ending = pattern.startsWith("*.") ? pattern.mid(1) : QString();
+    return QFileInfo(whole + ending).isFile() ? whole + ending : whole;
+}
+
+QString FileDialog::chosenFile() const {
+    const QStringList files = result() == Accepted ? selectedFiles() : QStringList();
+    return files.isEmpty() ? QString() : files.front();
+}
+
+void FileDialog::accept() {
+    const QString name = typedName();
+    if (name.isEmpty()) {
+        QFileDialog::accept();
+        return;
+    }
+    const QString file = meantFile(name);
+    if (!forSaving_ && !QFileInfo::exists(file)) {
+        complaint_->setText(toQt(fill(texts::kFileNotThere, fromQt(name))));
+        complaint_->show();
+        return;
+    }
+    complaint_->hide();
+    if (auto* const edit = findChild<QLineEdit*>("fileNameEdit"); edit != nullptr && !forSaving_)
+        edit->setText(file);
+    QFileDialog::accept();
+}
+
+} // namespace quor::desktop
