@@ -1,11 +1,13 @@
 #include "desktop/viewport/document_view.h"
 
+#include "host/gs/initial_camera.h"
+
 #include <utility>
 
 namespace quor::desktop {
 
-DocumentView::DocumentView(Document& document, std::function<void()> changed)
-    : document_(document), changed_(std::move(changed)), scene_(*document.database()) {
+DocumentView::DocumentView(Document& document, gs::PictureSize size, std::function<void()> changed)
+    : document_(document), size_(size), changed_(std::move(changed)), scene_(*document.database()) {
     document.database()->addReactor(this);
 }
 
@@ -16,7 +18,22 @@ Look& DocumentView::look() {
     const auto known = looks_.find(space);
     if (known != looks_.end())
         return known->second;
-    return looks_.emplace(space, Look{gs::Camera(), {}, {}}).first->second;
+    Look first;
+    first.camera = firstCamera();
+    return looks_.emplace(space, std::move(first)).first->second;
+}
+
+void DocumentView::resize(gs::PictureSize size) {
+    if (size == size_)
+        return;
+    size_ = size;
+    if (look().isUntouched)
+        look().camera = firstCamera();
+}
+
+gs::Camera DocumentView::firstCamera() {
+    update();
+    return gs::initialCamera(document_.drawing(), size_, scene_.extents());
 }
 
 void DocumentView::update(const std::function<void(double)>& progress) {

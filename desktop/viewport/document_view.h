@@ -17,12 +17,13 @@ struct Look {
     gs::Camera camera;
     CameraHistory history;
     gs::VisualStyle style = gs::VisualStyle::Wireframe;
+    bool isUntouched = true; // nobody has moved it yet: it may be made to fit another size of the picture
 };
 
 class DocumentView final : public ZrDbDatabaseReactor {
 public:
     // `changed` is told that the picture is not up to date any more, once until the next update.
-    DocumentView(Document& document, std::function<void()> changed);
+    DocumentView(Document& document, gs::PictureSize size, std::function<void()> changed);
     ~DocumentView() override;
     DocumentView(const DocumentView&) = delete;
     DocumentView& operator=(const DocumentView&) = delete;
@@ -32,6 +33,7 @@ public:
     [[nodiscard]] gs::Scene& scene() { return scene_; }
     // Of the current space.
     [[nodiscard]] Look& look();
+    void resize(gs::PictureSize size);
     // Takes in what has changed in the drawing. `progress` is told a share from 0 to 1 where that is much.
     void update(const std::function<void(double)>& progress = {});
     // Of the lights that are selected: their target lines, cones and webs, two points each. Of many, the first ones.
@@ -48,8 +50,10 @@ public:
 
 private:
     void noteChange();
+    [[nodiscard]] gs::Camera firstCamera();
 
     Document& document_;
+    gs::PictureSize size_;
     std::function<void()> changed_;
     gs::Scene scene_;
     std::map<ZrDbObjectId, Look> looks_; // by space

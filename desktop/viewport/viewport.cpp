@@ -78,9 +78,10 @@ void Viewport::setDocument(Document* document) {
     if (document != nullptr) {
         std::unique_ptr<DocumentView>& view = views_[document];
         if (view == nullptr)
-            view = std::make_unique<DocumentView>(*document, [this] { update(); });
+            view = std::make_unique<DocumentView>(*document, size(), [this] { update(); });
         view_ = view.get();
         view_->update([this](double share) { front_.progress(texts::kViewportMakingPicture.get(), share); });
+        view_->resize(size());
         followSelection();
     }
     update();
@@ -121,7 +122,12 @@ void Viewport::navigate(const gs::Camera& camera) {
         view_->look().history.keep(view_->look().camera);
     isMoving_ = true;
     settled_.start();
+    changeCamera(camera);
+}
+
+void Viewport::changeCamera(const gs::Camera& camera) {
     view_->look().camera = camera;
+    view_->look().isUntouched = false;
     isHoverDue_ = true;
     update();
     Q_EMIT viewChanged();
@@ -163,19 +169,14 @@ void Viewport::setCamera(const gs::Camera& camera) {
     if (view_ == nullptr || camera == this->camera())
         return;
     view_->look().history.keep(view_->look().camera);
-    view_->look().camera = camera;
-    isHoverDue_ = true;
-    update();
-    Q_EMIT viewChanged();
+    changeCamera(camera);
 }
 
 bool Viewport::backToPreviousCamera() {
     const std::optional<gs::Camera> earlier = view_ != nullptr ? view_->look().history.takeLast() : std::nullopt;
     if (!earlier)
         return false;
-    view_->look().camera = *earlier;
-    update();
-    Q_EMIT viewChanged();
+    changeCamera(*earlier);
     return true;
 }
 

@@ -100,6 +100,7 @@ private:
     [[nodiscard]] gs::Projector projector() const;
     // As the mouse and the keyboard do it: one step back for one movement, and a fast picture until it ends.
     void navigate(const gs::Camera& camera);
+    void changeCamera(const gs::Camera& camera);
     void settle();
     [[nodiscard]] ZrGePoint3d orbitCenter() const;
 

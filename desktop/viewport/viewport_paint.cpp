@@ -84,7 +84,11 @@ void Viewport::paintEvent(QPaintEvent*) {
     paintPointing(painter, colors);
 }
 
-void Viewport::resizeEvent(QResizeEvent*) { Q_EMIT viewChanged(); }
+void Viewport::resizeEvent(QResizeEvent*) {
+    if (view_ != nullptr)
+        view_->resize(size());
+    Q_EMIT viewChanged();
+}
 
 void Viewport::paintPointing(QPainter& painter, const ViewportColors& colors) {
     const gs::Projector projector = this->projector();
