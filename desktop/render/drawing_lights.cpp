@@ -1,12 +1,14 @@
 #include "desktop/render/drawing_lights.h"
 
 #include "desktop/render/scene_faces.h"
+#include "desktop/render/shadow_mask.h"
 
 #include <cmath>
 
 namespace quor::desktop {
 namespace {
 
+constexpr std::size_t kMostShadowLights = 16;
 constexpr int kBlockOfMoving = 4; // pixels that are computed as one while the picture moves
 
 // What can be seen of everything without any light, and more of what is turned to the eye; after exposure.
@@ -71,6 +73,7 @@ void DrawingLights::takeSamples(Frame& frame, Band band, const gs::SceneData& sc
     const auto add = [&](std::uint32_t number, std::uint32_t color, int x, int y) {
         const FacePlanes::Place place = planes.at(number, x, y);
         light.samples.add(place.position, place.normal);
+        light.triangles.push_back(number);
         light.facing.push_back(place.facing);
         light.own.push_back(linearColor(color));
         light.pixels.push_back(0);
@@ -118,18 +121,32 @@ void DrawingLights::paint(Frame& frame, Band band, const ToneCurve& curve, BandL
     }
 }
 
+void DrawingLights::light(Frame& frame, Band band, const std::vector<ShadingLight>& lights, BandLight& light) const {
+    ShadowMask shadows(frame, band, shadows_, light.samples, light.triangles);
+    for (std::size_t i = 0; i < lights.size(); ++i) {
+        if (!shadows_.isEmpty() && i < kMostShadowLights)
+            shadows.apply(lights[i]);
+        else if (i == kMostShadowLights)
+            shadows.clear();
+        light.samples.addLight(lights[i]);
+    }
+}
+
 void DrawingLights::shade(Frame& frame, const gs::SceneData& scene, const gs::Camera& camera, const ViewTransform& view,
                           const RenderOptions& options, ThreadPool& threads) {
     if (!view.isValid())
         return;
     const std::vector<ShadingLight> lights = shadingLights(scene, camera, view);
+    if (options.isMoving || lights.empty())
+        shadows_.clear();
+    else
+        shadows_.build(scene);
     const auto count = static_cast<std::size_t>(frame.bandCount());
     bands_.resize(count);
     threads.run(count, [&](std::size_t number) {
         BandLight& band = bands_[number];
         takeSamples(frame, frame.band(number), scene, view, options.isMoving ? kBlockOfMoving : 1, band);
-        for (const ShadingLight& light : lights)
-            band.samples.addLight(light);
+        light(frame, frame.band(number), lights, band);
         for (std::size_t i = 0; i < band.samples.size(); ++i)
             band.brightness.add(luminance(product(band.samples.light(i), band.own[i])), band.pixels[i]);
     });
@@ -145,6 +162,7 @@ void DrawingLights::shade(Frame& frame, const gs::SceneData& scene, const gs::Ca
 
 void DrawingLights::BandLight::clear() {
     samples.clear();
+    triangles.clear();
     own.clear();
     facing.clear();
     pixels.clear();

@@ -3,6 +3,7 @@
 
 #include "desktop/render/frame.h"
 #include "desktop/render/shading_lights.h"
+#include "desktop/render/shadow_tree.h"
 #include "desktop/render/thread_pool.h"
 #include "desktop/render/tone_mapping.h"
 
@@ -19,10 +20,11 @@ private:
     // What is computed of one band.
     struct BandLight {
         LightSamples samples;
-        std::vector<Vector3> own;          // colours of the faces at the samples
-        std::vector<float> facing;         // how much the samples' faces are turned to the eye
-        std::vector<std::uint32_t> pixels; // how many show the sample
-        std::vector<std::uint32_t> colors; // in the end
+        std::vector<std::uint32_t> triangles; // that the samples show, plus one
+        std::vector<Vector3> own;             // colours of the faces at the samples
+        std::vector<float> facing;            // how much the samples' faces are turned to the eye
+        std::vector<std::uint32_t> pixels;    // how many show the sample
+        std::vector<std::uint32_t> colors;    // in the end
         BrightnessCounts brightness;
         bool isDark = false; // no light falls on anything in the whole picture
         void clear();
@@ -33,7 +35,11 @@ private:
                             BandLight& light);
     static void paint(Frame& frame, Band band, const ToneCurve& curve, BandLight& light);
 
+    // What all lights send to the samples of the band.
+    void light(Frame& frame, Band band, const std::vector<ShadingLight>& lights, BandLight& light) const;
+
     std::vector<BandLight> bands_;
+    ShadowTree shadows_; // empty while the picture moves
 };
 
 } // namespace quor::desktop

@@ -32,7 +32,11 @@ struct Walk {
     }
 };
 
-int rounded(float value) { return static_cast<int>(std::floor(value + 0.5F)); }
+// Of places on the picture, which are at most a little above and left of it.
+int rounded(float value) {
+    constexpr int lift = 1024;
+    return static_cast<int>(value + (lift + 0.5F)) - lift;
+}
 
 struct Steps {
     int first, last;
@@ -78,8 +82,8 @@ struct FixedWalk {
     explicit FixedWalk(const Walk& walk) : firstStep(rounded(walk.major0)) {
         constexpr float one = 1 << kFraction;
         const float ahead = static_cast<float>(firstStep) - walk.major0;
-        slope = std::llround(walk.slope * one);
-        minor = std::llround((walk.minor0 + ahead * walk.slope) * one) + (1 << (kFraction - 1));
+        slope = static_cast<std::int64_t>(walk.slope * one);
+        minor = static_cast<std::int64_t>((walk.minor0 + ahead * walk.slope) * one) + (1 << (kFraction - 1));
         depth = walk.depth0 + ahead * walk.depthStep;
     }
     [[nodiscard]] int minorAt(int step) const { return static_cast<int>((minor + step * slope) >> kFraction); }

@@ -65,12 +65,11 @@ std::vector<ShadingLight> shadingLights(const gs::SceneData& scene, const gs::Ca
         if (makeLight(mark, view, radius, light))
             lights.push_back(light);
     }
-    if (lights.size() > kMostShadingLights) {
-        std::stable_sort(lights.begin(), lights.end(), [&](const ShadingLight& a, const ShadingLight& b) {
-            return strengthAt(a, target, radius) > strengthAt(b, target, radius);
-        });
+    std::stable_sort(lights.begin(), lights.end(), [&](const ShadingLight& a, const ShadingLight& b) {
+        return strengthAt(a, target, radius) > strengthAt(b, target, radius);
+    });
+    if (lights.size() > kMostShadingLights)
         lights.resize(kMostShadingLights);
-    }
     return lights;
 }
 

@@ -18,8 +18,9 @@ struct ShadingLight {
 
 inline constexpr std::size_t kMostShadingLights = 64;
 
-// Those that are on. When they are too many, those that light the camera's target most. A distant light shines as a
-// point light does at the distance of the scene's own size, so that pictures do not depend on the unit of the drawing.
+// Those that are on, those that light the camera's target most first; at most kMostShadingLights. A distant light
+// shines as a point light does at the distance of the scene's own size, so that pictures do not depend on the unit of
+// the drawing.
 [[nodiscard]] std::vector<ShadingLight> shadingLights(const gs::SceneData& scene, const gs::Camera& camera,
                                                       const ViewTransform& view);
 

@@ -39,7 +39,10 @@ inline Vector3 normalized(Vector3 a) {
 inline int toWhole(float value, int low, int high) {
     if (!(value > static_cast<float>(low)))
         return low;
-    return value < static_cast<float>(high) ? static_cast<int>(std::floor(value)) : high;
+    if (!(value < static_cast<float>(high)))
+        return high;
+    const int cut = static_cast<int>(value);
+    return static_cast<float>(cut) > value ? cut - 1 : cut;
 }
 
 } // namespace quor::desktop

@@ -1,0 +1,130 @@
+#include "desktop/render/shadow_mask.h"
+
+namespace quor::desktop {
+namespace {
+
+constexpr int kBlock = 4;
+constexpr float kUnknown = -1;
+
+// Shares of the scene's size: how far from a face a ray starts, and how far before a light it ends, so that neither a
+// face shades itself nor a lamp the light in it.
+constexpr float kFromFace = 2e-4F;
+constexpr float kBeforeLight = 1e-2F;
+
+} // namespace
+
+ShadowMask::ShadowMask(Frame& frame, Band band, const ShadowTree& tree, LightSamples& samples,
+                       const std::vector<std::uint32_t>& triangles)
+    : frame_(frame), band_(band), tree_(tree), samples_(samples), triangles_(triangles) {
+    if (tree.isEmpty())
+        return;
+    for (int top = band.top; top < band.bottom; top += kBlock) {
+        for (int left = 0; left < frame.width(); left += kBlock) {
+            Block block{left, top, std::min(left + kBlock, frame.width()) - 1, std::min(top + kBlock, band.bottom) - 1,
+                        false};
+            block.isOneFace = isOneFace(block);
+            blocks_.push_back(block);
+        }
+    }
+}
+
+void ShadowMask::clear() { samples_.visible().assign(samples_.size(), 1); }
+
+void ShadowMask::apply(const ShadingLight& light) {
+    samples_.visible().assign(samples_.size(), kUnknown);
+    uneven_.clear();
+    for (std::size_t i = 0; i < blocks_.size(); ++i) {
+        if (lookAt(blocks_[i], light))
+            uneven_.push_back(i);
+    }
+    hard_ = samples_.visible();
+    for (const std::size_t i : uneven_)
+        soften(blocks_[i]);
+}
+
+// Where a block of pixels shows one face and its corners agree, they speak for all of it.
+bool ShadowMask::lookAt(const Block& block, const ShadingLight& light) {
+    float all = kUnknown;
+    if (block.isOneFace) {
+        all = visible(sampleAt(block.left, block.top), light);
+        const bool agree = visible(sampleAt(block.right, block.top), light) == all &&
+                           visible(sampleAt(block.left, block.bottom), light) == all &&
+                           visible(sampleAt(block.right, block.bottom), light) == all;
+        if (!agree)
+            all = kUnknown;
+    }
+    for (int y = block.top; y <= block.bottom; ++y) {
+        for (int x = block.left; x <= block.right; ++x) {
+            const std::uint32_t sample = sampleAt(x, y);
+            if (sample != 0)
+                samples_.visible()[sample - 1] = all == kUnknown ? visible(sample, light) : all;
+        }
+    }
+    return all == kUnknown;
+}
+
+bool ShadowMask::isOneFace(const Block& block) const {
+    const std::uint32_t first = sampleAt(block.left, block.top);
+    if (first == 0)
+        return false;
+    for (int y = block.top; y <= block.bottom; ++y) {
+        for (int x = block.left; x <= block.right; ++x) {
+            const std::uint32_t sample = sampleAt(x, y);
+            if (sample == 0 || triangles_[sample - 1] != triangles_[first - 1])
+                return false;
+        }
+    }
+    return true;
+}
+
+float ShadowMask::visible(std::uint32_t sample, const ShadingLight& light) {
+    float& known = samples_.visible()[sample - 1];
+    if (known == kUnknown)
+        known = look(sample - 1, light);
+    return known;
+}
+
+// Where the light falls on the back of the face or outside its cone, nobody need look.
+float ShadowMask::look(std::size_t i, const ShadingLight& light) const {
+    const Vector3 normal = samples_.normal(i);
+    const Vector3 from = samples_.position(i) + normal * (tree_.radius() * kFromFace);
+    if (light.kind == gs::GlyphKind::Distant)
+        return tree_.isBlocked(from, light.direction * (-4 * tree_.radius())) ? 0.0F : 1.0F;
+    const Vector3 way = light.position - from;
+    const float distance = length(way);
+    if (dot(normal, way) <= 0)
+        return 1;
+    if (light.kind == gs::GlyphKind::Spot && -dot(light.direction, way) < light.cosFalloff * distance)
+        return 1;
+    const float share = 1 - std::min(tree_.radius() * kBeforeLight / distance, 0.5F);
+    return tree_.isBlocked(from, way * share) ? 0.0F : 1.0F;
+}
+
+void ShadowMask::soften(const Block& block) {
+    for (int y = block.top; y <= block.bottom; ++y) {
+        for (int x = block.left; x <= block.right; ++x) {
+            const std::uint32_t sample = sampleAt(x, y);
+            if (sample != 0)
+                samples_.visible()[sample - 1] = meanAround(x, y);
+        }
+    }
+}
+
+// Of the pixel and its neighbours on the same face.
+float ShadowMask::meanAround(int x, int y) const {
+    const std::uint32_t triangle = triangles_[sampleAt(x, y) - 1];
+    float sum = 0;
+    float count = 0;
+    for (int row = std::max(y - 1, band_.top); row <= std::min(y + 1, band_.bottom - 1); ++row) {
+        for (int column = std::max(x - 1, 0); column <= std::min(x + 1, frame_.width() - 1); ++column) {
+            const std::uint32_t sample = sampleAt(column, row);
+            if (sample != 0 && triangles_[sample - 1] == triangle) {
+                sum += hard_[sample - 1];
+                ++count;
+            }
+        }
+    }
+    return sum / count;
+}
+
+} // namespace quor::desktop

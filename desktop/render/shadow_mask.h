@@ -1,0 +1,45 @@
+// Which pixels of a band a light reaches.
+#pragma once
+
+#include "desktop/render/frame.h"
+#include "desktop/render/shading_lights.h"
+#include "desktop/render/shadow_tree.h"
+
+namespace quor::desktop {
+
+// For a still picture: each pixel that shows a face has a sample of its own, whose number plus one stands in the frame.
+class ShadowMask {
+public:
+    // `triangles`: what each sample shows.
+    ShadowMask(Frame& frame, Band band, const ShadowTree& tree, LightSamples& samples,
+               const std::vector<std::uint32_t>& triangles);
+    // Writes into the samples how much of the light reaches each.
+    void apply(const ShadingLight& light);
+    // All of it reaches them.
+    void clear();
+
+private:
+    struct Block {
+        int left, top, right, bottom; // the last column and row
+        bool isOneFace;
+    };
+    // Whether its pixels may differ.
+    [[nodiscard]] bool lookAt(const Block& block, const ShadingLight& light);
+    [[nodiscard]] bool isOneFace(const Block& block) const;
+    [[nodiscard]] float visible(std::uint32_t sample, const ShadingLight& light);
+    [[nodiscard]] float look(std::size_t i, const ShadingLight& light) const;
+    void soften(const Block& block);
+    [[nodiscard]] float meanAround(int x, int y) const;
+    [[nodiscard]] std::uint32_t sampleAt(int x, int y) const { return frame_.faces(y)[x]; }
+
+    Frame& frame_;
+    Band band_;
+    const ShadowTree& tree_;
+    LightSamples& samples_;
+    const std::vector<std::uint32_t>& triangles_;
+    std::vector<Block> blocks_;
+    std::vector<std::size_t> uneven_; // blocks in which a shadow ends, or may
+    std::vector<float> hard_;         // before the edges are softened
+};
+
+} // namespace quor::desktop
