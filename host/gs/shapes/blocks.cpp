@@ -4,7 +4,29 @@
 #include "host/gs/shapes/kinds.h"
 #include "host/gs/shapes/values.h"
 
+#include <algorithm>
+#include <array>
+
 namespace quor::gs {
+
+namespace {
+
+// Kinds that come with a block of their own, in which stands what they look like.
+constexpr std::array<std::string_view, 4> kWithOwnBlock{"ACAD_TABLE", "ARC_DIMENSION", "DIMENSION",
+                                                        "LARGE_RADIAL_DIMENSION"};
+
+// A table's block begins at its corner and goes along its rows; that of a dimension is in the coordinates of the world.
+ZrGeMatrix3d ownBlockPlacement(const Source& source) {
+    ZrGeMatrix3d placement;
+    if (source.type() != "ACAD_TABLE")
+        return placement;
+    const Values<10, 20, 30, 11, 21, 31, 210, 220, 230> values(source);
+    const ZrGeVector3d normal = ZrGeVector3d(values.real<210>(), values.real<220>(), values.real<230>(1)).normal();
+    const ZrGeVector3d row = values.has<11>() ? values.point<11>().asVector().normal() : ZrGeVector3d::kXAxis;
+    return placement.setCoordSystem(values.point<10>(), row, normal.crossProduct(row), normal);
+}
+
+} // namespace
 
 void BlockLibrary::add(Definition& definition, const db::ObjectEntry& entity) {
     if (entity.erased || (!entity.isInFile() && entity.object == nullptr))
@@ -12,8 +34,8 @@ void BlockLibrary::add(Definition& definition, const db::ObjectEntry& entity) {
     const std::string_view type = drawing_.file().typeName(entity.type);
     const Show show = showOf(type);
     const bool isReference = type == "INSERT";
-    const bool isDimension = type == "DIMENSION";
-    if (show == nullptr && !isReference && !isDimension)
+    const bool hasOwnBlock = std::ranges::find(kWithOwnBlock, type) != kWithOwnBlock.end();
+    if (show == nullptr && !isReference && !hasOwnBlock)
         return;
     const Head head = readHead(drawing_, entity, layers_);
     if (!head.look.visible)
@@ -24,7 +46,7 @@ void BlockLibrary::add(Definition& definition, const db::ObjectEntry& entity) {
         pen.take(head.look);
         show(source, pen);
     } else if (entity.isInFile()) {
-        isReference ? addReference(definition, source, head.look) : addDimension(definition, source, head.look);
+        isReference ? addReference(definition, source, head.look) : addOwnBlock(definition, source, head.look);
     }
 }
 
@@ -38,8 +60,7 @@ void BlockLibrary::addReference(Definition& definition, const Source& source, co
                                    reference->columnStep, reference->rowStep});
 }
 
-// What a dimension looks like stands in a block made for it, in the coordinates of the world.
-void BlockLibrary::addDimension(Definition& definition, const Source& source, const Look& look) {
+void BlockLibrary::addOwnBlock(Definition& definition, const Source& source, const Look& look) {
     static constexpr int kBlockName = 2;
     static constexpr dxf::CodeSet kWanted{kBlockName};
     BodyTags tags(source, kWanted);
@@ -50,6 +71,7 @@ void BlockLibrary::addDimension(Definition& definition, const Source& source, co
         BlockUse& use = definition.uses.emplace_back();
         use.block = block;
         use.look = look;
+        use.placement = ownBlockPlacement(source);
     }
 }
 

@@ -44,7 +44,7 @@ public:
 
 private:
     void addReference(Definition& definition, const Source& source, const Look& look);
-    void addDimension(Definition& definition, const Source& source, const Look& look);
+    void addOwnBlock(Definition& definition, const Source& source, const Look& look);
 
     db::Database& drawing_;
     Wanted wanted_;

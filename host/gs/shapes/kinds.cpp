@@ -23,6 +23,7 @@ constexpr std::array kKinds{
     Kind{"ELLIPSE", showEllipse},
     Kind{"EXTRUDEDSURFACE", showSolidModel},
     Kind{"HATCH", showHatch},
+    Kind{"IMAGE", showImage},
     Kind{"LEADER", showLeader},
     Kind{"LINE", showLine},
     Kind{"LOFTEDSURFACE", showSolidModel},

@@ -30,6 +30,7 @@ void showLeader(const Source& source, Pen& pen);
 void showMultiline(const Source& source, Pen& pen);       // MLINE
 void showSubdivisionMesh(const Source& source, Pen& pen); // MESH
 void showHatch(const Source& source, Pen& pen);
+void showImage(const Source& source, Pen& pen);
 void showSolidModel(const Source& source, Pen& pen); // 3DSOLID, REGION, BODY and the surfaces
 void showViewport(const Source& source, Pen& pen);
 

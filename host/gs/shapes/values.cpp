@@ -2,6 +2,15 @@
 
 namespace quor::gs {
 
+// Codes below 0 are in every set of codes.
+bool BodyTags::next() {
+    do {
+        if (!reader_.next(tag_, wanted_))
+            return false;
+    } while (tag_.code < 0);
+    return tag_.code < dxf::CodeSet::kFirstExtendedData;
+}
+
 double BodyTags::real() {
     const auto value = dxf::kindOf(tag_.code) == dxf::ValueKind::Double ? tag_.asDouble() : std::optional<double>();
     if (value)

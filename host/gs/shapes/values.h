@@ -19,7 +19,7 @@ public:
     BodyTags(const db::DrawingFile& file, const dxf::Record& record, const dxf::CodeSet& wanted)
         : BodyTags(file.tags(record), wanted) {}
 
-    [[nodiscard]] bool next() { return reader_.next(tag_, wanted_) && tag_.code < dxf::CodeSet::kFirstExtendedData; }
+    [[nodiscard]] bool next();
     [[nodiscard]] int code() const { return tag_.code; }
     [[nodiscard]] const dxf::Tag& tag() const { return tag_; }
     // The number of the tag; 0 when it holds none, and the record is broken then.

@@ -89,6 +89,10 @@ TEST_F(Shapes, ExtendedDataAreNoPartOfALine) {
     expectNear(shape.lines, {{0, 0, 0}, {1, 0, 0}});
 }
 
+TEST_F(Shapes, TagsWithCodesBelowZeroDoNotCount) {
+    expectNear(shapeOf(line(0, 0, 0, 1, 0, 0, "-5\n9\n-1\nx\n")).lines, {{0, 0, 0}, {1, 0, 0}});
+}
+
 TEST_F(Shapes, APointIsALineWithoutLength) {
     expectNear(shapeOf(entity("POINT", point(10, 1, 2, 3))).lines, {{1, 2, 3}, {1, 2, 3}});
 }

@@ -96,5 +96,21 @@ TEST_F(Shapes, TheSheetItselfIsNoFrame) {
     EXPECT_TRUE(shapeOf(entity("VIEWPORT", point(10, 10, 10, 0) + "40\n4.0\n41\n2.0\n69\n1\n")).isEmpty());
 }
 
+// IMAGE.
+
+TEST_F(Shapes, AnImageIsItsFrame) {
+    const Shape shape = shapeOf(entity("IMAGE", "90\n0\n" + point(10, 1, 1, 0) + point(11, 0.5, 0, 0) +
+                                                    point(12, 0, 0.5, 0) + "13\n8.0\n23\n4.0\n340\n0\n"));
+    expectNear(shape.lines, {{1, 1, 0}, {5, 1, 0}, {5, 1, 0}, {5, 3, 0}, {5, 3, 0}, {1, 3, 0}, {1, 3, 0}, {1, 1, 0}});
+}
+
+// ACAD_TABLE.
+
+TEST_F(Shapes, ATableShowsItsBlockFromItsCornerAlongItsRows) {
+    const Shape shape = shapeOf(entity("ACAD_TABLE", "2\n*T1\n" + point(10, 5, 5, 0) + point(11, 0, 2, 0)),
+                                block("*T1", line(0, 0, 0, 3, -1, 0)));
+    expectNear(shape.lines, {{5, 5, 0}, {6, 8, 0}});
+}
+
 } // namespace
 } // namespace quor::gs
