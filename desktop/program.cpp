@@ -1,18 +1,19 @@
 #include "desktop/program.h"
 
 #include "desktop/front/desktop_front_end.h"
+#include "desktop/front/run_sources.h"
 #include "desktop/signals.h"
 #include "desktop/window/main_window.h"
 #include "host/commands/drawing_files.h"
 #include "host/document.h"
-#include "host/ed/script_run.h"
+#include "host/ed/command_processor.h"
+#include "host/ed/input_stack.h"
 #include "host/ed/script_source.h"
 #include "host/rx/module_loader.h"
 
 namespace quor::desktop {
 
-Program::Program(ProgramOptions options)
-    : options_(std::move(options)), front_(std::make_unique<DesktopFrontEnd>()) {
+Program::Program(ProgramOptions options) : options_(std::move(options)), front_(std::make_unique<DesktopFrontEnd>()) {
     front_->setDesktopIsDark(options_.desktopIsDark);
     session_ = std::make_unique<Session>(*front_, options_.session);
     window_ = std::make_unique<MainWindow>(*session_, *front_);
@@ -51,17 +52,19 @@ void Program::startScripts() {
 void Program::run() {
     window_->restoreLayout();
     window_->show();
+    front_->setAlive(true);
     loadModules();
     openDrawings();
     startScripts();
     signals_ = std::make_unique<Signals>([this] { front_->quit(); });
     while (!session_->processor().quitRequested()) {
         if (session_->input().hasProgramInput())
-            ed::runSources(*session_, false);
+            runSources(*session_, *front_);
         else if (!session_->processor().step())
             break;
     }
     signals_.reset();
+    front_->setAlive(false);
     window_->saveLayout();
     window_->hide();
 }

@@ -9,6 +9,7 @@
 #include "sdk/db/database.h"
 #include "sdk/db/units.h"
 
+#include <QApplication>
 #include <QEventLoop>
 
 #include <utility>
@@ -101,7 +102,23 @@ std::optional<Answer> DesktopFrontEnd::readyAnswer(const Question& question) {
     return Answer{Answer::Kind::Text, *std::exchange(line_, std::nullopt), {}};
 }
 
-void DesktopFrontEnd::print(std::wstring_view text) { Q_EMIT printed(toQt(text)); }
+// A dialog or a menu has events handled itself.
+void DesktopFrontEnd::breathe() {
+    const bool isWorking = waiting_.empty() || waiting_.back()->answer;
+    if (isAlive_ && isWorking && QApplication::activeModalWidget() == nullptr &&
+        QApplication::activePopupWidget() == nullptr)
+        pump_.breathe();
+}
+
+bool DesktopFrontEnd::goesOn() {
+    breathe();
+    return !pump_.takeEscape() && !line_;
+}
+
+void DesktopFrontEnd::print(std::wstring_view text) {
+    Q_EMIT printed(toQt(text));
+    breathe();
+}
 
 Answer DesktopFrontEnd::wait(const Question& question, const Sample* sample) {
     std::optional<Answer> answer = readyAnswer(question);
@@ -110,8 +127,10 @@ Answer DesktopFrontEnd::wait(const Question& question, const Sample* sample) {
         Waiting here{question, sample, loop, {}};
         waiting_.push_back(&here);
         Q_EMIT questionOpened();
-        if (!here.answer) // nobody has answered at once
+        if (!here.answer) { // nobody has answered at once
+            pump_.giveBack();
             loop.exec();
+        }
         waiting_.pop_back();
         // A loop that ends by itself ends with the program.
         answer = here.answer ? std::move(*here.answer) : Answer{Answer::Kind::End, {}, {}};
@@ -130,6 +149,7 @@ Answer DesktopFrontEnd::drag(const Question& question, const Sample& sample) { r
 
 void DesktopFrontEnd::echo(const Question& question, std::wstring_view answer) {
     Q_EMIT questionAnswered(toQt(question.prompt), toQt(answer));
+    breathe();
 }
 
 TaskDialogAnswer DesktopFrontEnd::showTaskDialog(const CZrUiTaskDialog& dialog) {
@@ -188,6 +208,9 @@ bool DesktopFrontEnd::showTextWindow(bool show) {
     return panels_ != nullptr;
 }
 
-void DesktopFrontEnd::progress(std::wstring_view what, double fraction) { Q_EMIT progressed(toQt(what), fraction); }
+void DesktopFrontEnd::progress(std::wstring_view what, double fraction) {
+    Q_EMIT progressed(toQt(what), fraction);
+    breathe();
+}
 
 } // namespace quor::desktop

@@ -1,7 +1,8 @@
-// The host's port to the desktop: questions wait in an event loop of their own until a widget answers them. Widgets hear
-// of questions and texts through signals, and answer with give().
+// The host's port to the desktop: questions wait in an event loop of their own until a widget answers them. Widgets
+// hear of questions and texts through signals, and answer with give().
 #pragma once
 
+#include "desktop/front/event_pump.h"
 #include "desktop/front/parts.h"
 
 #include <QObject>
@@ -46,6 +47,12 @@ public:
     // The person closes the program: as run(QUIT), with Esc to an open dialog first.
     void quit();
 
+    // Whether the windows are kept alive while the host works: from when they are shown until the program ends.
+    void setAlive(bool alive) { isAlive_ = alive; }
+    // Asked after each command of a script: lets the windows breathe, and says whether to go on. Not after Esc, nor
+    // when somebody wants another line to run.
+    [[nodiscard]] bool goesOn();
+
     void print(std::wstring_view text) override;
     Answer ask(const Question& question) override;
     void echo(const Question& question, std::wstring_view answer) override;
@@ -88,6 +95,8 @@ private:
     };
 
     Answer wait(const Question& question, const Sample* sample);
+    // While the host works: events are handled every now and then, but for what the person does.
+    void breathe();
     // What is known before anybody is asked: Esc and the line, while a line of run() waits for the command prompt.
     [[nodiscard]] std::optional<Answer> readyAnswer(const Question& question);
 
@@ -98,6 +107,8 @@ private:
     bool desktopIsDark_ = true;
     std::vector<Waiting*> waiting_; // the innermost one last
     std::optional<ZrString> line_;  // of run()
+    EventPump pump_;
+    bool isAlive_ = false;
 };
 
 } // namespace quor::desktop

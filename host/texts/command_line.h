@@ -19,6 +19,8 @@ inline constexpr Text kWorking{L"正在执行…", L"Working…"};
 inline constexpr Text kWorkingOn{L"正在执行 %s…", L"Running %s…"};
 inline constexpr Text kProgress{L"%s: %d%%", L"%s: %d%%"};
 
+inline constexpr Text kScriptStopped{L"\n已停止执行。\n", L"\nStopped.\n"};
+
 inline constexpr Text kTypeHere{L"输入命令", L"Type a command"};
 
 // The menu of the right button.
