@@ -20,8 +20,13 @@ ShadowMask::ShadowMask(Frame& frame, Band band, const ShadowTree& tree, LightSam
         return;
     for (int top = band.top; top < band.bottom; top += kBlock) {
         for (int left = 0; left < frame.width(); left += kBlock) {
-            Block block{left, top, std::min(left + kBlock, frame.width()) - 1, std::min(top + kBlock, band.bottom) - 1,
-                        false};
+            Block block{.left = left,
+                        .top = top,
+                        .right = std::min(left + kBlock, frame.width()),
+                        .bottom = std::min(top + kBlock, band.bottom),
+                        .farRight = std::min(left + kBlock, frame.width() - 1),
+                        .farBottom = std::min(top + kBlock, band.bottom - 1),
+                        .isOneFace = false};
             block.isOneFace = isOneFace(block);
             blocks_.push_back(block);
         }
@@ -47,14 +52,14 @@ bool ShadowMask::lookAt(const Block& block, const ShadingLight& light) {
     float all = kUnknown;
     if (block.isOneFace) {
         all = visible(sampleAt(block.left, block.top), light);
-        const bool agree = visible(sampleAt(block.right, block.top), light) == all &&
-                           visible(sampleAt(block.left, block.bottom), light) == all &&
-                           visible(sampleAt(block.right, block.bottom), light) == all;
+        const bool agree = visible(sampleAt(block.farRight, block.top), light) == all &&
+                           visible(sampleAt(block.left, block.farBottom), light) == all &&
+                           visible(sampleAt(block.farRight, block.farBottom), light) == all;
         if (!agree)
             all = kUnknown;
     }
-    for (int y = block.top; y <= block.bottom; ++y) {
-        for (int x = block.left; x <= block.right; ++x) {
+    for (int y = block.top; y < block.bottom; ++y) {
+        for (int x = block.left; x < block.right; ++x) {
             const std::uint32_t sample = sampleAt(x, y);
             if (sample != 0)
                 samples_.visible()[sample - 1] = all == kUnknown ? visible(sample, light) : all;
@@ -67,8 +72,8 @@ bool ShadowMask::isOneFace(const Block& block) const {
     const std::uint32_t first = sampleAt(block.left, block.top);
     if (first == 0)
         return false;
-    for (int y = block.top; y <= block.bottom; ++y) {
-        for (int x = block.left; x <= block.right; ++x) {
+    for (int y = block.top; y <= block.farBottom; ++y) {
+        for (int x = block.left; x <= block.farRight; ++x) {
             const std::uint32_t sample = sampleAt(x, y);
             if (sample == 0 || triangles_[sample - 1] != triangles_[first - 1])
                 return false;
@@ -101,8 +106,8 @@ float ShadowMask::look(std::size_t i, const ShadingLight& light) const {
 }
 
 void ShadowMask::soften(const Block& block) {
-    for (int y = block.top; y <= block.bottom; ++y) {
-        for (int x = block.left; x <= block.right; ++x) {
+    for (int y = block.top; y < block.bottom; ++y) {
+        for (int x = block.left; x < block.right; ++x) {
             const std::uint32_t sample = sampleAt(x, y);
             if (sample != 0)
                 samples_.visible()[sample - 1] = meanAround(x, y);

@@ -20,7 +20,9 @@ public:
 
 private:
     struct Block {
-        int left, top, right, bottom; // the last column and row
+        int left, top;
+        int right, bottom;       // the column and row after the last
+        int farRight, farBottom; // of the corners, which neighbours share
         bool isOneFace;
     };
     // Whether its pixels may differ.
