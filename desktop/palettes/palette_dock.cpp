@@ -22,6 +22,7 @@ PaletteDock::PaletteDock(CZkUiPaletteSet& palette, QWidget* parent)
     setObjectName(toQt(palette.GetToolID()));
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     setWidget(area_);
+    setAttribute(Qt::WA_ShowWithoutActivating); // whoever asks for a palette goes on typing
     connect(this, &QDockWidget::topLevelChanged, this, &PaletteDock::tellOfDocking);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { tellOfKeyboard(now); });
 }

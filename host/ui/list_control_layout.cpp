@@ -35,6 +35,7 @@ void CListCtrl::OnSize(int /*width*/, int /*height*/) {
     if (header_ == nullptr)
         return;
     layOutHeader();
+    SetScrollLeft(left_);
     rowsChanged();
 }
 

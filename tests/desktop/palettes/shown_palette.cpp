@@ -1,6 +1,7 @@
 #include "tests/desktop/palettes/shown_palette.h"
 
 #include "host/document.h"
+#include "sdk/db/database.h"
 #include "sdk/rx/command.h"
 #include "sdk/rx/result_codes.h"
 #include "sdk/sys/ads.h"
@@ -13,6 +14,23 @@ namespace quor::desktop::test {
 namespace {
 constexpr unsigned kLightList = 7504;
 constexpr unsigned kTips = 7505;
+
+// Where the palette looks for lights.
+ZrDbObjectId lightLayer() {
+    constexpr const wchar_t* kName = L"ADSK_SYSTEM_LIGHTS";
+    ZrDbLayerTable* table = nullptr;
+    ZrDbObjectId id;
+    EXPECT_EQ(zrdbWorkingDatabase()->getLayerTable(table, ZrDb::kForWrite), Quor::eOk);
+    if (table->getIdAt(kName, id) != Quor::eOk) {
+        auto layer = std::make_unique<ZrDbLayerTableRecord>();
+        layer->setName(kName);
+        layer->setIsHidden(true);
+        EXPECT_EQ(table->add(id, layer.get()), Quor::eOk);
+        layer.release()->close();
+    }
+    table->close();
+    return id;
+}
 } // namespace
 
 ShownPalette::ShownPalette(const ZrString& language) : session_({.language = language}) {
@@ -38,6 +56,7 @@ ZrDbObjectId ShownPalette::addLight(const ZrString& name, DrawableType type) {
         auto light = std::make_unique<ZrDbLight>();
         light->setName(name);
         light->setLightType(type);
+        light->setLayer(lightLayer(), true, true);
         id = RxCommand::postToDb(*light, nullptr, nullptr, true);
         static_cast<void>(light.release()); // the drawing owns it now
     };
@@ -77,7 +96,9 @@ QPoint ShownPalette::middleOf(int row) {
 
 QPoint ShownPalette::besideRows() { return view().viewport()->rect().bottomLeft() + QPoint(5, -3); }
 
+// A window system brings a window to the front when it is clicked.
 void ShownPalette::click(int row, Qt::KeyboardModifiers held) {
+    view().activateWindow();
     QTest::mouseClick(view().viewport(), Qt::LeftButton, held, middleOf(row));
     settle();
 }

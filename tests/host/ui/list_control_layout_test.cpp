@@ -158,5 +158,51 @@ TEST_F(ListWithoutHeader, HasItsRowsAtTheTop) {
     EXPECT_EQ(list.GetItemRect(0, LVIR_BOUNDS), (CRect{0, 0, 170, 22}));
 }
 
+TEST_F(ListLayout, ScrollsToTheRightUntilTheLastColumnIsSeen) {
+    list.SetColumnWidth(1, 200);
+    list.SetScrollLeft(30);
+
+    EXPECT_EQ(list.GetScrollLeft(), 30);
+    EXPECT_EQ(list.GetItemRect(0, LVIR_BOUNDS), (CRect{-30, 24, 220, 46}));
+    EXPECT_EQ(list.GetItemRect(0, LVIR_ICON).left, -26);
+    EXPECT_EQ(list.GetSubItemRect(0, 1, LVIR_LABEL), (CRect{20, 24, 220, 46}));
+    EXPECT_EQ(list.GetHeaderCtrl()->GetRectInParent(), (CRect{-30, 0, 200, 24}));
+    EXPECT_EQ(list.HitTest({190, 30}), 0);
+
+    list.SetScrollLeft(1000);
+    EXPECT_EQ(list.GetScrollLeft(), 50);
+
+    list.MoveWindow({0, 0, 230, 124});
+    EXPECT_EQ(list.GetScrollLeft(), 20);
+    EXPECT_EQ(list.GetHeaderCtrl()->GetRectInParent(), (CRect{-20, 0, 230, 24}));
+
+    list.SetScrollLeft(-1);
+    EXPECT_EQ(list.GetScrollLeft(), 0);
+}
+
+TEST_F(ListLayout, DoesNotScrollToTheRightWhenAllColumnsAreSeen) {
+    list.SetScrollLeft(10);
+
+    EXPECT_EQ(list.GetScrollLeft(), 0);
+}
+
+TEST_F(ListLayout, LeavesRoomForScrollBars) {
+    list.SetColumnWidth(1, 200);
+    EXPECT_EQ(list.GetCountPerPage(), 4);
+
+    list.SetScrollBarSpace({14, 14});
+
+    EXPECT_EQ(list.GetCountPerPage(), 3);
+    list.SetTopIndex(10);
+    EXPECT_EQ(list.GetTopIndex(), 7);
+    list.SetScrollLeft(1000);
+    EXPECT_EQ(list.GetScrollLeft(), 64);
+
+    list.SetScrollBarSpace({});
+
+    EXPECT_EQ(list.GetTopIndex(), 6);
+    EXPECT_EQ(list.GetScrollLeft(), 50);
+}
+
 } // namespace
 } // namespace quor::ui

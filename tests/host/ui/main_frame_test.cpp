@@ -143,6 +143,41 @@ TEST_F(TheMainFrame, LaysABarOutThatThePersonHasSized) {
     EXPECT_EQ(palette_->GetWindowRect(), (CRect{10, 10, 110, 60}));
 }
 
+TEST_F(TheMainFrame, LeavesADockedBarInItsPlace) {
+    show();
+    log_.clear();
+    palette_->SetDockedRect({0, 50, 250, 650});
+    EXPECT_TRUE(palette_->IsDocked());
+    EXPECT_EQ(log_, (Log{"laid out 250 x 600"}));
+    frame().RecalcLayout();
+    EXPECT_EQ(palette_->GetWindowRect(), (CRect{0, 50, 250, 650}));
+    EXPECT_EQ(palette_->GetFloatingRect(), (CRect{6, 181, 214, 619}));
+}
+
+TEST_F(TheMainFrame, MakesNoDockedBarLargerThanItsDock) {
+    palette_->leastSize = {300, 250};
+    show();
+    palette_->SetDockedRect({0, 0, 100, 100});
+    EXPECT_EQ(palette_->GetWindowRect(), (CRect{0, 0, 100, 100}));
+}
+
+TEST_F(TheMainFrame, LetsADockedBarFloatAgain) {
+    show();
+    palette_->SetDockedRect({0, 50, 250, 650});
+    palette_->SetFloatingRect({10, 10, 110, 60});
+    EXPECT_FALSE(palette_->IsDocked());
+    frame().RecalcLayout();
+    EXPECT_EQ(palette_->GetWindowRect(), (CRect{10, 10, 110, 60}));
+}
+
+TEST_F(TheMainFrame, ShowsABarThatWasDockedWhileItWasHiddenInItsDock) {
+    show();
+    hide();
+    palette_->SetDockedRect({0, 50, 250, 650});
+    show();
+    EXPECT_EQ(palette_->GetWindowRect(), (CRect{0, 50, 250, 650}));
+}
+
 TEST_F(TheMainFrame, ForgetsABarThatIsGone) {
     show();
     palettes().ReleasePaletteSet(palette_);
