@@ -134,7 +134,6 @@ void Viewport::wheelEvent(QWheelEvent* event) {
 bool Viewport::event(QEvent* event) {
     if (event->type() == QEvent::NativeGesture && pinch(*static_cast<QNativeGestureEvent*>(event)))
         return true;
-    // Tab belongs to the dialogs; the keys that move the drawing are no shortcuts of somebody else.
     return QWidget::event(event);
 }
 

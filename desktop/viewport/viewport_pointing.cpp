@@ -143,10 +143,12 @@ void Viewport::questionOpened() {
     }
     if (!asksForObjects())
         rectangle_.reset();
-    aim_.reset();
-    if (cursor_ && asksForPoint())
-        aim_ = aimAt(*cursor_);
     isHoverDue_ = true;
+    aim_.reset();
+    if (cursor_ && asksForPoint()) {
+        aim_ = aimAt(*cursor_);
+        front_.sample(aim_->point); // what is dragged is under the cursor from the start
+    }
     update();
 }
 

@@ -3,6 +3,7 @@
 #include "desktop/front/desktop_front_end.h"
 #include "desktop/window/main_window.h"
 #include "host/ed/pick.h"
+#include "host/sys/system_variables.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -31,6 +32,8 @@ Screen::Screen(Person& person) : person_(person) {
         gs::Camera fromAbove;
         fromAbove.height = 60;
         viewport_->setCamera(fromAbove);
+        // So that light commands do not ask about it first.
+        person_.program().session().variables().set(L"DEFAULTLIGHTING", short{0});
         QApplication::processEvents();
     });
 }
@@ -68,9 +71,10 @@ void Screen::clicks(QPoint place, Qt::MouseButton button, Qt::KeyboardModifiers 
 }
 
 void Screen::doubleClicks(QPoint place, Qt::MouseButton button) {
+    clicks(place, button);
     person_.does([=, this] {
-        QTest::mouseClick(viewport_, button, {}, place);
         QTest::mouseDClick(viewport_, button, {}, place);
+        QTest::mouseRelease(viewport_, button, {}, place);
     });
 }
 
@@ -133,8 +137,11 @@ ZrDbObjectIdArray Screen::objects() {
     return person_.sees([&] { return ed::entitiesOfCurrentSpace(*person_.program().session().documents().current()); });
 }
 
-Question::Kind Screen::question() {
-    return person_.sees([&] { return person_.program().front().question()->kind; });
+std::optional<Question::Kind> Screen::question() {
+    return person_.sees([&] {
+        const Question* const open = person_.program().front().question();
+        return open != nullptr ? std::optional(open->kind) : std::nullopt;
+    });
 }
 
 void withScreen(const std::function<void(Screen&)>& story) {

@@ -12,7 +12,7 @@ namespace quor::desktop::test {
 
 class Screen {
 public:
-    // 800 by 600 pixels, from above: a unit is ten pixels, the origin is in the middle.
+    // 800 by 600 pixels, from above: a unit is ten pixels, the origin is in the middle. Default lighting is off.
     explicit Screen(Person& person);
 
     [[nodiscard]] Person& person() { return person_; }
@@ -45,7 +45,8 @@ public:
     [[nodiscard]] ZrDbObjectIdArray selected();
     // Objects of the current space, in drawing order.
     [[nodiscard]] ZrDbObjectIdArray objects();
-    [[nodiscard]] Question::Kind question();
+    // What is asked for; nothing while a dialog is open.
+    [[nodiscard]] std::optional<Question::Kind> question();
 
 private:
     Person& person_;

@@ -157,6 +157,7 @@ TEST_F(SelectionTest, WhatIsPickedForACommandStandsOutUntilItEnds) {
         const QRgb usual = seen(screen).pixel(there);
         screen.types(L"ERASE");
         screen.clicks(screen.at(kLeft));
+        screen.moves({10, 10});
         EXPECT_NE(seen(screen).pixel(there), usual);
         screen.person().does([&] { screen.person().program().front().escape(); });
         EXPECT_EQ(seen(screen).pixel(there), usual);
