@@ -61,6 +61,7 @@ const Row kCommands[] = {
     {L"MSPACE",     modelInLayout,  kWithDrawing, 0, {L"MS"}},
     {L"PSPACE",     paperInLayout,  kWithDrawing, 0, {L"PS"}},
     {L"LAYER",      layer,          kWithDrawing, 0, {L"LA", L"-LAYER", L"-LA"}},
+    {L"LAYERS",     layers,         kWithDrawing, 0},
     {L"SETVAR",     setVariable,    kAnytime,     kTransparent, {L"SET"}},
     {L"SCRIPT",     script,         kAnytime,     kNoUndo, {L"SCR"}},
     {L"LOADMODULE", loadModule,     kAnytime,     kNoUndo, {L"LM"}},

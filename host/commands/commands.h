@@ -47,6 +47,7 @@ int paper(Session& session);
 int modelInLayout(Session& session);
 int paperInLayout(Session& session);
 int layer(Session& session);
+int layers(Session& session);
 int setVariable(Session& session);
 
 // Programs.

@@ -1,19 +1,14 @@
 #include "host/commands/ask.h"
 #include "host/commands/commands.h"
 #include "host/document.h"
+#include "host/props/layer_rows.h"
 #include "host/session.h"
 #include "host/texts/commands.h"
 #include "sdk/db/entity.h"
-#include "sdk/db/symbol_table.h"
 
 namespace quor::commands {
 
 namespace {
-
-bool isOnLockedLayer(const ZrDbEntity& entity) {
-    const ZrDbObjectPointer<ZrDbLayerTableRecord> layer(entity.layerId(), ZrDb::kForRead);
-    return layer && layer->isLocked() && !layer->isHidden();
-}
 
 struct Tally {
     int erased = 0;
@@ -25,7 +20,7 @@ void eraseOne(ZrDbObjectId id, Tally& tally) {
     const ZrDbObjectPointer<ZrDbEntity> entity(id, ZrDb::kForWrite);
     if (!entity)
         ++tally.refused;
-    else if (isOnLockedLayer(*entity))
+    else if (props::isOnLockedLayer(*entity))
         ++tally.locked;
     else
         ++(entity->erase() == Quor::eOk ? tally.erased : tally.refused);

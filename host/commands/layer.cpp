@@ -1,14 +1,14 @@
 #include "host/commands/ask.h"
 #include "host/commands/commands.h"
+#include "host/commands/layer_list.h"
 #include "host/commands/layer_name.h"
-#include "host/commands/listing.h"
+#include "host/commands/layer_states.h"
 #include "host/document.h"
+#include "host/props/layer_rows.h"
 #include "host/session.h"
 #include "host/sys/text_width.h"
 #include "host/texts/commands.h"
 #include "sdk/db/symbol_table.h"
-
-#include <algorithm>
 
 namespace quor::commands {
 
@@ -16,55 +16,9 @@ namespace {
 
 using LayerForRead = ZrDbObjectPointer<ZrDbLayerTableRecord>;
 
-struct LayerRow {
-    ZrString name;
-    ZrString state;
-    ZrString color;
-};
-
-ZrString stateText(const ZrDbLayerTableRecord& layer) {
-    ZrString state = (layer.isOff() ? texts::kLayerOff : texts::kLayerOn).get();
-    if (layer.isFrozen())
-        state += ZrString(L" ") + texts::kLayerFrozen.get();
-    if (layer.isLocked())
-        state += ZrString(L" ") + texts::kLayerLocked.get();
-    return state;
-}
-
-// Hidden layers are the system's business and not listed.
-int listLayers(const db::Database& drawing) {
-    std::vector<LayerRow> rows = {
-        {texts::kLayerColumnName.get(), texts::kLayerColumnState.get(), texts::kLayerColumnColor.get()}};
-    for (const ZrDbObjectId id : drawing.layerIds()) {
-        const LayerForRead layer(id, ZrDb::kForRead);
-        if (layer && !layer->isHidden())
-            rows.push_back({visibleText(layer->getName()), stateText(*layer), colorText(layer->color())});
-    }
-    int nameWidth = 0;
-    int stateWidth = 0;
-    for (const LayerRow& row : rows) {
-        nameWidth = std::max(nameWidth, columnsOf(row.name));
-        stateWidth = std::max(stateWidth, columnsOf(row.state));
-    }
-    for (const LayerRow& row : rows)
-        printText(L"\n  " + padRight(row.name, nameWidth) + L"  " + padRight(row.state, stateWidth) + L"  " +
-                  row.color + L"\n");
-    return RTNORM;
-}
-
 ZrString currentLayerName(const ZrDbDatabase& database) {
     const LayerForRead layer(database.currentLayerId(), ZrDb::kForRead);
     return layer ? layer->displayName() : ZrString();
-}
-
-ZrDbObjectId findLayer(ZrDbDatabase& database, const ZrString& name) {
-    ZrDbLayerTable* table = nullptr;
-    ZrDbObjectId id;
-    if (database.getLayerTable(table, ZrDb::kForRead) != Quor::eOk)
-        return id;
-    table->getIdAt(name, id);
-    table->close();
-    return id;
 }
 
 bool refuse(const Text& why, const ZrString& name) {
@@ -90,7 +44,7 @@ bool makeCurrent(db::Database& drawing, ZrDbObjectId id, const ZrString& name) {
 
 int makeLayer(db::Database& drawing) {
     return askUntilTaken(texts::kAskLayerToMake.get(), [&](const ZrString& name) {
-        ZrDbObjectId id = findLayer(drawing.interface(), name);
+        ZrDbObjectId id = props::findLayer(drawing, name);
         if (id.isNull() && !isLayerName(name))
             return refuse(texts::kBadLayerName, name);
         if (id.isNull())
@@ -102,7 +56,7 @@ int makeLayer(db::Database& drawing) {
 int setLayer(db::Database& drawing) {
     const ZrString prompt = fillShown(texts::kAskLayerToSet, currentLayerName(drawing.interface()));
     return askUntilTaken(
-        prompt, [&](const ZrString& name) { return makeCurrent(drawing, findLayer(drawing.interface(), name), name); });
+        prompt, [&](const ZrString& name) { return makeCurrent(drawing, props::findLayer(drawing, name), name); });
 }
 
 } // namespace
@@ -113,17 +67,24 @@ int layer(Session& session) {
     db::Database& drawing = document.drawing();
     sayShown(texts::kCurrentLayer, currentLayerName(drawing.interface()));
     while (true) {
-        armKeywords(0, L"? Make Set");
+        armKeywords(0, L"? Make Set ON OFF Color Freeze Thaw LOck Unlock");
         ZrString keyword;
         const int asked = zredGetKword(texts::kAskLayer.get(), keyword);
         if (asked != RTNORM)
             return asked == RTNONE ? RTNORM : asked;
-        const int result = keyword == L"?"      ? listLayers(drawing)
-                           : keyword == L"Make" ? makeLayer(drawing)
-                                                : setLayer(drawing);
+        const int result = keyword == L"?"       ? listLayers(drawing)
+                           : keyword == L"Make"  ? makeLayer(drawing)
+                           : keyword == L"Set"   ? setLayer(drawing)
+                           : keyword == L"Color" ? colorLayers(drawing)
+                                                 : changeLayers(drawing, keyword);
         if (result != RTNORM)
             return result;
     }
+}
+
+// The palette, or where there is none the list.
+int layers(Session& session) {
+    return session.front().showLayers() ? RTNORM : listLayers(session.documents().current()->drawing());
 }
 
 } // namespace quor::commands

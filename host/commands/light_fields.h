@@ -2,7 +2,7 @@
 // what the drawing has, in full.
 #pragma once
 
-#include "host/commands/light_facts.h"
+#include "host/props/light_facts.h"
 
 #include <cstdint>
 #include <span>

@@ -1,7 +1,7 @@
 // The lights that a command is about: those that are selected, or all of the drawing.
 #pragma once
 
-#include "host/commands/light_facts.h"
+#include "host/props/light_facts.h"
 
 #include <cstddef>
 #include <optional>

@@ -3,7 +3,7 @@
 // in the drawing's units and precision; other numbers have digits of their own.
 #pragma once
 
-#include "host/commands/light_facts.h"
+#include "host/props/light_facts.h"
 #include "host/sys/text_table.h"
 
 #include <array>

@@ -80,6 +80,8 @@ struct ZrDbLayerTableRecordData : quor::db::Cloned<ZrDbLayerTableRecordData, ZrD
     ZrString linetype;
     ZrCmColor color = ZrCmColor::fromIndex(7);
     int flags = 0; // 1 frozen, 4 locked
+    // The number that the file keeps beside a true colour, for programs that know none; 0: the nearest one.
+    int indexBesideTrueColor = 0;
     int lineWeight = -3;
     bool hidden = false;
     bool off = false;

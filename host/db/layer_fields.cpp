@@ -65,7 +65,8 @@ void readColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
 
 FieldValue writeColor(const ZrDbObjectData& data, const FieldContext&) {
     const Layer& layer = as<Layer>(data);
-    const std::int64_t index = layer.color.colorIndex();
+    const bool keepsOwn = layer.color.isByColor() && layer.indexBesideTrueColor != 0;
+    const std::int64_t index = keepsOwn ? layer.indexBesideTrueColor : layer.color.colorIndex();
     return layer.off ? -index : index;
 }
 
@@ -79,13 +80,24 @@ FieldValue writeLinetype(const ZrDbObjectData& data, const FieldContext&) {
 }
 
 void readTrueColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext&) {
-    takeTrueColor(as<Layer>(data).color, tag);
+    Layer& layer = as<Layer>(data);
+    if (!layer.color.isByColor())
+        layer.indexBesideTrueColor = layer.color.colorIndex();
+    takeTrueColor(layer.color, tag);
 }
 
 FieldValue writeTrueColor(const ZrDbObjectData& data, const FieldContext& context) {
     const ZrCmColor& color = as<Layer>(data).color;
     return color.isByColor() && context.version >= versions::kFirstWithTrueColor ? FieldValue(std::int64_t{color.rgb()})
                                                                                  : FieldValue();
+}
+
+void readBookColor(ZrDbObjectData& data, const dxf::Tag& tag, const FieldContext& context) {
+    takeBookColor(as<Layer>(data).color, tag, context.database.file());
+}
+
+FieldValue writeBookColor(const ZrDbObjectData& data, const FieldContext& context) {
+    return context.version >= versions::kFirstWithTrueColor ? bookColorText(as<Layer>(data).color) : std::nullopt;
 }
 
 FieldValue writePlottable(const ZrDbObjectData& data, const FieldContext&) {
@@ -97,6 +109,7 @@ constexpr std::array kLayerFields{
     Field{70, readFlags, writeFlags},
     Field{62, readColor, writeColor},
     Field{420, readTrueColor, writeTrueColor},
+    Field{430, readBookColor, writeBookColor},
     Field{6, readLinetype, writeLinetype},
     Field{290, boolField<Layer, &Layer::plottable>(290).read, writePlottable},
     intField<Layer, &Layer::lineWeight>(370),

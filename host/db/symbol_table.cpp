@@ -13,6 +13,9 @@ const quor::db::SymbolTable* tableOf(const ZrDbObject& table) {
     return static_cast<const quor::db::TableData&>(*table.hostData()).table;
 }
 
+constexpr int kFrozen = 1;
+constexpr int kLocked = 4;
+
 // A plain layer name: what may not stand in one would break listings or be taken for a hidden layer.
 bool isSymbolName(const ZrString& name) {
     constexpr std::size_t kLongest = 255;
@@ -114,6 +117,9 @@ ZrString ZrDbLayerTableRecord::displayName() const { return isHidden() ? L"*" + 
 ZrCmColor ZrDbLayerTableRecord::color() const { return dataOf(*this).color; }
 
 Quor::ErrorStatus ZrDbLayerTableRecord::setColor(const ZrCmColor& color) {
+    if (const Quor::ErrorStatus status = change(&ZrDbLayerTableRecordData::indexBesideTrueColor, 0);
+        status != Quor::eOk)
+        return status;
     return change(&ZrDbLayerTableRecordData::color, color);
 }
 
@@ -129,11 +135,26 @@ Quor::ErrorStatus ZrDbLayerTableRecord::setIsPlottable(bool plottable) {
     return change(&ZrDbLayerTableRecordData::plottable, plottable);
 }
 
-bool ZrDbLayerTableRecord::isFrozen() const { return (dataOf(*this).flags & 1) != 0; }
+Quor::ErrorStatus ZrDbLayerTableRecord::setFlag(int flag, bool on) {
+    const int flags = dataOf(*this).flags;
+    return change(&ZrDbLayerTableRecordData::flags, on ? flags | flag : flags & ~flag);
+}
 
-bool ZrDbLayerTableRecord::isLocked() const { return (dataOf(*this).flags & 4) != 0; }
+bool ZrDbLayerTableRecord::isFrozen() const { return (dataOf(*this).flags & kFrozen) != 0; }
+
+Quor::ErrorStatus ZrDbLayerTableRecord::setIsFrozen(bool frozen) {
+    if (frozen && database() != nullptr && database()->currentLayerId() == objectId())
+        return Quor::eNotAllowed;
+    return setFlag(kFrozen, frozen);
+}
+
+bool ZrDbLayerTableRecord::isLocked() const { return (dataOf(*this).flags & kLocked) != 0; }
+
+Quor::ErrorStatus ZrDbLayerTableRecord::setIsLocked(bool locked) { return setFlag(kLocked, locked); }
 
 bool ZrDbLayerTableRecord::isOff() const { return dataOf(*this).off; }
+
+Quor::ErrorStatus ZrDbLayerTableRecord::setIsOff(bool off) { return change(&ZrDbLayerTableRecordData::off, off); }
 
 ZrString ZrDbLayerTableRecord::plotStyleName() const { return dataOf(*this).plotStyle; }
 

@@ -89,8 +89,9 @@ inline constexpr Text kNotInModelTab{L"\n%s 不能在“模型”选项卡中使
 
 // LAYER.
 inline constexpr Text kCurrentLayer{L"\n当前图层: %s\n", L"\nCurrent layer: %s\n"};
-inline constexpr Text kAskLayer{L"\n输入选项 [列出(?)/新建(M)/设置(S)] <退出>: ",
-                                L"\nEnter an option [?/Make/Set] <exit>: "};
+inline constexpr Text kAskLayer{
+    L"\n输入选项 [列出(?)/新建(M)/设置(S)/开(ON)/关(OFF)/颜色(C)/冻结(F)/解冻(T)/锁定(LO)/解锁(U)] <退出>: ",
+    L"\nEnter an option [?/Make/Set/ON/OFF/Color/Freeze/Thaw/LOck/Unlock] <exit>: "};
 inline constexpr Text kAskLayerToMake{L"\n输入新图层的名称 (成为当前图层): ",
                                       L"\nEnter name of new layer (becomes the current layer): "};
 inline constexpr Text kAskLayerToSet{L"\n输入要置为当前的图层 <%s>: ", L"\nEnter layer to make current <%s>: "};
@@ -105,6 +106,27 @@ inline constexpr Text kBadLayerName{
     L"\n“%s”不能作为图层名: 长度须为 1 到 255 个字符，且不含 %s 和控制字符。\n",
     L"\n\"%s\" is not a valid layer name: use 1 to 255 characters, none of them %s or a control "
     L"character.\n"};
+inline constexpr Text kAskLayersOn{L"\n输入要打开的图层的名称: ", L"\nEnter names of layers to turn on: "};
+inline constexpr Text kAskLayersOff{L"\n输入要关闭的图层的名称: ", L"\nEnter names of layers to turn off: "};
+inline constexpr Text kAskLayersFreeze{L"\n输入要冻结的图层的名称: ", L"\nEnter names of layers to freeze: "};
+inline constexpr Text kAskLayersThaw{L"\n输入要解冻的图层的名称: ", L"\nEnter names of layers to thaw: "};
+inline constexpr Text kAskLayersLock{L"\n输入要锁定的图层的名称: ", L"\nEnter names of layers to lock: "};
+inline constexpr Text kAskLayersUnlock{L"\n输入要解锁的图层的名称: ", L"\nEnter names of layers to unlock: "};
+inline constexpr Text kAskLayerColor{L"\n输入颜色名称或编号 (1-255)，或 红,绿,蓝: ",
+                                     L"\nEnter color name or number (1-255), or red,green,blue: "};
+inline constexpr Text kAskLayersColored{L"\n输入颜色为 %s 的图层的名称: ", L"\nEnter names of layers for color %s: "};
+inline constexpr Text kLayersOn{L"\n已打开 %d 个图层。\n", L"\nLayers turned on: %d\n"};
+inline constexpr Text kLayersOff{L"\n已关闭 %d 个图层。\n", L"\nLayers turned off: %d\n"};
+inline constexpr Text kLayersFrozen{L"\n已冻结 %d 个图层。\n", L"\nLayers frozen: %d\n"};
+inline constexpr Text kLayersThawed{L"\n已解冻 %d 个图层。\n", L"\nLayers thawed: %d\n"};
+inline constexpr Text kLayersLocked{L"\n已锁定 %d 个图层。\n", L"\nLayers locked: %d\n"};
+inline constexpr Text kLayersUnlocked{L"\n已解锁 %d 个图层。\n", L"\nLayers unlocked: %d\n"};
+inline constexpr Text kLayersColored{L"\n已更改 %d 个图层的颜色。\n", L"\nLayers whose color was changed: %d\n"};
+inline constexpr Text kBadLayerColor{
+    L"\n“%s”不是颜色。请输入 1 到 255、颜色名、“红,绿,蓝”(0 到 255) 或“配色系统$颜色”。\n",
+    L"\n\"%s\" is not a color. Enter 1 to 255, a color name, \"red,green,blue\" (0 to 255), or \"book$color\".\n"};
+inline constexpr Text kNoLayerMatches{L"\n没有图层与“%s”匹配。用“列出”选项可查看图层。\n",
+                                      L"\nNo layer matches \"%s\". Use ? to list the layers.\n"};
 inline constexpr Text kLayerColumnName{L"名称", L"Name"};
 inline constexpr Text kLayerColumnState{L"状态", L"State"};
 inline constexpr Text kLayerColumnColor{L"颜色", L"Color"};
@@ -112,6 +134,10 @@ inline constexpr Text kLayerOn{L"开", L"on"};
 inline constexpr Text kLayerOff{L"关", L"off"};
 inline constexpr Text kLayerFrozen{L"冻结", L"frozen"};
 inline constexpr Text kLayerLocked{L"锁定", L"locked"};
+
+// TEXTSCR, GRAPHSCR.
+inline constexpr Text kOneScreen{L"\n这里只有一个屏幕，文字和图形不能切换。\n",
+                                 L"\nThere is one screen only here; text and graphics cannot be switched.\n"};
 
 // SETVAR.
 inline constexpr Text kAskVariable{L"\n输入变量名或 [?]: ", L"\nEnter variable name or [?]: "};

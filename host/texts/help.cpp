@@ -230,13 +230,21 @@ constexpr HelpPage kPages[] = {
       L"In a layout, switches from the viewport back to paper space."},
      kNoQuestions, L"PSPACE"},
     {L"LAYER", kSpaces,
-     {L"列出图层，新建图层，或设置当前图层。",
-      L"Lists layers, creates layers, and sets the current layer."},
+     {L"列出、新建、设置当前图层，或更改图层的状态和颜色。",
+      L"Lists and creates layers, sets the current one, and changes the state and color of layers."},
      {L"列出(?): 所有图层。新建(M): 名称；该图层成为当前图层。设置(S): 已有图层的名称。Enter 结束。\n"
+      L"开(ON)、关(OFF)、颜色(C)、冻结(F)、解冻(T)、锁定(LO)、解锁(U): 图层的名称，多个名称以逗号分隔，可用 * 和 ? 作通配符。\n"
+      L"当前图层不能冻结。锁定图层上的对象不能更改或删除。\n"
       L"名称为 1 到 255 个字符，可含空格，不含 <>/\\\":;?*|=,` 。",
       L"?: all layers. Make: a name; the new layer becomes current. Set: the name of an existing layer. Enter ends.\n"
+      L"ON, OFF, Color, Freeze, Thaw, LOck, Unlock: names of layers, separated by commas; * and ? are wildcards.\n"
+      L"The current layer cannot be frozen. Objects on locked layers cannot be changed or erased.\n"
       L"Names have 1 to 255 characters, may contain spaces, and contain none of <>/\\\":;?*|=,` ."},
      L"LAYER ? "},
+    {L"LAYERS", kSpaces,
+     {L"显示“图层”选项板；没有窗口时列出图层。",
+      L"Shows the Layers palette; lists the layers where there are no windows."},
+     kNoQuestions, L"LAYERS"},
 
     {L"SETVAR", kPrograms,
      {L"查看或更改系统变量。也可直接输入变量名。",

@@ -23,8 +23,8 @@ inline constexpr Text variableWantsChoice{L"系统变量 %s 需要下列值之�
 inline constexpr Text variableNoDrawing{L"系统变量 %s 属于图形，而当前没有打开的图形。",
                                         L"System variable %s belongs to a drawing, and none is open."};
 inline constexpr Text variableNoLayer{
-    L"%s: 图形中没有该名称的可用图层(隐藏图层不能作为当前图层)。",
-    L"%s: no layer of this name can be made current (hidden layers cannot be current)."};
+    L"%s: 图形中没有该名称的可用图层(隐藏或冻结的图层不能作为当前图层)。",
+    L"%s: no layer of this name can be made current (hidden and frozen layers cannot be current)."};
 inline constexpr Text variableNotSaved{
     L"系统变量 %s 仅在本次运行中有效: 无法写入用户设置。",
     L"System variable %s was changed for this session only: the user settings cannot "

@@ -56,9 +56,14 @@ public:
     Quor::ErrorStatus setIsHidden(bool hidden);
     [[nodiscard]] bool isPlottable() const;
     Quor::ErrorStatus setIsPlottable(bool plottable);
+    // Neither shown nor selectable. The current layer cannot be frozen: eNotAllowed.
     [[nodiscard]] bool isFrozen() const;
+    Quor::ErrorStatus setIsFrozen(bool frozen);
+    // Its entities are seen and cannot be changed.
     [[nodiscard]] bool isLocked() const;
+    Quor::ErrorStatus setIsLocked(bool locked);
     [[nodiscard]] bool isOff() const;
+    Quor::ErrorStatus setIsOff(bool off);
     // The plot style by name ("Color_7"); a drawing with colour-dependent plot styles keeps no name.
     Quor::ErrorStatus setPlotStyleName(const ZrString& name);
     [[nodiscard]] ZrString plotStyleName() const;
@@ -71,6 +76,7 @@ public:
 private:
     template <class T, class Data>
     Quor::ErrorStatus change(T Data::*member, const T& value);
+    Quor::ErrorStatus setFlag(int flag, bool on);
 };
 
 class ZrDbLayerTable : public ZrDbSymbolTable {

@@ -17,7 +17,6 @@
 
 namespace quor {
 
-using commands::LightFacts;
 using commands::LightTables;
 
 namespace {

@@ -1,4 +1,4 @@
-#include "host/commands/light_facts.h"
+#include "host/props/light_facts.h"
 
 #include "sdk/db/light.h"
 
@@ -7,7 +7,7 @@
 #include <cmath>
 #include <filesystem>
 
-namespace quor::commands {
+namespace quor {
 
 namespace {
 
@@ -255,4 +255,4 @@ TEST_F(ALight, HasAPresetOrATemperature) {
 
 } // namespace
 
-} // namespace quor::commands
+} // namespace quor

@@ -1,12 +1,12 @@
-#include "host/commands/light_facts.h"
+#include "host/props/light_facts.h"
 
-#include "host/commands/listing.h"
+#include "host/props/value_text.h"
 
 #include <array>
 #include <charconv>
 #include <cmath>
 
-namespace quor::commands {
+namespace quor {
 
 namespace {
 
@@ -21,32 +21,23 @@ std::optional<ZrGeVector3d> directionOf(const ZrDbLight& light, LightKind kind) 
     return direction;
 }
 
-// Angles are degrees where they are typed and in the file, radians in between: the last digits of what comes back are
-// not its own.
-double typedDegrees(double radians) {
-    constexpr int kOwnDigits = 15;
-    return roundedTo(kOwnDigits, inDegrees(radians));
-}
-
-bool isWeb(LightKind kind) { return kind == LightKind::Web || kind == LightKind::FreeWeb; }
-
 // Whether the unit of the drawing's illuminances is needed and not known.
 bool lacksUnit(const PhotometricIntensity& intensity, PhysicalIntensityMethod wanted) {
     return !isPhotometric(intensity.lightingUnits) && (intensity.method == kIlluminance || wanted == kIlluminance);
 }
 
 // Of light all around and of a cone the flux is known from the intensity, and the other way round; of a web it is not.
-bool lacksFlux(const PhotometricIntensity& intensity, PhysicalIntensityMethod wanted, const LightFacts& facts) {
+bool lacksFlux(const PhotometricIntensity& intensity, PhysicalIntensityMethod wanted, const ZrDbLight& light) {
     const bool isAboutFlux = intensity.method == kFlux || wanted == kFlux;
-    return isAboutFlux && isWeb(facts.kind) && !facts.webFile.empty();
+    return isAboutFlux && light.lightType() == DrawableType::kWebLight && !light.webFile().empty();
 }
 
 std::optional<double> intensityIn(PhysicalIntensityMethod wanted, const PhotometricIntensity& intensity,
-                                  const LightFacts& facts) {
+                                  const ZrDbLight& light) {
     if (wanted == intensity.method)
         return intensity.value;
-    if (lacksUnit(intensity, wanted) || lacksFlux(intensity, wanted, facts) ||
-        (facts.kind == LightKind::Distant && wanted != kPeakIntensity))
+    if (lacksUnit(intensity, wanted) || lacksFlux(intensity, wanted, light) ||
+        (light.lightType() == DrawableType::kDistantLight && wanted != kPeakIntensity))
         return std::nullopt;
     const double value = convertIntensity(intensity, wanted);
     return std::isfinite(value) ? std::optional(value) : std::nullopt;
@@ -59,7 +50,7 @@ void addGeometry(const ZrDbLight& light, LightFacts& facts) {
             facts.target = light.targetLocation();
     }
     facts.direction = directionOf(light, facts.kind);
-    if (facts.kind == LightKind::Spot || facts.kind == LightKind::FreeSpot) {
+    if (isSpot(facts.kind)) {
         facts.hotspot = typedDegrees(light.hotspotAngle());
         facts.falloff = typedDegrees(light.falloffAngle());
     }
@@ -68,9 +59,9 @@ void addGeometry(const ZrDbLight& light, LightFacts& facts) {
 void addPhotometry(const ZrDbLight& light, const PhotometricUnits& units, LightFacts& facts) {
     const PhotometricIntensity intensity = photometricIntensityOf(light, units);
     facts.method = intensity.method;
-    facts.candela = intensityIn(kPeakIntensity, intensity, facts);
-    facts.lumen = intensityIn(kFlux, intensity, facts);
-    facts.illuminance = intensityIn(kIlluminance, intensity, facts);
+    facts.candela = intensityIn(kPeakIntensity, intensity, light);
+    facts.lumen = intensityIn(kFlux, intensity, light);
+    facts.illuminance = intensityIn(kIlluminance, intensity, light);
     if (facts.kind != LightKind::Distant || facts.illuminance)
         facts.illuminanceDistance = intensity.distance;
     if (light.lampColorType() == LampColorType::kPreset)
@@ -95,6 +86,21 @@ double roundedTo(int digits, double value) {
     const auto written = std::to_chars(text.data(), end, value, std::chars_format::scientific, digits - 1);
     std::from_chars(text.data(), written.ptr, value);
     return value;
+}
+
+// Angles are degrees where they are typed and in the file, radians in between.
+double typedDegrees(double radians) {
+    constexpr int kOwnDigits = 15;
+    return roundedTo(kOwnDigits, inDegrees(radians));
+}
+
+bool isSpot(LightKind kind) { return kind == LightKind::Spot || kind == LightKind::FreeSpot; }
+
+bool isWeb(LightKind kind) { return kind == LightKind::Web || kind == LightKind::FreeWeb; }
+
+std::optional<double> intensityOf(const ZrDbLight& light, PhysicalIntensityMethod wanted,
+                                  const PhotometricUnits& units) {
+    return intensityIn(wanted, photometricIntensityOf(light, units), light);
 }
 
 const wchar_t* illuminanceUnit(int lightingUnits) {
@@ -135,4 +141,4 @@ LightFacts factsOf(const ZrDbLight& light, const ZrString& layout, const Photome
     return facts;
 }
 
-} // namespace quor::commands
+} // namespace quor

@@ -1,4 +1,4 @@
-// A light as the tables of lights tell of it: what counts for its kind, and nothing of what does not.
+// A light as people are told of it: what counts for its kind, and nothing of what does not.
 #pragma once
 
 #include "sdk/db/light.h"
@@ -6,7 +6,7 @@
 
 #include <optional>
 
-namespace quor::commands {
+namespace quor {
 
 enum class LightKind { Point, TargetPoint, Spot, FreeSpot, Web, FreeWeb, Distant };
 inline constexpr std::size_t kLightKinds = 7;
@@ -55,7 +55,16 @@ struct LightFacts {
 // To so many significant digits, at most 17.
 [[nodiscard]] double roundedTo(int digits, double value);
 
+// As an angle in degrees was typed: the last digits that the way through radians adds are left out.
+[[nodiscard]] double typedDegrees(double radians);
+
 [[nodiscard]] LightKind kindOf(const ZrDbLight& light);
+// Whether the kind aims with a cone, or shines as a web says.
+[[nodiscard]] bool isSpot(LightKind kind);
+[[nodiscard]] bool isWeb(LightKind kind);
+// The intensity in the unit of a method; nothing where the light has none (see LightFacts).
+[[nodiscard]] std::optional<double> intensityOf(const ZrDbLight& light, PhysicalIntensityMethod wanted,
+                                                const PhotometricUnits& units);
 [[nodiscard]] LightFacts factsOf(const ZrDbLight& light, const ZrString& layout, const PhotometricUnits& units);
 
-} // namespace quor::commands
+} // namespace quor
