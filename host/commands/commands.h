@@ -50,6 +50,15 @@ int layer(Session& session);
 int layers(Session& session);
 int setVariable(Session& session);
 
+// How the drawing is seen.
+int zoom(Session& session);
+int view(Session& session);
+int visualStyle(Session& session);
+int projection(Session& session);
+int plan(Session& session);
+int regen(Session& session);
+int objectSnaps(Session& session);
+
 // Programs.
 int script(Session& session);
 int loadModule(Session& session);

@@ -169,16 +169,22 @@ void Database::reservePhotometry(ZrDbLightData& light) {
 }
 
 ObjectEntry& Database::addLayer(std::unique_ptr<ZrDbLayerTableRecord> layer) {
-    SymbolTable& table = layers_.table();
-    // A table that is new in the drawing is written with its first layer.
+    const ZrString name = layer->getName();
+    ObjectEntry& entry = addTableRecord("LAYER", std::move(layer));
+    layers_.table().byName[name] = &entry;
+    return entry;
+}
+
+ObjectEntry& Database::addTableRecord(std::string_view type, std::unique_ptr<ZrDbSymbolTableRecord> record) {
+    SymbolTable& table = structure_.table(type);
+    // A table that is new in the drawing is written with its first record.
     if (table.entry->handle == 0)
         table.entry->handle = objects_.takeHandles(1);
     ObjectEntry& entry = objects_.add(objects_.takeHandles(1), ObjectKind::TableRecord);
-    entry.type = file_.typeNumber("LAYER");
+    entry.type = file_.typeNumber(type);
     entry.owner = table.entry;
     table.records.push_back(&entry);
-    table.byName[layer->getName()] = &entry;
-    return adopt(std::move(layer), entry);
+    return adopt(std::move(record), entry);
 }
 
 } // namespace quor::db

@@ -141,6 +141,8 @@ public:
     // Takes an object in; it is open for write from then on.
     ObjectEntry& appendEntity(Block& block, std::unique_ptr<ZrDbEntity> entity);
     ObjectEntry& addLayer(std::unique_ptr<ZrDbLayerTableRecord> layer);
+    // To the table of that type; found there by its place, not by name.
+    ObjectEntry& addTableRecord(std::string_view type, std::unique_ptr<ZrDbSymbolTableRecord> record);
     // Handles for photometric data that a light has none of; a save writes them when they are needed.
     void reservePhotometry(ZrDbLightData& light);
     // Whether DEFAULTLIGHTING differs from the file, which has a place for it.

@@ -4,6 +4,7 @@
 #include "host/db/extension_dictionary.h"
 #include "host/db/object_reader.h"
 #include "host/db/versions.h"
+#include "host/db/view_records.h"
 #include "host/sys/utf8.h"
 
 namespace quor::db {
@@ -78,6 +79,26 @@ std::string ObjectWriter::newEntity(const ObjectEntry& entry) const {
             writer.integer(67, 1);
         writeFields(writer, file_.codec(), group.fields, data, context_);
     }
+    return writer.take();
+}
+
+std::string ObjectWriter::newTableRecord(const ObjectEntry& entry) const {
+    return file_.typeName(entry.type) == "LAYER" ? newLayer(entry) : newView(entry);
+}
+
+std::string ObjectWriter::newView(const ObjectEntry& entry) const {
+    dxf::TagWriter writer = file_.writer();
+    commonHead(writer, entry, "VIEW", 0);
+    if (hasSubclasses_) {
+        writer.text(100, "AcDbSymbolTableRecord");
+        writer.text(100, "AcDbViewTableRecord");
+    }
+    for (const FieldGroup& group : viewGroups())
+        writeFields(writer, file_.codec(), group.fields, *entry.object->hostData(), context_);
+    if (file_.version() < versions::kFirstWithRenderModes)
+        return writer.take();
+    writer.integer(281, 0); // drawn as lines
+    writer.integer(72, 0);  // without a coordinate system of its own
     return writer.take();
 }
 

@@ -17,7 +17,8 @@ public:
     [[nodiscard]] std::string changedEntity(const ObjectEntry& entry) const;
     [[nodiscard]] std::string newEntity(const ObjectEntry& entry) const;
     [[nodiscard]] std::string changedLayer(const ObjectEntry& entry) const;
-    [[nodiscard]] std::string newLayer(const ObjectEntry& entry) const;
+    // A layer or a named view.
+    [[nodiscard]] std::string newTableRecord(const ObjectEntry& entry) const;
 
     // The extension dictionary of a light with its one record, and that record.
     [[nodiscard]] std::string photometryDictionary(const ZrDbLightData& light, std::uint64_t lightHandle) const;
@@ -27,6 +28,8 @@ public:
                                                 const ZrDbLightData& light) const;
 
 private:
+    [[nodiscard]] std::string newLayer(const ObjectEntry& entry) const;
+    [[nodiscard]] std::string newView(const ObjectEntry& entry) const;
     // Whether the entity stands in the paper space of a layout.
     [[nodiscard]] bool isOnSheet(const ObjectEntry& entry) const;
     void commonHead(dxf::TagWriter& writer, const ObjectEntry& entry, std::string_view type,

@@ -18,7 +18,7 @@ public:
 
     void addHeader(const std::string& tags) { header_ += tags; }
     void addClass(const std::string& tags) { classes_ += tags; }
-    void addLayer(const SymbolTable& layers, const std::string& tags);
+    void addTableRecord(const SymbolTable& table, const std::string& tags);
     // `at`: where in the file; 0: the end of the ENTITIES section.
     void addEntity(std::uint64_t at, const std::string& tags);
     void addObject(const std::string& tags) { objects_ += tags; }
@@ -31,8 +31,15 @@ public:
     void finish(dxf::PatchList& patches, bool mend);
 
 private:
+    // New records of one table.
+    struct TableRecords {
+        std::string tags;
+        std::size_t count = 0;
+    };
+
     void put(dxf::PatchList& patches, std::string_view section, const std::string& tags);
-    void putLayers(dxf::PatchList& patches);
+    [[nodiscard]] std::string wholeTable(const SymbolTable& table, const TableRecords& records) const;
+    void putTableRecords(dxf::PatchList& patches);
     // Whether the file breaks off inside the section.
     [[nodiscard]] bool breaksOffIn(std::string_view section) const;
     [[nodiscard]] std::string wholeSection(std::string_view name, const std::string& body) const;
@@ -41,10 +48,7 @@ private:
     const DrawingFile& file_;
     std::string header_;
     std::string classes_;
-    std::string layers_;
-    std::uint64_t layersAt_ = 0;
-    std::size_t layerCount_ = 0;
-    ObjectEntry* layerTable_ = nullptr;
+    std::map<const SymbolTable*, TableRecords> tableRecords_;
     std::string entities_;
     std::map<std::uint64_t, std::string> blockEntities_;
     std::string objects_;

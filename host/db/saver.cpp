@@ -129,7 +129,8 @@ private:
     void add(const ObjectEntry& entry, bool isLight) {
         noteHandle(entry.handle);
         if (entry.kind == ObjectKind::TableRecord) {
-            sections_.addLayer(database_.layers().table(), writer_.newLayer(entry));
+            sections_.addTableRecord(database_.structure().table(file_.typeName(entry.type)),
+                                     writer_.newTableRecord(entry));
             return;
         }
         const Block* block = database_.structure().blockOf(entry.owner);
@@ -175,7 +176,7 @@ Result<dxf::PatchList, FileProblem> collectPatches(Database& database, const ZrS
 std::string objectBytes(Database& database, const ObjectEntry& entry) {
     const ObjectWriter writer(database);
     if (!entry.isInFile())
-        return entry.kind == ObjectKind::Entity ? writer.newEntity(entry) : writer.newLayer(entry);
+        return entry.kind == ObjectKind::Entity ? writer.newEntity(entry) : writer.newTableRecord(entry);
     if (entry.changed)
         return entry.kind == ObjectKind::Entity ? writer.changedEntity(entry) : writer.changedLayer(entry);
     const dxf::Record& record = database.file().record(entry.record);

@@ -17,11 +17,10 @@ std::size_t orderOf(std::string_view section) {
 
 } // namespace
 
-void SectionAdditions::addLayer(const SymbolTable& layers, const std::string& tags) {
-    layers_ += tags;
-    layersAt_ = layers.insertAt;
-    layerTable_ = layers.entry;
-    ++layerCount_;
+void SectionAdditions::addTableRecord(const SymbolTable& table, const std::string& tags) {
+    TableRecords& records = tableRecords_[&table];
+    records.tags += tags;
+    ++records.count;
 }
 
 void SectionAdditions::addEntity(std::uint64_t at, const std::string& tags) {
@@ -59,25 +58,34 @@ void SectionAdditions::put(dxf::PatchList& patches, std::string_view section, co
         patches.insert(last->bodyEnd, tags);
 }
 
-void SectionAdditions::putLayers(dxf::PatchList& patches) {
-    if (layersAt_ != 0) {
-        patches.insert(layersAt_, layers_);
-        return;
+void SectionAdditions::putTableRecords(dxf::PatchList& patches) {
+    // Whole tables go in by name, so that a drawing is always written alike.
+    std::map<std::string, std::string> newTables;
+    for (const auto& [table, records] : tableRecords_) {
+        if (table->insertAt != 0)
+            patches.insert(table->insertAt, records.tags);
+        else
+            newTables[table->type] = wholeTable(*table, records);
     }
-    if (layers_.empty())
-        return;
-    dxf::TagWriter table = file_.writer();
-    table.text(0, "TABLE");
-    table.text(2, "LAYER");
+    std::string tags;
+    for (const auto& [type, table] : newTables)
+        tags += table;
+    put(patches, "TABLES", tags);
+}
+
+std::string SectionAdditions::wholeTable(const SymbolTable& table, const TableRecords& records) const {
+    dxf::TagWriter writer = file_.writer();
+    writer.text(0, "TABLE");
+    writer.text(2, table.type);
     if (file_.version() >= versions::kFirstWithSubclasses) {
-        table.handle(5, layerTable_->handle);
-        table.handle(330, 0);
-        table.text(100, "AcDbSymbolTable");
+        writer.handle(5, table.entry->handle);
+        writer.handle(330, 0);
+        writer.text(100, "AcDbSymbolTable");
     }
-    table.integer(70, static_cast<std::int64_t>(layerCount_));
-    table.raw(layers_);
-    table.text(0, "ENDTAB");
-    put(patches, "TABLES", table.take());
+    writer.integer(70, static_cast<std::int64_t>(records.count));
+    writer.raw(records.tags);
+    writer.text(0, "ENDTAB");
+    return writer.take();
 }
 
 bool SectionAdditions::breaksOffIn(std::string_view section) const {
@@ -89,7 +97,7 @@ void SectionAdditions::finish(dxf::PatchList& patches, bool mend) {
     const std::array<const std::string*, kSectionOrder.size()> additions{&header_, &classes_,  nullptr,
                                                                          nullptr,  &entities_, &objects_};
     bool somethingNew =
-        (mend && !file_.layout().hasEnd) || !patches.empty() || !layers_.empty() || !blockEntities_.empty();
+        (mend && !file_.layout().hasEnd) || !patches.empty() || !tableRecords_.empty() || !blockEntities_.empty();
     for (const std::string* tags : additions)
         somethingNew = somethingNew || (tags != nullptr && !tags->empty());
     if (!somethingNew)
@@ -99,7 +107,7 @@ void SectionAdditions::finish(dxf::PatchList& patches, bool mend) {
     bool open = !file_.layout().sections.empty() && !file_.layout().sections.back().closed;
     for (std::size_t i = 0; i < kSectionOrder.size(); ++i) {
         if (kSectionOrder[i] == "TABLES")
-            putLayers(patches);
+            putTableRecords(patches);
         else if (additions[i] != nullptr)
             put(patches, kSectionOrder[i], *additions[i]);
         // The section in which the file breaks off ends before the next one begins.

@@ -10,6 +10,7 @@ inline constexpr int kFirstWithSubclasses = 1012; // subclass markers, owners, h
 inline constexpr int kFirstWithLights = 1015;
 inline constexpr int kOnlyWithRawLightColor = 1015; // the light's colour as one word
 inline constexpr int kFirstWithPlotStyles = 1015;
+inline constexpr int kFirstWithRenderModes = 1015; // of views, and coordinate systems of their own
 inline constexpr int kFirstWithTrueColor = 1018;
 inline constexpr int kFirstWithClassCounts = 1018;
 inline constexpr int kFirstWithHiddenLayers = 1021; // marked by an asterisk

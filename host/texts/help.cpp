@@ -8,6 +8,7 @@ constexpr Text kFiles{L"图形和文件", L"Drawings and files"};
 constexpr Text kUndoing{L"放弃和重做", L"Undo and redo"};
 constexpr Text kObjects{L"对象", L"Objects"};
 constexpr Text kSpaces{L"坐标系、空间和图层", L"Coordinate systems, spaces, and layers"};
+constexpr Text kViews{L"视图", L"Views"};
 constexpr Text kPrograms{L"设置、脚本和帮助", L"Settings, scripts, and help"};
 
 constexpr Text kNoQuestions{L"", L""};
@@ -246,6 +247,58 @@ constexpr HelpPage kPages[] = {
       L"Shows the Layers palette; lists the layers where there are no windows."},
      kNoQuestions, L"LAYERS"},
 
+    {L"ZOOM", kViews,
+     {L"放大、缩小画面，或显示全部图形。",
+      L"Magnifies or shrinks the picture, or shows the whole drawing."},
+     {L"指定窗口的两个角点；或输入比例因子: 2 相对于全部图形，2X 相对于当前视图。\n"
+      L"范围(E): 所有可见的对象；全部(A): 从上方看时还包括图形界限；上一个(P): 前一个视图；中心(C): 中心点和比例或高度；\n"
+      L"比例(S)；窗口(W)。执行其他命令时可用 'ZOOM。鼠标滚轮也缩放，按住中键平移。",
+      L"Specify the two corners of a window, or enter a scale factor: 2 is relative to the whole drawing, 2X to the current "
+      L"view.\n"
+      L"Extents: everything that is visible; All: seen from above, the limits of the drawing too; Previous: the view before; "
+      L"Center: a center point and a scale or height; Scale; Window.\n"
+      L"'ZOOM can be used during other commands. The mouse wheel zooms too; drag with the middle button to pan."},
+     L"ZOOM E"},
+    {L"VIEW", kViews,
+     {L"恢复标准视图或命名视图；保存、删除命名视图。",
+      L"Restores a standard or named view; saves and deletes named views."},
+     {L"视图名称: 标准视图 TOP、BOTTOM、FRONT、BACK、LEFT、RIGHT、SWISO、SEISO、NEISO、NWISO，或图形中的视图。\n"
+      L"保存(S): 把当前视图存入图形，随图形一起保存，可用 U 放弃；删除(D)；?: 列出所有视图。执行其他命令时可用 'VIEW。",
+      L"View name: one of the standard views TOP, BOTTOM, FRONT, BACK, LEFT, RIGHT, SWISO, SEISO, NEISO, NWISO, or a view of the "
+      L"drawing.\n"
+      L"Save: puts the current view into the drawing, to be saved with it; U undoes it. Delete. ?: lists all views. 'VIEW can "
+      L"be used during other commands."},
+     L"VIEW SWISO"},
+    {L"VISUALSTYLE", kViews,
+     {L"以线框或着色方式显示图形。",
+      L"Shows the drawing as lines, or shaded."},
+     {L"线框(W)；着色(S): 面由图形中的光源照亮；DEFAULTLIGHTING 为 1 时由默认光源照亮。",
+      L"Wireframe; Shaded: the lights of the drawing illuminate its faces, or default lighting while DEFAULTLIGHTING is 1."},
+     L"VISUALSTYLE S"},
+    {L"PROJECTION", kViews,
+     {L"以平行投影或透视方式显示图形。",
+      L"Shows the drawing in parallel projection or in perspective."},
+     {L"平行(P)；透视(E)。",
+      L"Parallel; pErspective."},
+     L"PROJECTION E"},
+    {L"PLAN", kViews,
+     {L"从上方显示坐标系的平面。",
+      L"Shows the plane of a coordinate system from above."},
+     {L"当前(C): 当前 UCS；世界(W)。",
+      L"Current: the current UCS; World."},
+     L"PLAN W"},
+    {L"REGEN", kViews,
+     {L"从图形重新生成画面。",
+      L"Makes the picture anew from the drawing."},
+     kNoQuestions, L"REGEN"},
+    {L"OSNAP", kViews,
+     {L"设置对象捕捉: 光标附近的端点、中点和中心。",
+      L"Sets object snaps: end points, midpoints and centers near the cursor."},
+     {L"端点(E)、中点(M)、中心(C) 各自开关；全部(A)；无(N)；开(ON)、关(OFF): 不改变所选的捕捉。Enter 结束。\n"
+      L"着色显示时还捕捉光标下的面。设置保存在 OSMODE 中。",
+      L"End, Mid, and Center are each switched; All; None; ON and OFF keep what is chosen. Enter ends.\n"
+      L"In a shaded picture the face under the cursor is snapped to as well. The setting is kept in OSMODE."},
+     L"OSNAP ALL"},
     {L"SETVAR", kPrograms,
      {L"查看或更改系统变量。也可直接输入变量名。",
       L"Shows and sets system variables. A variable name can be typed directly."},

@@ -32,6 +32,9 @@ public:
     // Done to each window at the top when it is made; may throw, as a program that cannot show it.
     void whenRealised(std::function<void(CWnd&)> action) { whenRealised_ = std::move(action); }
 
+    // The picture of the current drawing; without one there is none. It has to outlive its use.
+    void setView(gs::View* view) { view_ = view; }
+
     // Everything that a screen would show: prompts with their answers, messages.
     [[nodiscard]] const ZrString& screen() const { return screen_; }
     [[nodiscard]] bool shows(std::wstring_view text) const { return screen_.find(text) != ZrString::npos; }
@@ -66,6 +69,7 @@ public:
     // As text on the screen.
     void paletteShown(const CZkUiPaletteSet& palette) override;
     unsigned trackMenu(const CMenu& menu, CPoint screen) override;
+    gs::View* view() override { return view_; }
     void redraw() override { ++redraws_; }
 
 private:
@@ -96,6 +100,7 @@ private:
     std::vector<ZrString> lastKeywords_;
     std::optional<ZrGePoint3d> lastBase_;
     std::vector<ZrGePoint3d> samples_;
+    gs::View* view_ = nullptr;
     int redraws_ = 0;
 };
 

@@ -1,0 +1,74 @@
+#include "host/gs/initial_camera.h"
+
+#include "host/db/database.h"
+#include "host/gs/view_record.h"
+
+#include <algorithm>
+
+namespace quor::gs {
+
+namespace {
+
+// Group codes of a viewport record.
+struct RealPlace {
+    int code;
+    double& (*of)(db::ViewData& view);
+};
+constexpr std::array kReals{
+    RealPlace{12, [](db::ViewData& view) -> double& { return view.center.x; }},
+    RealPlace{22, [](db::ViewData& view) -> double& { return view.center.y; }},
+    RealPlace{16, [](db::ViewData& view) -> double& { return view.direction.x; }},
+    RealPlace{26, [](db::ViewData& view) -> double& { return view.direction.y; }},
+    RealPlace{36, [](db::ViewData& view) -> double& { return view.direction.z; }},
+    RealPlace{17, [](db::ViewData& view) -> double& { return view.target.x; }},
+    RealPlace{27, [](db::ViewData& view) -> double& { return view.target.y; }},
+    RealPlace{37, [](db::ViewData& view) -> double& { return view.target.z; }},
+    RealPlace{40, [](db::ViewData& view) -> double& { return view.height; }},
+    RealPlace{51, [](db::ViewData& view) -> double& { return view.twistDegrees; }},
+};
+constexpr int kModeCode = 71;
+
+db::ViewData readViewport(const db::DrawingFile& file, const db::ObjectEntry& viewport) {
+    db::ViewData view;
+    dxf::TagReader tags = file.tags(file.record(viewport.record));
+    dxf::Tag tag;
+    while (tags.next(tag)) {
+        const auto* const place =
+            std::find_if(kReals.begin(), kReals.end(), [&](const RealPlace& each) { return each.code == tag.code; });
+        if (place != kReals.end())
+            place->of(view) = tag.asDouble().value_or(0);
+        else if (tag.code == kModeCode)
+            view.mode = static_cast<int>(tag.asInt().value_or(0));
+    }
+    return view;
+}
+
+// Whether any of the box may be on the picture: not all of its corners lie beyond the same edge.
+bool shows(const Camera& camera, PictureSize size, const Box& box) {
+    constexpr double kSmallest = 2; // pixels; less is nothing that a person would see
+    const Projector projector(camera, size);
+    Box seen;
+    for (const double x : {box.low.x, box.high.x})
+        for (const double y : {box.low.y, box.high.y})
+            for (const double z : {box.low.z, box.high.z})
+                if (const auto at = projector.toScreen({x, y, z}))
+                    seen.add({at->x, at->y, 0});
+    return !seen.isEmpty() && seen.high.x >= 0 && seen.high.y >= 0 && seen.low.x <= size.width &&
+           seen.low.y <= size.height && (seen.diagonal() >= kSmallest || box.diagonal() == 0);
+}
+
+} // namespace
+
+Camera cameraOf(db::Database& drawing) {
+    const db::ObjectEntry* const viewport = drawing.structure().activeViewport();
+    if (viewport == nullptr || !viewport->isInFile())
+        return {};
+    return cameraOf(readViewport(drawing.file(), *viewport)).value_or(Camera());
+}
+
+Camera initialCamera(db::Database& drawing, PictureSize size, const Box& extents) {
+    const Camera camera = cameraOf(drawing);
+    return extents.isEmpty() || shows(camera, size, extents) ? camera : fitted(camera, size, extents);
+}
+
+} // namespace quor::gs
