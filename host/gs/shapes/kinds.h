@@ -32,6 +32,8 @@ void showSubdivisionMesh(const Source& source, Pen& pen); // MESH
 void showHatch(const Source& source, Pen& pen);
 void showImage(const Source& source, Pen& pen);
 void showSolidModel(const Source& source, Pen& pen); // 3DSOLID, REGION, BODY and the surfaces
+void showText(const Source& source, Pen& pen);
+void showParagraph(const Source& source, Pen& pen); // MTEXT
 void showViewport(const Source& source, Pen& pen);
 
 } // namespace quor::gs

@@ -8,7 +8,7 @@ bool BodyTags::next() {
         if (!reader_.next(tag_, wanted_))
             return false;
     } while (tag_.code < 0);
-    return tag_.code < dxf::CodeSet::kFirstExtendedData;
+    return tag_.code < dxf::CodeSet::kFirstExtendedData && tag_.code != kEmbeddedObject;
 }
 
 double BodyTags::real() {

@@ -10,7 +10,10 @@
 
 namespace quor::gs {
 
-// Walks the tags of a record with wanted codes, up to its extended data.
+// Begins the tags of an object inside of an entity, with codes like its own.
+inline constexpr int kEmbeddedObject = 101;
+
+// Walks the tags of a record with wanted codes, up to its extended data or an embedded object, where that is wanted.
 class BodyTags {
 public:
     BodyTags(const Source& source, const dxf::CodeSet& wanted)
@@ -41,7 +44,7 @@ private:
 template <int... Codes>
 class Values {
 public:
-    static constexpr dxf::CodeSet kWanted{Codes...};
+    static constexpr dxf::CodeSet kWanted{Codes..., kEmbeddedObject};
 
     explicit Values(const Source& source) : Values(BodyTags(source, kWanted)) {}
     explicit Values(BodyTags tags) {
