@@ -16,6 +16,9 @@
 namespace quor::desktop {
 
 namespace {
+// Qt's name for the line in which a name is typed.
+constexpr const char* kNameEdit = "fileNameEdit";
+
 constexpr QSize kSize{760, 460};
 constexpr QSize kSizeWithPreview{1020, 560};
 } // namespace
@@ -100,7 +103,8 @@ void FileDialog::addComplaint() {
     complaint_->hide();
     if (auto* const grid = qobject_cast<QGridLayout*>(layout()))
         grid->addWidget(complaint_, grid->rowCount(), 0, 1, grid->columnCount());
-    connect(this, &QFileDialog::currentChanged, complaint_, &QLabel::hide);
+    if (const auto* const edit = findChild<QLineEdit*>(kNameEdit))
+        connect(edit, &QLineEdit::textEdited, complaint_, &QLabel::hide);
 }
 
 void FileDialog::addReadOnlyBox() {
@@ -115,7 +119,7 @@ bool FileDialog::isReadOnly() const { return readOnly_ != nullptr && readOnly_->
 QString FileDialog::complaint() const { return complaint_->isVisibleTo(this) ? complaint_->text() : QString(); }
 
 QString FileDialog::typedName() const {
-    const auto* const edit = findChild<QLineEdit*>("fileNameEdit");
+    const auto* const edit = findChild<QLineEdit*>(kNameEdit);
     return edit == nullptr ? QString() : edit->text().trimmed();
 }
 
@@ -147,7 +151,7 @@ void FileDialog::accept() {
         return;
     }
     complaint_->hide();
-    if (auto* const edit = findChild<QLineEdit*>("fileNameEdit"); edit != nullptr && !forSaving_)
+    if (auto* const edit = findChild<QLineEdit*>(kNameEdit); edit != nullptr && !forSaving_)
         edit->setText(file);
     QFileDialog::accept();
 }

@@ -51,8 +51,8 @@ QString kindOf(const QFileInfo& file) {
 } // namespace
 
 FileColumns::FileColumns(QObject* parent) : QSortFilterProxyModel(parent) {
-    setSortCaseSensitivity(Qt::CaseInsensitive);
-    setSortLocaleAware(true);
+    collator_.setCaseSensitivity(Qt::CaseInsensitive);
+    collator_.setNumericMode(true);
 }
 
 QVariant FileColumns::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -80,7 +80,7 @@ bool FileColumns::lessThan(const QModelIndex& left, const QModelIndex& right) co
         return a.lastModified() < b.lastModified();
     if (left.column() == Kind && a.suffix() != b.suffix())
         return a.suffix() < b.suffix();
-    return QString::localeAwareCompare(a.fileName(), b.fileName()) < 0;
+    return collator_.compare(a.fileName(), b.fileName()) < 0;
 }
 
 PlaceNames::PlaceNames(std::vector<FilePlace> places, QObject* parent)

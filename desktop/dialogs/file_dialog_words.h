@@ -3,6 +3,7 @@
 
 #include "desktop/dialogs/file_places.h"
 
+#include <QCollator>
 #include <QFileDialog>
 #include <QSortFilterProxyModel>
 #include <QStyledItemDelegate>
@@ -21,6 +22,9 @@ public:
 
 protected:
     [[nodiscard]] bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
+
+private:
+    QCollator collator_;
 };
 
 // Places by what they are, not by the names of their folders.

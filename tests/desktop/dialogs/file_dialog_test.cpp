@@ -1,0 +1,268 @@
+// Files are chosen by keyboard alone, and what they hold is seen before.
+#include "desktop/dialogs/file_dialog.h"
+
+#include "desktop/dialogs/dialogs.h"
+#include "desktop/dialogs/polar_view.h"
+#include "desktop/dialogs/preview_pane.h"
+#include "desktop/dialogs/web_preview.h"
+#include "desktop/qt_text.h"
+#include "host/document.h"
+#include "host/sys/settings_store.h"
+#include "tests/desktop/dialogs/dialog_steps.h"
+#include "tests/support/test_session.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QTemporaryDir>
+
+namespace quor::desktop::test {
+namespace {
+
+using testing::HasSubstr;
+using quor::test::TestSession;
+
+FileQuestion webQuestion() {
+    FileQuestion question;
+    question.caption = L"选择光域网文件";
+    question.filters = {{L"IES", L"*.ies"}};
+    question.previews = true;
+    return question;
+}
+
+class FileDialogTest : public testing::Test {
+protected:
+    void SetUp() override {
+        put("street.ies", QString(QUOR_BUILD_DIR) + "/share/quor/webs/street.ies");
+        put("UPPER.IES", QString(QUOR_BUILD_DIR) + "/share/quor/webs/downlight.ies");
+        QFile notes(path("notes.txt"));
+        ASSERT_TRUE(notes.open(QIODevice::WriteOnly));
+    }
+
+    void put(const QString& name, const QString& from) { ASSERT_TRUE(QFile::copy(from, path(name))); }
+    [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
+    [[nodiscard]] QString chosen(const FileQuestion& question, const std::vector<Step>& steps) {
+        FileDialog dialog(question, folder_.path(), {}, nullptr);
+        later(steps);
+        dialog.exec();
+        return dialog.chosenFile();
+    }
+
+    QTemporaryDir folder_;
+};
+
+FileDialog& dialog() { return *qobject_cast<FileDialog*>(openDialog()); }
+
+// Until the folder has been read, which happens beside the program.
+Step untilListed(const QString& file) {
+    return until([=] {
+        const auto* const view = dialog().findChild<QAbstractItemView*>("treeView");
+        const QModelIndex first = view->model()->index(0, 0, view->rootIndex());
+        return !view->model()->match(first, Qt::DisplayRole, file).isEmpty();
+    });
+}
+
+TEST_F(FileDialogTest, ATypedNameIsTakenFromTheFolderShown) {
+    EXPECT_EQ(chosen(webQuestion(), {type("street.ies"), press(Qt::Key_Return)}), path("street.ies"));
+}
+
+TEST_F(FileDialogTest, TheEndingMayBeLeftOut) {
+    EXPECT_EQ(chosen(webQuestion(), {type("street"), press(Qt::Key_Return)}), path("street.ies"));
+}
+
+TEST_F(FileDialogTest, EscChoosesNothing) {
+    EXPECT_EQ(chosen(webQuestion(), {press(Qt::Key_Escape)}), "");
+}
+
+TEST_F(FileDialogTest, ANameWithoutAFileIsComplainedAboutAndTheDialogStays) {
+    QString complaint;
+    const QString file = chosen(webQuestion(), {type("nothing.ies"), press(Qt::Key_Return),
+                                                [&] { complaint = dialog().complaint(); }, [] { dialog().reject(); }});
+    EXPECT_TRUE(complaint.contains("nothing.ies"));
+    EXPECT_EQ(file, "");
+}
+
+TEST_F(FileDialogTest, TheListIsWalkedByArrowKeys) {
+    const QString file =
+        chosen(webQuestion(), {untilListed("street.ies"),
+                               [] { dialog().findChild<QAbstractItemView*>("treeView")->setFocus(); },
+                               press(Qt::Key_Home), press(Qt::Key_Down), press(Qt::Key_Up), press(Qt::Key_Down),
+                               press(Qt::Key_Return)});
+    EXPECT_EQ(file, path("UPPER.IES"));
+}
+
+TEST_F(FileDialogTest, TheListHoldsWhatTheFilterNamesInEitherCase) {
+    QStringList names;
+    (void)chosen(webQuestion(), {untilListed("street.ies"), [&] {
+                               auto* const view = dialog().findChild<QAbstractItemView*>("treeView");
+                               for (int row = 0; row < view->model()->rowCount(view->rootIndex()); ++row)
+                                   names << view->model()->index(row, 0, view->rootIndex()).data().toString();
+                           },
+                           [] { dialog().reject(); }});
+    EXPECT_EQ(names.join(" "), "street.ies UPPER.IES");
+}
+
+TEST_F(FileDialogTest, TheFilterIsShownWithItsPattern) {
+    const FileDialog dialog(webQuestion(), folder_.path(), {}, nullptr);
+    EXPECT_EQ(dialog.nameFilters(), QStringList("IES (*.ies)"));
+}
+
+TEST_F(FileDialogTest, TheCaptionIsTheWindowsTitle) {
+    const FileDialog dialog(webQuestion(), folder_.path(), {}, nullptr);
+    EXPECT_EQ(dialog.windowTitle(), "选择光域网文件");
+}
+
+TEST_F(FileDialogTest, SavingTakesANewNameWithTheEndingOfTheFilter) {
+    FileQuestion question;
+    question.filters = {{L"DXF", L"*.dxf"}};
+    question.forSaving = true;
+    EXPECT_EQ(chosen(question, {type("plan"), press(Qt::Key_Return)}), path("plan.dxf"));
+}
+
+TEST_F(FileDialogTest, SavingLeavesTheQuestionAboutReplacingToWhoAsked) {
+    FileQuestion question;
+    question.filters = {{L"IES", L"*.ies"}};
+    question.forSaving = true;
+    EXPECT_EQ(chosen(question, {type("street.ies"), press(Qt::Key_Return)}), path("street.ies"));
+}
+
+TEST_F(FileDialogTest, TheInitialNameStandsThere) {
+    FileQuestion question;
+    question.filters = {{L"DXF", L"*.dxf"}};
+    question.forSaving = true;
+    question.initialName = L"Drawing1.dxf";
+    EXPECT_EQ(chosen(question, {press(Qt::Key_Return)}), path("Drawing1.dxf"));
+}
+
+TEST_F(FileDialogTest, TheReadOnlyBoxIsThereOnlyWhereItIsOffered) {
+    FileQuestion question = webQuestion();
+    const FileDialog without(question, folder_.path(), {}, nullptr);
+    question.offersReadOnly = true;
+    const FileDialog with(question, folder_.path(), {}, nullptr);
+    EXPECT_EQ(without.findChild<QCheckBox*>("readonly"), nullptr);
+    ASSERT_NE(with.findChild<QCheckBox*>("readonly"), nullptr);
+    with.findChild<QCheckBox*>("readonly")->setChecked(true);
+    EXPECT_TRUE(with.isReadOnly());
+}
+
+TEST_F(FileDialogTest, OnlyAQuestionWithPreviewsHasAPane) {
+    FileQuestion question = webQuestion();
+    question.previews = false;
+    const FileDialog dialog(question, folder_.path(), {}, nullptr);
+    EXPECT_EQ(dialog.preview(), nullptr);
+}
+
+TEST_F(FileDialogTest, LeavesThePlacesOfOtherProgramsAsTheyWere) {
+    QList<QUrl> before = QFileDialog().sidebarUrls();
+    { const FileDialog dialog(webQuestion(), folder_.path(), {{"here", folder_.path()}}, nullptr); }
+    EXPECT_EQ(QFileDialog().sidebarUrls(), before);
+}
+
+// Through the port that commands use.
+class ChooseFileTest : public FileDialogTest {
+protected:
+    FileAnswer answered(const FileQuestion& question, const std::vector<Step>& steps) {
+        later(steps);
+        return Dialogs(session_.session(), window_).chooseFile(question);
+    }
+
+    TestSession session_;
+    QWidget window_;
+};
+
+TEST_F(ChooseFileTest, AnswersTheWholePath) {
+    EXPECT_EQ(answered(webQuestion(), {type(path("street.ies")), press(Qt::Key_Return)}).file,
+              fromQt(path("street.ies")));
+}
+
+TEST_F(ChooseFileTest, CancelAnswersNoFile) {
+    const FileAnswer answer = answered(webQuestion(), {press(Qt::Key_Escape)});
+    EXPECT_FALSE(answer.file.has_value());
+    EXPECT_FALSE(answer.inputEnded);
+}
+
+TEST_F(ChooseFileTest, RemembersTheFolderOfTheKind) {
+    (void)answered(webQuestion(), {type(path("street.ies")), press(Qt::Key_Return)});
+
+    QString started;
+    (void)answered(webQuestion(), {[&] { started = dialog().directory().path(); }, [] { dialog().reject(); }});
+
+    EXPECT_EQ(started, folder_.path());
+    EXPECT_EQ(session_.session().settings().get(L"Folders", L"ies"), fromQt(folder_.path()));
+}
+
+TEST_F(ChooseFileTest, StartsInTheDrawingsFolderAtFirst) {
+    session_.session().documents().current()->setPath(path("plan.dxf").toStdString());
+    EXPECT_EQ(startFolder(session_.session(), webQuestion()), folder_.path());
+}
+
+TEST_F(ChooseFileTest, OffersTheDrawingsFolderAndHome) {
+    session_.session().documents().current()->setPath(path("plan.dxf").toStdString());
+    const std::vector<FilePlace> places = filePlaces(session_.session());
+    EXPECT_EQ(places.front().folder, folder_.path());
+    EXPECT_EQ(places.back().folder, QDir::homePath());
+}
+
+class PreviewTest : public FileDialogTest {};
+
+TEST_F(PreviewTest, AWebShowsItsCurveAndWhatTellsItApart) {
+    WebPreview preview;
+    preview.showFile(path("street.ies"));
+    EXPECT_EQ(preview.polar().diagram().curves.size(), 2U);
+    EXPECT_THAT(preview.text().toStdString(), HasSubstr("Quor samples"));
+    EXPECT_THAT(preview.text().toStdString(), HasSubstr("lm"));
+    EXPECT_THAT(preview.text().toStdString(), HasSubstr("64 W"));
+}
+
+TEST_F(PreviewTest, ABrokenWebShowsLineAndReason) {
+    put("broken.ies", QString(QUOR_TEST_DATA) + "/ies/derived/m02_truncated_candela.ies");
+    WebPreview preview;
+    preview.showFile(path("broken.ies"));
+    EXPECT_TRUE(preview.polar().diagram().curves.empty());
+    EXPECT_TRUE(preview.text().contains("broken.ies"));
+    EXPECT_TRUE(preview.text().contains(QRegularExpression("第 \\d+ 行")));
+}
+
+TEST_F(PreviewTest, ALargeWebIsReadBesideThePerson) {
+    QFile street(path("street.ies"));
+    ASSERT_TRUE(street.open(QIODevice::Append));
+    street.write(QByteArray(2 << 20, ' '));
+    street.close();
+    WebPreview preview;
+
+    preview.showFile(path("street.ies"));
+
+    EXPECT_TRUE(preview.text().contains("正在读取"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return preview.text().contains("64 W"); }));
+}
+
+TEST_F(PreviewTest, ADrawingShowsItsVersionAndEntities) {
+    put("minimal.dxf", QString(QUOR_TEST_DATA) + "/dxf/ez_Minimal_DXF_AC1021.dxf");
+    PreviewPane pane;
+    pane.showFile(path("minimal.dxf"));
+    pane.showNow();
+    EXPECT_TRUE(pane.text().contains("AC1021"));
+}
+
+TEST_F(PreviewTest, AFolderShowsNothing) {
+    PreviewPane pane;
+    pane.showFile(folder_.path());
+    pane.showNow();
+    EXPECT_TRUE(pane.text().contains("选择一个文件"));
+}
+
+TEST_F(PreviewTest, FollowsTheCursorInTheList) {
+    QString text;
+    (void)chosen(webQuestion(),
+                 {untilListed("street.ies"), [] { dialog().findChild<QAbstractItemView*>("treeView")->setFocus(); },
+                  press(Qt::Key_Home), press(Qt::Key_Down), press(Qt::Key_Up),
+                  until([] { return dialog().preview()->text().contains("64 W"); }),
+                  [&] { text = dialog().preview()->text(); }, [] { dialog().reject(); }});
+    EXPECT_TRUE(text.contains("64 W"));
+}
+
+} // namespace
+} // namespace quor::desktop::test
