@@ -46,6 +46,7 @@ TEST_F(ThePicture, HasTheGroundOfTheListBehindItsRows) {
 }
 
 TEST_F(ThePicture, HasTheColoursOfTheOtherThemeAtOnce) {
+    zwutads::setVar(L"COLORTHEME", 0);
     keep("palette_dark");
     const QColor dark = besideName(1);
 
