@@ -1,22 +1,27 @@
 #include "desktop/render/colors.h"
 
-#include <cstdlib>
+#include <algorithm>
+#include <cmath>
 
 namespace quor::desktop {
 namespace {
 
 constexpr std::uint32_t kWhite = 0xFFFFFF;
 constexpr std::uint32_t kNeutralFace = 0xFFD0D3D8;
-constexpr int kReadable = 60; // difference of brightness at which a thin line stands out
+constexpr double kReadable = 2.2; // contrast at which a thin line stands out
 
 int channel(std::uint32_t color, int shift) { return static_cast<int>((color >> shift) & 0xFFU); }
 
-// How far apart two colours look: their brightness, and a little their hue.
-int difference(std::uint32_t a, std::uint32_t b) {
-    int hue = 0;
-    for (const int shift : {0, 8, 16})
-        hue += std::abs(channel(a, shift) - channel(b, shift));
-    return std::abs(brightness(a) - brightness(b)) + hue / 16;
+// The light that a screen sends out for it, and a little that falls on the screen.
+double lightOf(std::uint32_t color) {
+    const auto linear = [color](int shift) { return std::pow(channel(color, shift) / 255.0, 2.2); };
+    return 0.2126 * linear(16) + 0.7152 * linear(8) + 0.0722 * linear(0) + 0.05;
+}
+
+double contrast(std::uint32_t a, std::uint32_t b) {
+    const double first = lightOf(a);
+    const double second = lightOf(b);
+    return std::max(first, second) / std::min(first, second);
 }
 
 } // namespace
@@ -39,10 +44,10 @@ std::uint32_t Palette::lineColor(std::uint32_t rgb) {
 }
 
 std::uint32_t Palette::readable(std::uint32_t color) const {
-    constexpr std::uint32_t step = 24;
+    constexpr std::uint32_t step = 16;
     for (std::uint32_t share = 0; share < 255; share += step) {
         const std::uint32_t lifted = mixed(color, ink_, share);
-        if (difference(lifted, background_) >= kReadable)
+        if (contrast(lifted, background_) >= kReadable)
             return lifted;
     }
     return ink_;

@@ -1,5 +1,6 @@
 #include "desktop/render/drawing_lights.h"
 
+#include "desktop/render/dither.h"
 #include "desktop/render/scene_faces.h"
 #include "desktop/render/shadow_mask.h"
 
@@ -74,6 +75,7 @@ void DrawingLights::takeSamples(Frame& frame, Band band, const gs::SceneData& sc
         const FacePlanes::Place place = planes.at(number, x, y);
         light.samples.add(place.position, place.normal);
         light.triangles.push_back(number);
+        light.dither.push_back(static_cast<std::uint8_t>(ditherAt(x, y)));
         light.facing.push_back(place.facing);
         light.own.push_back(linearColor(color));
         light.pixels.push_back(0);
@@ -109,7 +111,7 @@ void DrawingLights::paint(Frame& frame, Band band, const ToneCurve& curve, BandL
     for (std::size_t i = 0; i < light.samples.size(); ++i) {
         const float always = more * (kEven + kTowardsEye * light.facing[i]);
         const Vector3 fallen = light.samples.light(i) * curve.exposure() + Vector3(always, always, always);
-        light.colors[i] = curve.color(product(fallen, light.own[i]));
+        light.colors[i] = curve.color(product(fallen, light.own[i]), light.dither[i]);
     }
     for (int y = band.top; y < band.bottom; ++y) {
         const std::uint32_t* const samples = frame.faces(y);
@@ -163,6 +165,7 @@ void DrawingLights::shade(Frame& frame, const gs::SceneData& scene, const gs::Ca
 void DrawingLights::BandLight::clear() {
     samples.clear();
     triangles.clear();
+    dither.clear();
     own.clear();
     facing.clear();
     pixels.clear();

@@ -24,7 +24,8 @@ private:
         std::vector<Vector3> own;             // colours of the faces at the samples
         std::vector<float> facing;            // how much the samples' faces are turned to the eye
         std::vector<std::uint32_t> pixels;    // how many show the sample
-        std::vector<std::uint32_t> colors;    // in the end
+        std::vector<std::uint8_t> dither;
+        std::vector<std::uint32_t> colors; // in the end
         BrightnessCounts brightness;
         bool isDark = false; // no light falls on anything in the whole picture
         void clear();

@@ -63,8 +63,13 @@ struct Pixel {
 
 Pixel pixelAt(Frame& frame, int x, int y) { return {frame.row(y) + x, frame.depths(y) + x}; }
 
+// Of lines at the same place the last is seen all along, though their depths differ by what rounding leaves.
+constexpr float kSamePlace = 2e-5F;
+// Such a share of their depth may lines of one entity lie behind each other at their joint.
+constexpr float kJoint = 2e-3F;
+
 void put(Pixel pixel, float depth, std::uint32_t color) {
-    if (depth >= *pixel.depth) {
+    if (depth >= *pixel.depth - kSamePlace) {
         *pixel.depth = depth;
         *pixel.color = color;
     }
@@ -126,11 +131,10 @@ void drawThick(Frame& frame, Band band, const Walk& walk, const FixedWalk& fixed
 // Lets `covered` of the pixel (1 to 255) show the line.
 void blend(Frame& frame, int x, int y, float depth, const ScreenLine& line, std::uint32_t covered) {
     const Pixel pixel = pixelAt(frame, x, y);
-    if (!(depth >= *pixel.depth))
-        return;
     std::uint32_t& stroke = frame.strokes(y)[x];
-    const std::uint32_t before = (stroke >> 8) == line.owner ? stroke & 0xFFU : 0;
-    if (covered <= before)
+    const bool isJoint = (stroke >> 8) == line.owner;
+    const std::uint32_t before = isJoint ? stroke & 0xFFU : 0;
+    if (covered <= before || !(depth >= *pixel.depth - (isJoint ? kJoint * (1 + std::abs(depth)) : kSamePlace)))
         return;
     *pixel.color = mixed(*pixel.color, line.color, (covered - before) * 255 / (255 - before));
     stroke = (line.owner << 8) | covered;

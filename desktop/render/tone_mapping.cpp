@@ -1,5 +1,7 @@
 #include "desktop/render/tone_mapping.h"
 
+#include "desktop/render/dither.h"
+
 #include <algorithm>
 
 namespace quor::desktop {
@@ -55,19 +57,19 @@ ToneCurve::ToneCurve(const BrightnessCounts& counts) {
         const float white = std::max(1.5F, bright * exposure_ * 1.5F);
         perWhite_ = 1 / (white * white);
     }
-    for (std::size_t i = 0; i < bytes_.size(); ++i) {
-        const float light = static_cast<float>(i) / static_cast<float>(bytes_.size() - 1);
+    for (std::size_t i = 0; i < values_.size(); ++i) {
+        const float light = static_cast<float>(i) / static_cast<float>(values_.size() - 1);
         const float shown = light <= 0.0031308F ? 12.92F * light : 1.055F * std::pow(light, 1 / 2.4F) - 0.055F;
-        bytes_[i] = static_cast<std::uint8_t>(toWhole(shown * 255 + 0.5F, 0, 255));
+        values_[i] = static_cast<std::uint16_t>(toWhole(shown * 255 * kDitherSteps + 0.5F, 0, 255 * kDitherSteps));
     }
 }
 
-std::uint32_t ToneCurve::color(Vector3 exposed) const {
-    const auto byte = [this](float light) {
+std::uint32_t ToneCurve::color(Vector3 exposed, std::uint32_t dither) const {
+    const auto byte = [this, dither](float light) {
         const float curved = light * (1 + light * perWhite_) / (1 + light);
-        const auto last = static_cast<float>(bytes_.size() - 1);
-        return std::uint32_t{
-            bytes_[static_cast<std::size_t>(toWhole(curved * last + 0.5F, 0, static_cast<int>(bytes_.size()) - 1))]};
+        constexpr int last = static_cast<int>(std::tuple_size_v<decltype(values_)>) - 1;
+        const int index = toWhole(curved * last + 0.5F, 0, last);
+        return (values_[static_cast<std::size_t>(index)] + dither) / kDitherSteps;
     };
     return 0xFF000000U | byte(exposed.x) << 16 | byte(exposed.y) << 8 | byte(exposed.z);
 }

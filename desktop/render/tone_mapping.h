@@ -38,13 +38,13 @@ public:
     explicit ToneCurve(const BrightnessCounts& counts);
     // What brightness is multiplied by before the curve.
     [[nodiscard]] float exposure() const { return exposure_; }
-    // Exposed light to 0xFFRRGGBB.
-    [[nodiscard]] std::uint32_t color(Vector3 exposed) const;
+    // Exposed light to 0xFFRRGGBB; `dither` of the pixel.
+    [[nodiscard]] std::uint32_t color(Vector3 exposed, std::uint32_t dither) const;
 
 private:
     float exposure_ = 1;
-    float perWhite_ = 0;                     // 1 over the square of what becomes white
-    std::array<std::uint8_t, 4097> bytes_{}; // of light from 0 to 1
+    float perWhite_ = 0;                       // 1 over the square of what becomes white
+    std::array<std::uint16_t, 4097> values_{}; // of light from 0 to 1, in sixteenths of the screen's steps
 };
 
 } // namespace quor::desktop

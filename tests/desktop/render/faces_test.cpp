@@ -237,5 +237,60 @@ TEST(LightOfDrawing, OfManyLightsTakesThoseThatMatter) {
     EXPECT_GT(picture.brightness(20, 50), picture.brightness(90, 50) + 60);
 }
 
+// A square of 20 units 10 above the floor, in the light of a lamp 20 above it: its shadow is 40 wide.
+HandScene sceneWithShadow() {
+    HandScene scene;
+    scene.addSquare(0, 100, 0, 0xFFFFFF);
+    scene.addSquare(20, 40, 10, 0x0000FF);
+    scene.addLight(lightAt({30, 30, 20}));
+    return scene;
+}
+
+TEST(Shadow, OfAFaceFallsOnWhatIsBehindIt) {
+    Picture picture;
+
+    picture.take(sceneWithShadow(), cameraFromAbove(), shadedOptions(Lighting::OfDrawing));
+
+    EXPECT_GT(picture.brightness(53, 69), picture.brightness(46, 69) + 60);
+    EXPECT_EQ(picture.at(44, 69), picture.at(48, 69));
+}
+
+TEST(Shadow, IsLeftOutWhileThePictureMoves) {
+    RenderOptions options = shadedOptions(Lighting::OfDrawing);
+    options.isMoving = true;
+    Picture picture;
+
+    picture.take(sceneWithShadow(), cameraFromAbove(), options);
+
+    EXPECT_GT(picture.brightness(46, 69), picture.brightness(53, 69));
+}
+
+TEST(Shadow, IsNotThrownByAHiddenLayer) {
+    HandScene scene = sceneWithShadow();
+    scene.hide(1);
+    Picture picture;
+
+    picture.take(scene, cameraFromAbove(), shadedOptions(Lighting::OfDrawing));
+
+    EXPECT_GT(picture.brightness(30, 69), picture.brightness(46, 69));
+    EXPECT_GT(picture.brightness(46, 69), picture.brightness(53, 69));
+}
+
+TEST(Shadow, OfADistantLightFallsAlongItsDirection) {
+    HandScene scene;
+    scene.addSquare(0, 100, 0, 0xFFFFFF);
+    scene.addSquare(20, 40, 10, 0x0000FF);
+    gs::LightMark light = lightAt({0, 0, 5});
+    light.kind = gs::GlyphKind::Distant;
+    light.direction = ZrGeVector3d(1, 0, -0.5).normal();
+    scene.addLight(light);
+    Picture picture;
+
+    picture.take(scene, cameraFromAbove(), shadedOptions(Lighting::OfDrawing));
+
+    EXPECT_GT(picture.brightness(70, 69), picture.brightness(50, 69) + 100);
+    EXPECT_GT(picture.brightness(10, 69), picture.brightness(50, 69) + 100);
+}
+
 } // namespace
 } // namespace quor::desktop

@@ -200,6 +200,22 @@ TEST(SmoothLine, CoversTwiceAsManyPixelsInPartWhenItIsSlanted) {
     EXPECT_NEAR(static_cast<double>(picture.sum()), 255 * 81, 255 * 4);
 }
 
+TEST(SmoothLine, OfOneEntityMeetsTheNextWithoutABead) {
+    HandScene whole;
+    whole.addLine({10.5F, 40.5F, 0}, {90.5F, 50.5F, 0});
+    HandScene parts;
+    parts.addLines({{{10.5F, 40.5F, 0}, {50.5F, 45.5F, 0}}, {{50.5F, 45.5F, 0}, {90.5F, 50.5F, 0}}});
+    RenderOptions options = plainOptions();
+    options.isMoving = false;
+    Picture one;
+    one.take(whole, cameraFromAbove(), options);
+    Picture two;
+
+    two.take(parts, cameraFromAbove(), options);
+
+    EXPECT_NEAR(static_cast<double>(two.sum()), static_cast<double>(one.sum()), 8);
+}
+
 TEST(SmoothLine, IsCrispAlongTheRowsOfThePicture) {
     HandScene scene;
     scene.addLine({10.5F, 49.8F, 0}, {20.5F, 49.8F, 0});

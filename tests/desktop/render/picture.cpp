@@ -26,8 +26,17 @@ std::uint32_t HandScene::addItem(const std::vector<gs::Coordinates>& points, gs:
 }
 
 std::uint32_t HandScene::addLine(const gs::Coordinates& a, const gs::Coordinates& b, std::uint32_t rgb) {
-    lines_.push_back({a, b});
-    return addItem({a, b}, {.rgb = rgb, .firstLine = static_cast<std::uint32_t>(lines_.size()) - 1, .lineCount = 1});
+    return addLines({{a, b}}, rgb);
+}
+
+std::uint32_t HandScene::addLines(const std::vector<gs::SceneLine>& lines, std::uint32_t rgb) {
+    const auto first = static_cast<std::uint32_t>(lines_.size());
+    std::vector<gs::Coordinates> points;
+    for (const gs::SceneLine& line : lines) {
+        lines_.push_back(line);
+        points.insert(points.end(), {line.a, line.b});
+    }
+    return addItem(points, {.rgb = rgb, .firstLine = first, .lineCount = static_cast<std::uint32_t>(lines.size())});
 }
 
 std::uint32_t HandScene::addTriangle(const gs::Coordinates& a, const gs::Coordinates& b, const gs::Coordinates& c,

@@ -11,6 +11,8 @@ namespace quor::desktop {
 class HandScene {
 public:
     std::uint32_t addLine(const gs::Coordinates& a, const gs::Coordinates& b, std::uint32_t rgb = 0xFF0000);
+    // Of one entity.
+    std::uint32_t addLines(const std::vector<gs::SceneLine>& lines, std::uint32_t rgb = 0xFF0000);
     std::uint32_t addTriangle(const gs::Coordinates& a, const gs::Coordinates& b, const gs::Coordinates& c,
                               std::uint32_t rgb = 0x00FF00);
     // At z, from (low, low) to (high, high).
