@@ -37,15 +37,18 @@ void BlockLibrary::add(Definition& definition, const db::ObjectEntry& entity) {
     const bool hasOwnBlock = std::ranges::find(kWithOwnBlock, type) != kWithOwnBlock.end();
     if (show == nullptr && !isReference && !hasOwnBlock)
         return;
-    const Head head = readHead(drawing_, entity, layers_);
+    const db::DrawingFile& file = drawing_.file();
+    const dxf::Record* const record = entity.isInFile() ? &file.record(entity.record) : nullptr;
+    Head head = record == nullptr ? Head() : readHead(file, *record, layers_);
+    head.look = lookInMemory(entity).value_or(head.look);
     if (!head.look.visible)
         return;
-    const Source source{drawing_, entity, head.bodyBegin};
+    const Source source{drawing_, entity, record, head.bodyBegin};
     if (show != nullptr) {
         Pen pen(definition.own, wanted_);
         pen.take(head.look);
         show(source, pen);
-    } else if (entity.isInFile()) {
+    } else if (record != nullptr) {
         isReference ? addReference(definition, source, head.look) : addOwnBlock(definition, source, head.look);
     }
 }
@@ -54,6 +57,7 @@ void BlockLibrary::addReference(Definition& definition, const Source& source, co
     const Values<10, 20, 30, 41, 42, 43, 44, 45, 50, 70, 71, 210, 220, 230> numbers(source);
     if (numbers.isBroken())
         return;
+    addAttributes(definition, source);
     const auto reference = db::readBlockReference(drawing_, source.entity);
     if (reference && reference->block != nullptr && !reference->block->isLayout)
         definition.uses.push_back({reference->block, look, reference->placement, reference->columns, reference->rows,
@@ -72,6 +76,22 @@ void BlockLibrary::addOwnBlock(Definition& definition, const Source& source, con
         use.block = block;
         use.look = look;
         use.placement = ownBlockPlacement(source);
+    }
+}
+
+// They stand beside the reference, not in the block.
+void BlockLibrary::addAttributes(Definition& definition, const Source& source) {
+    const db::DrawingFile& file = source.file();
+    for (std::uint32_t i = 1; i < source.entity.recordCount; ++i) {
+        const dxf::Record& record = file.record(source.entity.record + i);
+        if (file.typeName(record.type) != "ATTRIB")
+            continue;
+        const Head head = readHead(file, record, layers_);
+        if (!head.look.visible)
+            continue;
+        Pen pen(definition.own, wanted_);
+        pen.take(head.look);
+        showAttribute({drawing_, source.entity, &record, head.bodyBegin}, pen);
     }
 }
 

@@ -44,6 +44,7 @@ public:
 
 private:
     void addReference(Definition& definition, const Source& source, const Look& look);
+    void addAttributes(Definition& definition, const Source& source);
     void addOwnBlock(Definition& definition, const Source& source, const Look& look);
 
     db::Database& drawing_;

@@ -33,6 +33,7 @@ void showHatch(const Source& source, Pen& pen);
 void showImage(const Source& source, Pen& pen);
 void showSolidModel(const Source& source, Pen& pen); // 3DSOLID, REGION, BODY and the surfaces
 void showText(const Source& source, Pen& pen);
+void showAttribute(const Source& source, Pen& pen); // ATTRIB, a part of a reference
 void showParagraph(const Source& source, Pen& pen); // MTEXT
 void showViewport(const Source& source, Pen& pen);
 

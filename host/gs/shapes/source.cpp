@@ -71,29 +71,28 @@ LayerFinder::Found LayerFinder::find(const dxf::Tag& name) {
 }
 
 // What all entities have in common ends at the second marker. Old drawings have no markers, and all tags in one.
-Head readHead(db::Database& drawing, const db::ObjectEntry& entity, LayerFinder& layers) {
+Head readHead(const db::DrawingFile& file, const dxf::Record& record, LayerFinder& layers) {
     static constexpr dxf::CodeSet kWanted{kMarker, kLayer, kInvisible, kColorIndex, kTrueColor};
     Head head;
-    const auto* const data =
-        entity.object == nullptr ? nullptr : dynamic_cast<const ZrDbEntityData*>(entity.object->hostData().get());
-    if (entity.isInFile()) {
-        const dxf::Record& record = drawing.file().record(entity.record);
-        dxf::TagReader reader = drawing.file().tags(record);
-        head.bodyBegin = record.begin;
-        int markers = 0;
-        dxf::Tag tag;
-        while (reader.next(tag, kWanted) && tag.code < dxf::CodeSet::kFirstExtendedData) {
-            if (tag.code != kMarker) {
-                takeTag(head.look, tag, layers);
-            } else if (++markers == 2) {
-                head.bodyBegin = tag.end;
-                break;
-            }
+    head.bodyBegin = record.begin;
+    dxf::TagReader reader = file.tags(record);
+    int markers = 0;
+    dxf::Tag tag;
+    while (reader.next(tag, kWanted) && tag.code < dxf::CodeSet::kFirstExtendedData) {
+        if (tag.code != kMarker) {
+            takeTag(head.look, tag, layers);
+        } else if (++markers == 2) {
+            head.bodyBegin = tag.end;
+            break;
         }
     }
-    if (data != nullptr)
-        head.look = lookOf(*data, drawing.layers());
     return head;
+}
+
+std::optional<Look> lookInMemory(const db::ObjectEntry& entity) {
+    const auto* const data =
+        entity.object == nullptr ? nullptr : dynamic_cast<const ZrDbEntityData*>(entity.object->hostData().get());
+    return data == nullptr ? std::nullopt : std::optional(lookOf(*data, entity.database->layers()));
 }
 
 } // namespace quor::gs

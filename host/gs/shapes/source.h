@@ -4,16 +4,20 @@
 #include "host/db/database.h"
 #include "host/gs/shapes/drawn.h"
 
+#include <optional>
+
 namespace quor::gs {
 
 struct Source {
     db::Database& drawing;
     const db::ObjectEntry& entity;
-    // Where the tags that are not common to all entities begin; 0 for an entity without a record.
+    // The entity's, or that of a part of it; null for an entity without one.
+    const dxf::Record* at = nullptr;
+    // Where the tags that are not common to all entities begin.
     std::uint64_t bodyBegin = 0;
 
     [[nodiscard]] const db::DrawingFile& file() const { return drawing.file(); }
-    [[nodiscard]] const dxf::Record& record() const { return file().record(entity.record); }
+    [[nodiscard]] const dxf::Record& record() const { return *at; }
     [[nodiscard]] std::string_view type() const { return file().typeName(entity.type); }
     // Null while nobody opened the entity: its record says all then.
     template <class Data>
@@ -40,11 +44,13 @@ private:
     bool hasLast_ = false;
 };
 
-// The look of an entity, and where its own tags begin.
+// The look that a record says, and where its own tags begin.
 struct Head {
     Look look;
     std::uint64_t bodyBegin = 0;
 };
-[[nodiscard]] Head readHead(db::Database& drawing, const db::ObjectEntry& entity, LayerFinder& layers);
+[[nodiscard]] Head readHead(const db::DrawingFile& file, const dxf::Record& record, LayerFinder& layers);
+// The look of an entity as it stands in memory; nothing while nobody opened it.
+[[nodiscard]] std::optional<Look> lookInMemory(const db::ObjectEntry& entity);
 
 } // namespace quor::gs

@@ -1,4 +1,4 @@
-// TEXT: one line.
+// TEXT, ATTRIB: one line.
 #include "host/db/data.h"
 #include "host/gs/shapes/kinds.h"
 #include "host/gs/shapes/lettering.h"
@@ -13,18 +13,17 @@ namespace quor::gs {
 
 namespace {
 
-using Numbers = Values<10, 20, 30, 11, 21, 31, 40, 41, 50, 51, 71, 72, 73, 210, 220, 230>;
+using Numbers = Values<10, 20, 30, 11, 21, 31, 40, 41, 50, 51, 70, 71, 72, 73, 74, 210, 220, 230>;
 
 enum Horizontal { Left = 0, Center = 1, Right = 2, Aligned = 3, Middle = 4, Fit = 5 };
 constexpr int kBackwards = 2;
 constexpr int kUpsideDown = 4;
 
 // Capitals, from where the text is held.
-double heightOfHold(const Numbers& numbers) {
+double heightOfHold(const Numbers& numbers, int vertical) {
     constexpr std::array<double, 4> holds{0, -kBaseLine, kCapitalHeight / 2.0, kCapitalHeight};
     if (numbers.whole<72>() == Middle)
         return kCapitalHeight / 2.0;
-    const int vertical = numbers.whole<73>();
     return vertical < 0 || vertical > 3 ? 0 : holds[static_cast<std::size_t>(vertical)];
 }
 
@@ -37,7 +36,7 @@ Lettering between(const Numbers& numbers, double width, double unit) {
     return {numbers.point<10>(), right, up.normal() * high};
 }
 
-Lettering heldAtAPoint(const Numbers& numbers, double width, double unit) {
+Lettering heldAtAPoint(const Numbers& numbers, int vertical, double width, double unit) {
     const double angle = numbers.real<50>() * db::kDegree;
     ZrGeVector3d right = ZrGeVector3d(std::cos(angle), std::sin(angle), 0) * unit;
     ZrGeVector3d up(-right.y, right.x, 0);
@@ -47,9 +46,9 @@ Lettering heldAtAPoint(const Numbers& numbers, double width, double unit) {
     right *= (generation & kBackwards) != 0 ? -1 : 1;
     up *= (generation & kUpsideDown) != 0 ? -1 : 1;
     const double across = horizontal == Right ? width : horizontal == Center || horizontal == Middle ? width / 2 : 0;
-    const bool isHeld = horizontal != Left || numbers.whole<73>() != 0;
+    const bool isHeld = horizontal != Left || vertical != 0;
     const ZrGePoint3d hold = isHeld ? numbers.point<11>() : numbers.point<10>();
-    return {hold - right * across - up * heightOfHold(numbers), right, up};
+    return {hold - right * across - up * heightOfHold(numbers, vertical), right, up};
 }
 
 ZrString textOf(const Source& source) {
@@ -58,23 +57,34 @@ ZrString textOf(const Source& source) {
     return tags.next() ? plainText(source.file().text(tags.tag())) : ZrString();
 }
 
-} // namespace
-
-void showText(const Source& source, Pen& pen) {
-    const Numbers numbers(source);
-    if (numbers.isBroken())
-        return;
+void show(const Source& source, const Numbers& numbers, int vertical, Pen& pen) {
     const ZrString text = textOf(source);
     const double width = widthOf(text);
     const double unit = numbers.real<40>(1) / kCapitalHeight;
     const int horizontal = numbers.whole<72>();
-    Lettering lettering =
-        horizontal == Aligned || horizontal == Fit ? between(numbers, width, unit) : heldAtAPoint(numbers, width, unit);
+    Lettering lettering = horizontal == Aligned || horizontal == Fit ? between(numbers, width, unit)
+                                                                     : heldAtAPoint(numbers, vertical, width, unit);
     const ZrGeVector3d right = lettering.right.normal(ZrGeTol(0, 0));
     lettering.up += right * (lettering.up.length() * std::tan(numbers.real<51>() * db::kDegree));
     const ZrGeMatrix3d plane = numbers.plane();
     showLetters(text, {plane * lettering.origin, plane * lettering.right, plane * lettering.up}, pen);
     pen.snap(SnapPoint::Kind::End, plane * numbers.point<10>());
+}
+
+} // namespace
+
+void showText(const Source& source, Pen& pen) {
+    const Numbers numbers(source);
+    if (!numbers.isBroken())
+        show(source, numbers, numbers.whole<73>(), pen);
+}
+
+// Which has other flags in 70, and what a text has in 73 in 74.
+void showAttribute(const Source& source, Pen& pen) {
+    constexpr int kHidden = 1;
+    const Numbers numbers(source);
+    if (!numbers.isBroken() && (numbers.whole<70>() & kHidden) == 0)
+        show(source, numbers, numbers.whole<74>(), pen);
 }
 
 } // namespace quor::gs

@@ -94,12 +94,11 @@ INSTANTIATE_TEST_SUITE_P(
         Expected{"as_sample_AC1015_binary.dxf", "MLINE", 3}, Expected{"as_sample_AC1015_binary.dxf", "MESH", 2},
         Expected{"as_sample_AC1032_binary.dxf", "3DSOLID", 0}, Expected{"as_sample_AC1032_binary.dxf", "XLINE", 1},
         Expected{"bn_floorplan.dxf", "INSERT", 285}, Expected{"bn_floorplan.dxf", "HATCH", 26},
-        Expected{"as_sample_AC1032_binary.dxf", "ACAD_TABLE", 2},
-        Expected{"as_sample_AC1009_binary.dxf", "TEXT", 256}, Expected{"bn_floorplan.dxf", "MTEXT", 144},
-        Expected{"bn_floorplan.dxf", "LWPOLYLINE", 402}, Expected{"bn_supported_entities.dxf", "SPLINE", 6},
-        Expected{"bn_supported_entities.dxf", "ELLIPSE", 3}, Expected{"nd_sample_binary.dxf", "3DFACE", 1},
-        Expected{"nd_sample_binary.dxf", "LEADER", 1}, Expected{"nd_sample_binary.dxf", "VIEWPORT", 1},
-        Expected{"ix_diamond_bin.dxf", "LINE", 12}));
+        Expected{"as_sample_AC1032_binary.dxf", "ACAD_TABLE", 2}, Expected{"as_sample_AC1009_binary.dxf", "TEXT", 256},
+        Expected{"bn_floorplan.dxf", "MTEXT", 144}, Expected{"bn_floorplan.dxf", "LWPOLYLINE", 402},
+        Expected{"bn_supported_entities.dxf", "SPLINE", 6}, Expected{"bn_supported_entities.dxf", "ELLIPSE", 3},
+        Expected{"nd_sample_binary.dxf", "3DFACE", 1}, Expected{"nd_sample_binary.dxf", "LEADER", 1},
+        Expected{"nd_sample_binary.dxf", "VIEWPORT", 1}, Expected{"ix_diamond_bin.dxf", "LINE", 12}));
 
 } // namespace
 } // namespace quor::gs

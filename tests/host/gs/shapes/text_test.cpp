@@ -100,6 +100,25 @@ TEST_F(Shapes, TheEmbeddedObjectOfAParagraphDoesNotCount) {
     expectExtent(shape, {0, -6, 0}, {3, 0, 0});
 }
 
+std::string attribute(const std::string& tags) {
+    return entity("ATTRIB", point(10, 0, 0, 0) + "40\n6.0\n1\nH\n2\nTAG\n" + tags, "A");
+}
+
+std::string withAttributes(const std::string& attributes) {
+    return insert("B", "66\n1\n" + point(10, 50, 0, 0)) + attributes + entity("SEQEND", "");
+}
+
+TEST_F(Shapes, AReferenceShowsItsAttributesWhereTheyStand) {
+    const std::string held = attribute("70\n0\n72\n0\n74\n3\n" + point(11, 10, 10, 0));
+    expectExtent(shapeOf(withAttributes(held), block("B", "")), {10, 4, 0}, {13, 10, 0});
+    EXPECT_EQ(shapeAt().parts.at(0).layer, layer(L"A"));
+}
+
+TEST_F(Shapes, HiddenAttributesOfAReferenceAreNotShown) {
+    EXPECT_TRUE(shapeOf(withAttributes(attribute("70\n1\n")), block("B", "")).isEmpty());
+    EXPECT_TRUE(shapeOf(withAttributes(attribute("60\n1\n70\n0\n")), block("B", "")).isEmpty());
+}
+
 TEST_F(Shapes, ATextIsPickedWhereItIsInserted) {
     expectNear(placesOf(snapsOf(text("HHH", "")), SnapPoint::Kind::End), {{0, 0, 0}});
     expectNear(placesOf(snapsOf(paragraph("HHH", "")), SnapPoint::Kind::End), {{0, 0, 0}});
