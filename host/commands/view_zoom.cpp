@@ -15,9 +15,8 @@ using gs::Camera;
 using gs::View;
 
 int show(View& view, const Camera& camera) {
-    if (camera == view.camera())
-        return RTNORM;
-    view.setCamera(camera);
+    if (camera != view.camera())
+        view.setCamera(camera);
     return RTNORM;
 }
 

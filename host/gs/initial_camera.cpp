@@ -67,6 +67,9 @@ Camera cameraOf(db::Database& drawing) {
 }
 
 Camera initialCamera(db::Database& drawing, PictureSize size, const Box& extents) {
+    const ZrDbDatabase& database = drawing.interface();
+    if (database.currentSpaceId() != database.modelSpaceId())
+        return fitted(Camera(), size, extents);
     const Camera camera = cameraOf(drawing);
     return extents.isEmpty() || shows(camera, size, extents) ? camera : fitted(camera, size, extents);
 }

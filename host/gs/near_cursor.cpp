@@ -77,33 +77,37 @@ std::optional<double> meet(const Ray& ray, const ZrGePoint3d& a, const ZrGePoint
     return ac.dotProduct(over) / volume;
 }
 
+// Calls `act` with each visible item that may be inside.
+template <class Act>
+void forEachItem(const SceneData& scene, const PickWindow& window, const Act& act) {
+    for (const SceneChunk& chunk : scene.chunks)
+        if (window.mayHold(chunk))
+            for (const SceneItem& item : scene.items.subspan(chunk.firstItem, chunk.itemCount))
+                if (item.visible)
+                    act(item);
+}
+
 } // namespace
 
 std::vector<NearEntity> linesNear(const SceneData& scene, const Projector& projector, double x, double y,
                                   double radius) {
     const PickWindow window(projector, scene.origin, around(x, y, radius));
     std::unordered_map<std::uint32_t, NearEntity> nearest;
-    for (const SceneChunk& chunk : scene.chunks) {
-        if (!window.mayHold(chunk))
-            continue;
-        for (const SceneItem& item : scene.items.subspan(chunk.firstItem, chunk.itemCount)) {
-            if (!item.visible)
+    forEachItem(scene, window, [&](const SceneItem& item) {
+        for (const SceneLine& line : scene.lines.subspan(item.firstLine, item.lineCount)) {
+            if (!window.touches(line))
                 continue;
-            for (const SceneLine& line : scene.lines.subspan(item.firstLine, item.lineCount)) {
-                if (!window.touches(line))
-                    continue;
-                const auto place =
-                    nearestOn(projector, inWorld(line.a, scene.origin), inWorld(line.b, scene.origin), x, y);
-                if (!place || place->distance > radius)
-                    continue;
-                const NearEntity found{item.entity, place->distance, place->depth};
-                const auto [known, isNew] = nearest.try_emplace(item.entity, found);
-                if (!isNew && isNearer(found, known->second))
-                    known->second = found;
-            }
+            const auto place = nearestOn(projector, inWorld(line.a, scene.origin), inWorld(line.b, scene.origin), x, y);
+            if (!place || place->distance > radius)
+                continue;
+            const NearEntity found{item.entity, place->distance, place->depth};
+            const auto [known, isNew] = nearest.try_emplace(item.entity, found);
+            if (!isNew && isNearer(found, known->second))
+                known->second = found;
         }
-    }
+    });
     std::vector<NearEntity> sorted;
+    sorted.reserve(nearest.size());
     for (const auto& [entity, found] : nearest)
         sorted.push_back(found);
     std::sort(sorted.begin(), sorted.end(), [](const NearEntity& a, const NearEntity& b) {
@@ -135,23 +139,18 @@ std::optional<HitFace> faceAt(const SceneData& scene, const Projector& projector
     const bool isParallel = projector.camera().projection == Projection::Parallel;
     std::optional<double> first;
     std::uint32_t entity = 0;
-    for (const SceneChunk& chunk : scene.chunks) {
-        if (!window.mayHold(chunk))
-            continue;
-        for (const SceneItem& item : scene.items.subspan(chunk.firstItem, chunk.itemCount)) {
-            if (!item.visible || (!all && item.lineCount > 0))
+    forEachItem(scene, window, [&](const SceneItem& item) {
+        if (!all && item.lineCount > 0)
+            return;
+        for (const SceneTriangle& triangle : scene.triangles.subspan(item.firstTriangle, item.triangleCount)) {
+            const auto way = meet(inScene, inWorld(triangle.a, {}), inWorld(triangle.b, {}), inWorld(triangle.c, {}));
+            // A parallel picture shows what is behind its eye, too.
+            if (!way || (!isParallel && *way <= 0) || (first && *way >= *first))
                 continue;
-            for (const SceneTriangle& triangle : scene.triangles.subspan(item.firstTriangle, item.triangleCount)) {
-                const auto way =
-                    meet(inScene, inWorld(triangle.a, {}), inWorld(triangle.b, {}), inWorld(triangle.c, {}));
-                // A parallel picture shows what is behind its eye, too.
-                if (!way || (!isParallel && *way <= 0) || (first && *way >= *first))
-                    continue;
-                first = way;
-                entity = item.entity;
-            }
+            first = way;
+            entity = item.entity;
         }
-    }
+    });
     if (!first)
         return std::nullopt;
     HitFace hit;

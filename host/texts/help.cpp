@@ -298,7 +298,7 @@ constexpr HelpPage kPages[] = {
       L"着色显示时还捕捉光标下的面。设置保存在 OSMODE 中。",
       L"End, Mid, and Center are each switched; All; None; ON and OFF keep what is chosen. Enter ends.\n"
       L"In a shaded picture the face under the cursor is snapped to as well. The setting is kept in OSMODE."},
-     L"OSNAP ALL"},
+     L"OSNAP ALL "},
     {L"SETVAR", kPrograms,
      {L"查看或更改系统变量。也可直接输入变量名。",
       L"Shows and sets system variables. A variable name can be typed directly."},

@@ -78,6 +78,12 @@ TEST(InitialCamera, ShowsAllWhereItWouldBeASpeck) {
     EXPECT_LT(initialCamera(*drawing, {800, 600}, boxAt(100, 200)).height, 20);
 }
 
+TEST(InitialCamera, ASheetIsShownWholeFromAbove) {
+    const auto drawing = drawingWith(viewport(kFromTheFront, "50"));
+    drawing->setModelTab(false);
+    EXPECT_EQ(initialCamera(*drawing, {800, 600}, boxAt(95, 195)), fitted(Camera(), {800, 600}, boxAt(95, 195)));
+}
+
 TEST(ViewRecords, GiveTheCameraBackThatTheyWereMadeOf) {
     Camera camera;
     camera.target = {1, 2, 3};
