@@ -71,8 +71,10 @@ Viewport::Viewport(Session& session, DesktopFrontEnd& front, QWidget* parent)
 Viewport::~Viewport() = default;
 
 void Viewport::setDocument(Document* document) {
-    rectangle_.reset();
+    if (view_ != nullptr)
+        view_->scene().setHovered({});
     hovered_ = {};
+    rectangle_.reset();
     aim_.reset();
     view_ = nullptr;
     if (document != nullptr) {
@@ -95,6 +97,7 @@ void Viewport::forget(Document& document) {
     if (view_ == found->second.get())
         setDocument(nullptr);
     views_.erase(found);
+    given_.clear();
     picture_.forget();
 }
 
@@ -128,8 +131,9 @@ void Viewport::navigate(const gs::Camera& camera) {
 void Viewport::changeCamera(const gs::Camera& camera) {
     view_->look().camera = camera;
     view_->look().isUntouched = false;
-    isHoverDue_ = true;
     update();
+    if (cursor_)
+        point(*cursor_); // something else is there now
     Q_EMIT viewChanged();
 }
 

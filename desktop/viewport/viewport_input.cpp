@@ -82,9 +82,12 @@ void Viewport::leftPress(QPointF place, Qt::KeyboardModifiers modifiers) {
 }
 
 void Viewport::mouseMoveEvent(QMouseEvent* event) {
-    if (held_ != Held::Nothing)
-        moveHeld(event->position());
-    point(event->position());
+    if (held_ == Held::Nothing) {
+        point(event->position());
+        return;
+    }
+    cursor_ = event->position();
+    moveHeld(event->position());
 }
 
 void Viewport::mouseReleaseEvent(QMouseEvent* event) {
@@ -188,7 +191,9 @@ bool Viewport::pressViewKey(const QKeyEvent& event) {
         zoomExtents();
         return true;
     }
-    const std::optional<gs::Camera> moved = movedByKey(camera(), size(), orbitCenter(), event.key(), event.modifiers());
+    const bool mayTurn = event.modifiers().testFlag(Qt::ControlModifier);
+    const ZrGePoint3d center = mayTurn ? orbitCenter() : camera().target;
+    const std::optional<gs::Camera> moved = movedByKey(camera(), size(), center, event.key(), event.modifiers());
     if (moved)
         navigate(*moved);
     return moved.has_value();

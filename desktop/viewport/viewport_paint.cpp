@@ -97,9 +97,10 @@ void Viewport::paintPointing(QPainter& painter, const ViewportColors& colors) {
         paintPickRectangle(painter, *rectangle_, colors);
     if (!cursor_ || held_ != Held::Nothing)
         return;
-    if (aim_)
+    const bool isAiming = aim_ && asksForPoint();
+    if (isAiming)
         paintLabel(painter, *cursor_, rect(), readOut(), colors);
-    if (aim_ && aim_->snap)
+    if (isAiming && aim_->snap)
         if (const std::optional<gs::ScreenPoint> at = projector.toScreen(aim_->point))
             paintSnap(painter, aim_->snap->kind, {at->x, at->y}, rect(), colors);
     paintCursor(painter, *cursor_, cursorShape(), colors);
