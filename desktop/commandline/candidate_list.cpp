@@ -53,7 +53,6 @@ void CandidateList::offer(std::vector<Row> rows, const QRect& beside) {
     setCurrentItem(nullptr);
     place(beside);
     show();
-    raise();
 }
 
 void CandidateList::place(const QRect& beside) {

@@ -110,7 +110,7 @@ void CommandLine::connectFront() {
     });
     connect(&front_, &DesktopFrontEnd::questionOpened, this, [this] {
         showQuestion();
-        answerPasted();
+        answerNext();
     });
     connect(&front_, &DesktopFrontEnd::commandGiven, this, &CommandLine::noteCommand);
     connect(&front_, &DesktopFrontEnd::progressed, this, [this](const QString& what, double fraction) {
@@ -208,14 +208,9 @@ void CommandLine::answer() {
 
 void CommandLine::answerWith(const QString& typed) {
     completer_->dismiss();
-    if (front_.question() == nullptr) {
-        input_->setText(typed);
-        return;
-    }
-    if (recall_.add(fromQt(typed)))
-        lines_.add(fromQt(typed));
     input_->clear();
-    front_.giveText(fromQt(typed));
+    ahead_.push_back(typed);
+    answerNext();
 }
 
 void CommandLine::choose(const ed::PromptPart& part) {
@@ -226,7 +221,7 @@ void CommandLine::choose(const ed::PromptPart& part) {
 
 void CommandLine::cancel() {
     completer_->dismiss();
-    pasted_.clear();
+    ahead_.clear();
     recall_.leave();
     if (input_->text().isEmpty())
         front_.escape();
@@ -261,15 +256,16 @@ void CommandLine::paste(const QString& text) {
     }
     lines.first() = input_->text() + lines.first();
     input_->setText(last);
-    pasted_.insert(pasted_.end(), lines.begin(), lines.end());
-    answerPasted();
+    ahead_.insert(ahead_.end(), lines.begin(), lines.end());
+    answerNext();
 }
 
-void CommandLine::answerPasted() {
-    if (pasted_.empty() || front_.question() == nullptr)
+// Keys may come faster than questions: what was typed while a command worked waits as pasted lines do.
+void CommandLine::answerNext() {
+    if (ahead_.empty() || front_.question() == nullptr)
         return;
-    const QString line = std::move(pasted_.front());
-    pasted_.pop_front();
+    const QString line = std::move(ahead_.front());
+    ahead_.pop_front();
     if (recall_.add(fromQt(line)))
         lines_.add(fromQt(line));
     front_.giveText(fromQt(line));

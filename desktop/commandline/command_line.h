@@ -83,7 +83,7 @@ private:
     void act(InputLine::Act act);
     void answer();
     void answerWith(const QString& typed);
-    void answerPasted();
+    void answerNext();
     void choose(const ed::PromptPart& part);
     void cancel();
     void copyOrCancel();
@@ -102,8 +102,8 @@ private:
     ed::History lines_;
     ed::Recall recall_;
     ed::RecentCommands recent_;
-    std::deque<QString> pasted_; // lines that wait for their questions
-    QTimer workTimer_;           // until it is worth saying that a command works
+    std::deque<QString> ahead_; // lines that were pasted or typed before their questions
+    QTimer workTimer_;          // until it is worth saying that a command works
     QString working_;
     int listener_ = 0;
     int fontSteps_ = 0;

@@ -39,7 +39,7 @@ void Transcript::clear() {
     pieces_.clear();
     lines_ = 0;
     screen_ = {};
-    Q_EMIT changed();
+    Q_EMIT cleared();
 }
 
 QString Transcript::text() const {

@@ -39,8 +39,10 @@ public:
     [[nodiscard]] QString text() const;
 
 Q_SIGNALS:
-    // There are more pieces, or none any more. Views that draw wait for a pause.
+    // There are more pieces. Views that draw wait for a pause.
     void changed();
+    // There are none any more.
+    void cleared();
 
 private:
     void put(std::wstring_view text, Voice voice);

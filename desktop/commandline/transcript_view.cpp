@@ -63,6 +63,7 @@ TranscriptView::TranscriptView(const Transcript& transcript, QWidget* parent)
     pause_.setSingleShot(true);
     pause_.setInterval(kPauseMilliseconds);
     connect(&pause_, &QTimer::timeout, this, &TranscriptView::append);
+    connect(&transcript, &Transcript::cleared, this, &TranscriptView::startAnew);
     connect(&transcript, &Transcript::changed, this, [this] {
         if (isVisible() && !pause_.isActive())
             pause_.start();
@@ -82,21 +83,22 @@ void TranscriptView::applyColors(const LineColors& colors) {
     palette.setColor(QPalette::Highlight, colors.selection);
     palette.setColor(QPalette::HighlightedText, colors.selectedText);
     setPalette(palette);
+    startAnew();
+    catchUp();
+}
+
+void TranscriptView::startAnew() {
     clear();
     shown_ = transcript_.first();
     lineEnded_ = false;
-    catchUp();
 }
 
 // Stays at the end when the end was seen.
 void TranscriptView::append() {
     QScrollBar& bar = *verticalScrollBar();
     const bool follows = bar.value() >= bar.maximum();
-    if (shown_ < transcript_.first()) {
-        clear();
-        lineEnded_ = false;
-        shown_ = transcript_.first();
-    }
+    if (shown_ < transcript_.first())
+        startAnew();
     setUpdatesEnabled(false);
     while (shown_ < transcript_.end()) {
         const Transcript::Voice voice = transcript_.piece(shown_).voice;

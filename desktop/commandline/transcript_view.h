@@ -35,6 +35,7 @@ protected:
 
 private:
     void append();
+    void startAnew();
     void insert(const QString& text, Transcript::Voice voice);
 
     const Transcript& transcript_;

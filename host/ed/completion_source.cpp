@@ -7,6 +7,18 @@
 
 namespace quor::ed {
 
+namespace {
+
+// As commands and variables are shown.
+ZrString inCapitals(ZrString name) {
+    for (wchar_t& c : name)
+        if (c >= L'a' && c <= L'z')
+            c = static_cast<wchar_t>(c - L'a' + L'A');
+    return name;
+}
+
+} // namespace
+
 CompletionSource completionSource(Session& session, const Question& question) {
     CompletionSource source;
     source.atCommandPrompt = question.kind == Question::Kind::Command;
@@ -18,7 +30,7 @@ CompletionSource completionSource(Session& session, const Question& question) {
     for (const Command* command : session.commands().all()) {
         source.commands.push_back({command->globalName, command->localName});
         for (ZrString& alias : session.commands().aliasesOf(command->globalName))
-            source.otherNames.push_back(std::move(alias));
+            source.otherNames.push_back(inCapitals(std::move(alias)));
     }
     return source;
 }
