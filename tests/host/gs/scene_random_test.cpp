@@ -17,9 +17,10 @@ public:
 
     void act() {
         static constexpr std::array kActs{
-            &Chance::addLine, &Chance::addFace,    &Chance::addLight,   &Chance::moveLine,    &Chance::moveLight,
-            &Chance::erase,   &Chance::unerase,    &Chance::undo,       &Chance::redo,        &Chance::redo,
-            &Chance::addLine, &Chance::paintLayer, &Chance::hideEntity, &Chance::toggleGlyphs};
+            &Chance::addLine,     &Chance::addFace,     &Chance::addLight,   &Chance::moveLine,
+            &Chance::moveLight,   &Chance::erase,       &Chance::unerase,    &Chance::undo,
+            &Chance::redo,        &Chance::redo,        &Chance::addLine,    &Chance::paintLayer,
+            &Chance::paintEntity, &Chance::moveToLayer, &Chance::hideEntity, &Chance::toggleGlyphs};
         const auto chosen = kActs[below(kActs.size())];
         const bool alone = chosen == &Chance::undo || chosen == &Chance::redo;
         if (!alone)
@@ -69,6 +70,15 @@ private:
     void paintLayer() {
         const ZrDbObjectPointer<ZrDbLayerTableRecord> layer(drawing_.interface().layerZeroId(), ZrDb::kForWrite);
         layer->setColor(ZrCmColor::fromIndex(1 + static_cast<int>(below(250))));
+    }
+    void paintEntity() {
+        if (const ZrDbObjectPointer<ZrDbEntity> entity(any(), ZrDb::kForWrite); entity)
+            entity->setColor(ZrCmColor::fromIndex(1 + static_cast<int>(below(256))));
+    }
+    void moveToLayer() {
+        const ZrDbObjectId layer = drawing_.makeLayer(below(2) == 0 ? L"0" : L"Walls");
+        if (const ZrDbObjectPointer<ZrDbEntity> entity(any(), ZrDb::kForWrite); entity)
+            entity->setLayer(layer);
     }
     void toggleGlyphs() { drawing_.setHeader(L"$LIGHTGLYPHDISPLAY", 280, static_cast<long long>(below(2))); }
     void undo() { drawing_.journal().undo(); }

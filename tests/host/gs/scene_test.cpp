@@ -105,6 +105,23 @@ TEST_F(SceneTest, AnEntityMayHaveItsOwnColor) {
     EXPECT_THAT(seenOf(line).looks, ElementsAre(std::pair(kRed, true)));
 }
 
+TEST_F(SceneTest, AnEntityThatGetsItsOwnColorKeepsItWhenItsLayerChanges) {
+    const ZrDbObjectId line = addLine({1, 2, 3}, {4, 5, 6});
+    scene->update();
+    change<ZrDbLine>(line, [](ZrDbLine& each) { each.setColor(ZrCmColor::fromIndex(1)); });
+    scene->update();
+    change<ZrDbLayerTableRecord>(database->interface().layerZeroId(),
+                                 [](ZrDbLayerTableRecord& layer) { layer.setColor(ZrCmColor::fromIndex(3)); });
+    EXPECT_THAT(seenOf(line).looks, ElementsAre(std::pair(kRed, true)));
+}
+
+TEST_F(SceneTest, TheBoxOfAChunkHoldsWhatHasMoved) {
+    const ZrDbObjectId line = addLine({1, 2, 3}, {4, 5, 6});
+    scene->update();
+    change<ZrDbLine>(line, [](ZrDbLine& each) { each.setEndPoint({70, 80, 90}); });
+    EXPECT_TRUE(chunksHoldTheirItems(updated()));
+}
+
 TEST_F(SceneTest, WhatIsOnAFrozenLayerIsNotVisible) {
     const std::string layer = "0\nTABLE\n2\nLAYER\n70\n1\n0\nLAYER\n2\nCold\n70\n1\n62\n1\n6\nContinuous\n0\nENDTAB\n";
     const std::string line = "0\nLINE\n5\nA1\n8\nCold\n10\n1\n20\n2\n30\n3\n11\n4\n21\n5\n31\n6\n";
