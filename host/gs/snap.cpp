@@ -44,15 +44,14 @@ struct Choice {
     }
 };
 
-std::vector<std::uint32_t> candidates(const SceneData& scene, const Projector& projector, double x, double y,
-                                      double radius) {
-    std::vector<std::uint32_t> entities;
-    if (const auto glyph = glyphAt(scene, projector, x, y, radius))
-        entities.push_back(glyph->entity);
-    for (const NearEntity& line : linesNear(scene, projector, x, y, radius))
-        if (entities.size() < kCandidates)
-            entities.push_back(line.entity);
-    return entities;
+// A light is where its glyph is.
+void considerLights(Choice& choice, const SceneData& scene, const Projector& projector, double x, double y,
+                    double radius) {
+    for (const LightMark& mark : scene.lights) {
+        const auto at = mark.isGlyphShown ? projector.toScreen(mark.position) : std::nullopt;
+        if (const double away = at ? std::hypot(at->x - x, at->y - y) : kAnywhere; away <= radius)
+            choice.consider({Snap::Kind::Center, mark.position}, away);
+    }
 }
 
 } // namespace
@@ -63,23 +62,28 @@ std::optional<Snap> snapAt(const SceneData& scene, const Projector& projector, d
         return std::nullopt;
     Choice near;
     Choice center;
+    if ((modes & kSnapCenter) != 0)
+        considerLights(near, scene, projector, x, y, radius);
+    std::vector<NearEntity> candidates;
     if ((modes & (kSnapEnd | kSnapMiddle | kSnapCenter)) != 0)
-        for (const std::uint32_t entity : candidates(scene, projector, x, y, radius)) {
-            const ZrDbObjectId id = scene.entities[entity];
-            if (id.isNull())
+        candidates = linesNear(scene, projector, x, y, radius);
+    candidates.resize(std::min(candidates.size(), kCandidates));
+    for (const NearEntity& candidate : candidates) {
+        const ZrDbObjectId id = scene.entities[candidate.entity];
+        if (id.isNull())
+            continue;
+        for (const SnapPoint& point : snapPoints(*id.entry()->database, *id.entry())) {
+            const SnapRow* const row = rowFor(point.kind, modes);
+            const auto at = row == nullptr ? std::nullopt : projector.toScreen(point.at);
+            if (!at)
                 continue;
-            for (const SnapPoint& point : snapPoints(*id.entry()->database, *id.entry())) {
-                const SnapRow* const row = rowFor(point.kind, modes);
-                const auto at = row == nullptr ? std::nullopt : projector.toScreen(point.at);
-                if (!at)
-                    continue;
-                const double distance = std::hypot(at->x - x, at->y - y);
-                if (distance <= radius)
-                    near.consider({row->kind, point.at}, distance);
-                else if (row->kind == Snap::Kind::Center && distance < kAnywhere)
-                    center.consider({row->kind, point.at}, distance);
-            }
+            const double away = std::hypot(at->x - x, at->y - y);
+            if (away <= radius)
+                near.consider({row->kind, point.at}, away);
+            else if (row->kind == Snap::Kind::Center && away < kAnywhere)
+                center.consider({row->kind, point.at}, away);
         }
+    }
     if (near.snap || center.snap)
         return near.snap ? near.snap : center.snap;
     if ((modes & kSnapFace) != 0)

@@ -74,6 +74,16 @@ TEST_F(SnapTest, ThePlaceOnAFaceIsWhereTheCursorMeetsIt) {
     EXPECT_FALSE(snap(430, 340, kSnapEnd | kSnapMiddle));
 }
 
+TEST_F(SnapTest, ALightIsMeantNearItsGlyph) {
+    const ZrDbObjectId light = db::drawings::addLight(*database);
+    db::drawings::change(light, [](ZrDbLight& each) { each.setPosition({3, 4, 5}); });
+    const auto center = snap(400, 300);
+    ASSERT_TRUE(center);
+    EXPECT_EQ(center->kind, Snap::Kind::Center);
+    EXPECT_EQ(center->at, ZrGePoint3d(3, 4, 5));
+    EXPECT_FALSE(snap(400, 300, kSnapEnd | kSnapMiddle));
+}
+
 TEST_F(SnapTest, TheCenterOfACircleIsMeantNearItsLine) {
     const std::string circle = "0\nCIRCLE\n5\nA1\n8\n0\n10\n0\n20\n0\n30\n0\n40\n150\n";
     use(db::drawings::parsed(db::drawings::drawing("AC1009", {{}, {}, {}, circle, {}})));
