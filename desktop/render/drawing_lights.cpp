@@ -10,7 +10,13 @@ namespace quor::desktop {
 namespace {
 
 constexpr std::size_t kMostShadowLights = 16;
-constexpr int kBlockOfMoving = 4; // pixels that are computed as one while the picture moves
+
+// How many pixels, across and down, are computed as one: more while the picture moves or where pixels are small.
+int sampleSizeOf(const RenderOptions& options) {
+    constexpr int whileMoving = 4;
+    constexpr double smallPixels = 1.5;
+    return (options.isMoving ? whileMoving : 1) * (options.pixelRatio > smallPixels ? 2 : 1);
+}
 
 // What can be seen of everything without any light, and more of what is turned to the eye; after exposure.
 constexpr float kEven = 0.030F;
@@ -75,7 +81,7 @@ void DrawingLights::takeSamples(Frame& frame, Band band, const gs::SceneData& sc
         const FacePlanes::Place place = planes.at(number, x, y);
         light.samples.add(place.position, place.normal);
         light.triangles.push_back(number);
-        light.dither.push_back(static_cast<std::uint8_t>(ditherAt(x, y)));
+        light.dither.push_back(static_cast<std::uint8_t>(ditherAt(x / block, y / block)));
         light.facing.push_back(place.facing);
         light.own.push_back(linearColor(color));
         light.pixels.push_back(0);
@@ -123,8 +129,9 @@ void DrawingLights::paint(Frame& frame, Band band, const ToneCurve& curve, BandL
     }
 }
 
-void DrawingLights::light(Frame& frame, Band band, const std::vector<ShadingLight>& lights, BandLight& light) const {
-    ShadowMask shadows(frame, band, shadows_, light.samples, light.triangles);
+void DrawingLights::light(Frame& frame, Band band, const std::vector<ShadingLight>& lights, int sampleSize,
+                          BandLight& light) const {
+    ShadowMask shadows(frame, band, shadows_, light.samples, light.triangles, sampleSize);
     for (std::size_t i = 0; i < lights.size(); ++i) {
         if (!shadows_.isEmpty() && i < kMostShadowLights)
             shadows.apply(lights[i]);
@@ -143,12 +150,13 @@ void DrawingLights::shade(Frame& frame, const gs::SceneData& scene, const gs::Ca
         shadows_.clear();
     else
         shadows_.build(scene);
+    const int sampleSize = sampleSizeOf(options);
     const auto count = static_cast<std::size_t>(frame.bandCount());
     bands_.resize(count);
     threads.run(count, [&](std::size_t number) {
         BandLight& band = bands_[number];
-        takeSamples(frame, frame.band(number), scene, view, options.isMoving ? kBlockOfMoving : 1, band);
-        light(frame, frame.band(number), lights, band);
+        takeSamples(frame, frame.band(number), scene, view, sampleSize, band);
+        light(frame, frame.band(number), lights, sampleSize, band);
         for (std::size_t i = 0; i < band.samples.size(); ++i)
             band.brightness.add(luminance(product(band.samples.light(i), band.own[i])), band.pixels[i]);
     });

@@ -37,7 +37,8 @@ private:
     static void paint(Frame& frame, Band band, const ToneCurve& curve, BandLight& light);
 
     // What all lights send to the samples of the band.
-    void light(Frame& frame, Band band, const std::vector<ShadingLight>& lights, BandLight& light) const;
+    void light(Frame& frame, Band band, const std::vector<ShadingLight>& lights, int sampleSize,
+               BandLight& light) const;
 
     std::vector<BandLight> bands_;
     ShadowTree shadows_; // empty while the picture moves

@@ -26,7 +26,7 @@ struct Paint {
         cover = cover * (1 - covered) + covered;
     }
     [[nodiscard]] std::uint32_t packed() const {
-        const auto byte = [](float value) { return static_cast<std::uint32_t>(value * 255 + 0.5F); };
+        const auto byte = [](float value) { return static_cast<std::uint32_t>(toWhole(value * 255 + 0.5F, 0, 255)); };
         return byte(cover) << 24 | byte(red) << 16 | byte(green) << 8 | byte(blue);
     }
 };

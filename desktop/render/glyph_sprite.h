@@ -3,6 +3,7 @@
 
 #include "desktop/render/frame.h"
 #include "desktop/render/glyph_shapes.h"
+#include "desktop/render/vector3.h"
 
 #include <compare>
 #include <map>

@@ -32,7 +32,7 @@ struct Walk {
     }
 };
 
-// Of places on the picture, which are at most a little above and left of it.
+// Of what is at most a little below 0, as places on the picture are.
 int rounded(float value) {
     constexpr int lift = 1024;
     return static_cast<int>(value + (lift + 0.5F)) - lift;
@@ -188,7 +188,7 @@ void drawSmoothLine(Frame& frame, Band band, const ScreenLine& line) {
             const float along = ahead / shortening + aside * walk.slope * shortening;
             const float across = std::clamp(half + 0.5F - std::abs(aside) * shortening, 0.0F, 1.0F);
             const float within = std::clamp(half + 0.5F + std::min(along, run - along), 0.0F, 1.0F);
-            const auto covered = static_cast<std::uint32_t>(across * within * 255 + 0.5F);
+            const auto covered = static_cast<std::uint32_t>(rounded(across * within * 255));
             if (covered > 0)
                 blend(frame, walk.isSteep ? minor : major, walk.isSteep ? major : minor, depth, line, covered);
         }

@@ -3,7 +3,7 @@
 namespace quor::desktop {
 namespace {
 
-constexpr int kBlock = 4;
+constexpr int kBlock = 4; // samples across and down that are looked at together
 constexpr float kUnknown = -1;
 
 // Shares of the scene's size: how far from a face a ray starts, and how far before a light it ends, so that neither a
@@ -14,18 +14,19 @@ constexpr float kBeforeLight = 1e-2F;
 } // namespace
 
 ShadowMask::ShadowMask(Frame& frame, Band band, const ShadowTree& tree, LightSamples& samples,
-                       const std::vector<std::uint32_t>& triangles)
+                       const std::vector<std::uint32_t>& triangles, int sampleSize)
     : frame_(frame), band_(band), tree_(tree), samples_(samples), triangles_(triangles) {
     if (tree.isEmpty())
         return;
-    for (int top = band.top; top < band.bottom; top += kBlock) {
-        for (int left = 0; left < frame.width(); left += kBlock) {
+    const int size = kBlock * sampleSize;
+    for (int top = band.top; top < band.bottom; top += size) {
+        for (int left = 0; left < frame.width(); left += size) {
             Block block{.left = left,
                         .top = top,
-                        .right = std::min(left + kBlock, frame.width()),
-                        .bottom = std::min(top + kBlock, band.bottom),
-                        .farRight = std::min(left + kBlock, frame.width() - 1),
-                        .farBottom = std::min(top + kBlock, band.bottom - 1),
+                        .right = std::min(left + size, frame.width()),
+                        .bottom = std::min(top + size, band.bottom),
+                        .farRight = std::min(left + size, frame.width() - 1),
+                        .farBottom = std::min(top + size, band.bottom - 1),
                         .isOneFace = false};
             block.isOneFace = isOneFace(block);
             blocks_.push_back(block);

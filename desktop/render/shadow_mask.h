@@ -7,12 +7,12 @@
 
 namespace quor::desktop {
 
-// For a still picture: each pixel that shows a face has a sample of its own, whose number plus one stands in the frame.
+// The number plus one of each pixel's sample stands in the frame.
 class ShadowMask {
 public:
-    // `triangles`: what each sample shows.
+    // `triangles`: what each sample shows; `sampleSize`: how many pixels, across and down, share one.
     ShadowMask(Frame& frame, Band band, const ShadowTree& tree, LightSamples& samples,
-               const std::vector<std::uint32_t>& triangles);
+               const std::vector<std::uint32_t>& triangles, int sampleSize);
     // Writes into the samples how much of the light reaches each.
     void apply(const ShadingLight& light);
     // All of it reaches them.

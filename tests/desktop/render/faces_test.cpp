@@ -255,6 +255,17 @@ TEST(Shadow, OfAFaceFallsOnWhatIsBehindIt) {
     EXPECT_EQ(picture.at(44, 69), picture.at(48, 69));
 }
 
+TEST(Shadow, FallsAtTheSamePlaceOnAScreenOfTwicePixels) {
+    RenderOptions options = shadedOptions(Lighting::OfDrawing);
+    options.pixelRatio = 2;
+    Picture picture;
+
+    picture.take(sceneWithShadow(), cameraFromAbove(), options);
+
+    EXPECT_GT(picture.brightness(54, 69), picture.brightness(46, 69) + 60);
+    EXPECT_EQ(picture.at(54, 69), picture.at(55, 68));
+}
+
 TEST(Shadow, IsLeftOutWhileThePictureMoves) {
     RenderOptions options = shadedOptions(Lighting::OfDrawing);
     options.isMoving = true;

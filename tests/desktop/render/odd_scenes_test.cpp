@@ -84,7 +84,7 @@ TEST(Renderer, DrawsTheSameAgainAfterOtherPictures) {
     Picture first;
     first.take(scene, perspectiveFromAbove(), options);
     Renderer renderer;
-    std::vector<std::uint32_t> pixels(300 * 200);
+    std::vector<std::uint32_t> pixels(std::size_t{300} * 200);
     renderer.render(scene.data(), cameraFromAbove(), plainOptions(), {pixels.data(), 300, 200, 300});
     renderer.render({}, cameraFromAbove(), options, {pixels.data(), 50, 20, 50});
 
@@ -191,11 +191,11 @@ TEST(OddScene, ItemsThatReachOverTheEndAreLeftOut) {
     gs::SceneData data = scene.data();
     data.items = items;
     data.chunks = chunks;
-    std::vector<std::uint32_t> pixels(100 * 100);
+    std::vector<std::uint32_t> pixels(std::size_t{100} * 100);
 
     Renderer().render(data, cameraFromAbove(), shadedOptions(Lighting::Default), {pixels.data(), 100, 100, 100});
 
-    EXPECT_EQ(pixels, std::vector<std::uint32_t>(100 * 100, kBlack));
+    EXPECT_EQ(pixels, std::vector<std::uint32_t>(pixels.size(), kBlack));
 }
 
 TEST(OddCamera, ThatLooksNowhereShowsTheBackground) {

@@ -76,13 +76,16 @@ gs::SceneData HandScene::data() const {
 
 Picture::Picture(int width, int height)
     : width_(width), height_(height), stride_(width + kPadding),
-      pixels_(static_cast<std::size_t>(stride_ * (height + 2)), kAround) {}
+      pixels_(static_cast<std::size_t>(stride_) * static_cast<std::size_t>(height + 2), kAround) {}
 
 void Picture::take(const HandScene& scene, const gs::Camera& camera, const RenderOptions& options, unsigned threads) {
     Renderer(threads).render(scene.data(), camera, options, {pixels_.data() + stride_, width_, height_, stride_});
 }
 
-std::uint32_t Picture::at(int x, int y) const { return pixels_[static_cast<std::size_t>((y + 1) * stride_ + x)]; }
+std::uint32_t Picture::at(int x, int y) const {
+    const int index = (y + 1) * stride_ + x;
+    return pixels_[static_cast<std::size_t>(index)];
+}
 
 int Picture::brightness(int x, int y) const {
     const std::uint32_t color = at(x, y);
