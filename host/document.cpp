@@ -81,6 +81,10 @@ Document& DocumentManager::adopt(std::unique_ptr<db::Database> database, const s
     return add(std::make_unique<Document>(std::move(database), path, fromUtf8(path.string())));
 }
 
+Document& DocumentManager::adoptNew(std::unique_ptr<db::Database> database, const ZrString& name) {
+    return add(std::make_unique<Document>(std::move(database), std::filesystem::path(), name));
+}
+
 void DocumentManager::tell(const std::function<void(ZrApDocumentReactor&)>& message) const {
     const std::vector<ZrApDocumentReactor*> listeners = reactors_;
     for (ZrApDocumentReactor* listener : listeners)

@@ -53,6 +53,8 @@ public:
     Document& newDocument();
     // Makes a document of a drawing that was read, and makes it current.
     Document& adopt(std::unique_ptr<db::Database> database, const std::filesystem::path& path);
+    // The same for one that was never saved, under the name that it had.
+    Document& adoptNew(std::unique_ptr<db::Database> database, const ZrString& name);
     // Makes another document current; null: none.
     void setCurrent(Document* document);
     // Closes without asking; the next document becomes current.

@@ -111,7 +111,7 @@ void CommandLink::leaveEvent(QEvent* event) {
 }
 
 void CommandLink::paintFrame(QPainter& painter) const {
-    const QColor accent = palette().color(QPalette::Highlight);
+    const QColor accent = palette().color(QPalette::Link);
     const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
     const qreal fill = isDown() ? 0.30 : underMouse() ? 0.18 : hasFocus() ? 0.12 : 0;
     painter.setBrush(fill > 0 ? faded(accent, fill) : palette().color(QPalette::Base));

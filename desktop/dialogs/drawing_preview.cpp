@@ -1,9 +1,7 @@
 #include "desktop/dialogs/drawing_preview.h"
 
 #include "desktop/dialogs/facts_html.h"
-#include "desktop/qt_text.h"
 #include "host/db/database.h"
-#include "host/texts/dialogs.h"
 #include "host/texts/files.h"
 
 #include <QFileInfo>
@@ -15,13 +13,6 @@ namespace quor::desktop {
 namespace {
 
 constexpr qint64 kLargest = 16 << 20;
-
-QString sizeText(qint64 bytes) {
-    constexpr double kKilo = 1024;
-    const double kilobytes = static_cast<double>(bytes) / kKilo;
-    return kilobytes < kKilo ? toQt(fill(texts::kPreviewKilobytes, kilobytes))
-                             : toQt(fill(texts::kPreviewMegabytes, kilobytes / kKilo));
-}
 
 QString versionText(const ZrString& version) {
     const auto* release = std::ranges::find_if(texts::kReleases, [&](const auto& r) { return version == r.version; });
@@ -39,7 +30,7 @@ std::size_t entityCount(db::Database& drawing) {
 
 QString drawingFacts(const QString& path) {
     const qint64 size = QFileInfo(path).size();
-    const Fact sizeFact{toQt(texts::kPreviewSize), sizeText(size)};
+    const Fact sizeFact{toQt(texts::kPreviewSize), fileSizeText(size)};
     if (size > kLargest)
         return factsHtml({sizeFact}) + "<p>" + toQt(texts::kPreviewTooLarge).toHtmlEscaped() + "</p>";
     const auto drawing = db::Database::open(path.toStdString());

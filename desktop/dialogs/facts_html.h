@@ -1,5 +1,8 @@
-// Labels and values as a small table for a label.
+// What is told of a file, as small tables for a label.
 #pragma once
+
+#include "desktop/qt_text.h"
+#include "host/texts/dialogs.h"
 
 #include <QString>
 
@@ -9,6 +12,14 @@
 namespace quor::desktop {
 
 using Fact = std::pair<QString, QString>;
+
+// The size of a file, in KB or MB.
+[[nodiscard]] inline QString fileSizeText(qint64 bytes) {
+    constexpr double kKilo = 1024;
+    const double kilobytes = static_cast<double>(bytes) / kKilo;
+    return kilobytes < kKilo ? toQt(fill(texts::kPreviewKilobytes, kilobytes))
+                             : toQt(fill(texts::kPreviewMegabytes, kilobytes / kKilo));
+}
 
 [[nodiscard]] inline QString factsHtml(const std::vector<Fact>& facts) {
     QString html = "<table cellspacing='0' cellpadding='2'>";

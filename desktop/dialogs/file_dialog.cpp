@@ -7,10 +7,12 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QSplitter>
+#include <QTreeView>
 #include <QUrl>
 
 namespace quor::desktop {
@@ -20,7 +22,7 @@ namespace {
 constexpr const char* kNameEdit = "fileNameEdit";
 
 constexpr QSize kSize{760, 460};
-constexpr QSize kSizeWithPreview{1020, 560};
+constexpr QSize kSizeWithPreview{1080, 600};
 } // namespace
 
 FileDialog::FileDialog(const FileQuestion& question, const QString& folder, std::vector<FilePlace> places,
@@ -38,6 +40,7 @@ FileDialog::FileDialog(const FileQuestion& question, const QString& folder, std:
     setFilters(question);
     setWords(question.forSaving);
     setPlaces(std::move(places));
+    setColumnWidths();
     if (question.previews)
         addPreview();
     addComplaint();
@@ -86,13 +89,23 @@ void FileDialog::setPlaces(std::vector<FilePlace> places) {
     list->setItemDelegate(new PlaceNames(std::move(places), list));
 }
 
+void FileDialog::setColumnWidths() {
+    const auto* const view = findChild<QTreeView*>("treeView");
+    if (view == nullptr)
+        return;
+    const QFontMetrics metrics(font());
+    const char* const widest[] = {"a_usual_name_of_a_file.ies", "1000.0 MB", "IES 文件 file", "2026-12-31 23:59 "};
+    for (int column = 0; column < 4; ++column)
+        view->header()->resizeSection(column, metrics.horizontalAdvance(widest[column]) + 2 * metrics.height());
+}
+
 void FileDialog::addPreview() {
     auto* const splitter = findChild<QSplitter*>("splitter");
     if (splitter == nullptr)
         return;
     preview_ = new PreviewPane(this);
     splitter->addWidget(preview_);
-    splitter->setSizes({150, 500, 330});
+    splitter->setSizes({150, 570, 330});
     connect(this, &QFileDialog::currentChanged, preview_, &PreviewPane::showFile);
 }
 

@@ -34,6 +34,7 @@ private:
     void setFilters(const FileQuestion& question);
     void setWords(bool forSaving);
     void setPlaces(std::vector<FilePlace> places);
+    void setColumnWidths();
     void addPreview();
     void addComplaint();
     void addReadOnlyBox();

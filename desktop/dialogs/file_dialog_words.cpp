@@ -1,14 +1,17 @@
 #include "desktop/dialogs/file_dialog_words.h"
 
+#include "desktop/dialogs/facts_html.h"
 #include "desktop/qt_text.h"
 #include "host/texts/dialogs.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QFileSystemModel>
+#include <QLabel>
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace quor::desktop {
 
@@ -36,6 +39,9 @@ constexpr ToolWords kActions[] = {{"qt_rename_action", &texts::kFileRename},
                                   {"qt_show_hidden_action", &texts::kFileHidden},
                                   {"qt_new_folder_action", &texts::kFileNewFolder}};
 
+constexpr std::pair<const char*, const char*> kLabels[] = {{"lookInLabel", "lookInCombo"},
+                                                           {"fileTypeLabel", "fileTypeCombo"}};
+
 QFileInfo infoOf(const QModelIndex& source) {
     const auto* const files = qobject_cast<const QFileSystemModel*>(source.model());
     return files == nullptr ? QFileInfo() : files->fileInfo(source);
@@ -47,6 +53,8 @@ QString kindOf(const QFileInfo& file) {
     const QString suffix = file.suffix();
     return suffix.isEmpty() ? toQt(texts::kFileKindPlain) : toQt(fill(texts::kFileKindOf, fromQt(suffix.toUpper())));
 }
+
+QString sizeOf(const QFileInfo& file) { return file.isDir() ? QString() : fileSizeText(file.size()); }
 
 } // namespace
 
@@ -64,6 +72,8 @@ QVariant FileColumns::headerData(int section, Qt::Orientation orientation, int r
 QVariant FileColumns::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole && index.column() == Kind)
         return kindOf(infoOf(mapToSource(index)));
+    if (role == Qt::DisplayRole && index.column() == Size)
+        return sizeOf(infoOf(mapToSource(index)));
     if (role == Qt::DisplayRole && index.column() == Date)
         return infoOf(mapToSource(index)).lastModified().toString("yyyy-MM-dd HH:mm");
     return QSortFilterProxyModel::data(index, role);
@@ -104,6 +114,9 @@ void putWordsOnTools(QFileDialog& dialog) {
     for (const ToolWords& tool : kActions)
         if (auto* const action = dialog.findChild<QAction*>(tool.name))
             action->setText(toQt(*tool.words));
+    for (const auto& [label, box] : kLabels)
+        if (auto* const words = dialog.findChild<QLabel*>(label))
+            words->setBuddy(dialog.findChild<QWidget*>(box));
 }
 
 } // namespace quor::desktop

@@ -41,7 +41,7 @@ private:
     std::vector<FilePlace> places_;
 };
 
-// Tool tips and menus.
+// Tool tips, menus, and what the letters of the labels lead to.
 void putWordsOnTools(QFileDialog& dialog);
 
 } // namespace quor::desktop

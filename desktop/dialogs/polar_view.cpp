@@ -74,7 +74,7 @@ PolarView::Frame PolarView::frame() const {
 }
 
 QPen PolarView::curvePen(std::size_t number) const {
-    QColor color = palette().color(QPalette::Highlight);
+    QColor color = palette().color(QPalette::Link);
     if (number > 0)
         color = palette().color(QPalette::Window).lightness() < 128 ? QColor(255, 170, 70) : QColor(200, 90, 0);
     return QPen(color, 2, number == 0 ? Qt::SolidLine : Qt::DashLine, Qt::RoundCap, Qt::RoundJoin);
@@ -112,8 +112,10 @@ void PolarView::paintSpokes(QPainter& painter, const Frame& frame) const {
         if (degrees == -180)
             continue; // 180 is there
         const QString text = QString::number(std::abs(degrees)) + "°";
-        const qreal away = frame.radius + metrics.height() * 0.55 + metrics.horizontalAdvance(text) * 0.35 *
-                                                                        std::abs(std::sin(degrees * std::numbers::pi / 180));
+        // The one below the centre stands under the value of the outermost ring.
+        const qreal aside = std::abs(std::sin(degrees * std::numbers::pi / 180));
+        const qreal away = frame.radius + (degrees == 0 ? 1.15 : 0.55) * metrics.height() +
+                           0.35 * aside * metrics.horizontalAdvance(text);
         const QPointF at = onCircle(frame.centre, away, degrees);
         const QSizeF size(metrics.horizontalAdvance(text) + 2, metrics.height());
         painter.setPen(faded(ink, 0.75));

@@ -67,7 +67,6 @@ void TaskDialog::addInstruction(QVBoxLayout& column, const QString& text) {
 }
 
 void TaskDialog::addLinks(QVBoxLayout& column, const CZrUiTaskDialog& dialog) {
-    CommandLink* first = nullptr;
     for (const CZrUiTaskDialog::Command& command : dialog.commands()) {
         auto* const link = new CommandLink(toQt(command.text), toQt(command.explanation), this);
         link->setNumber(static_cast<int>(links_.size()) + 1);
@@ -75,11 +74,11 @@ void TaskDialog::addLinks(QVBoxLayout& column, const CZrUiTaskDialog& dialog) {
         connect(link, &CommandLink::clicked, this, [this, id = command.id] { choose(id); });
         column.addWidget(link);
         links_.push_back(link);
-        if (first == nullptr || link->isRecommended())
-            first = link;
+        if (first_ == nullptr || link->isRecommended())
+            first_ = link;
     }
-    if (first != nullptr)
-        first->setFocus();
+    if (first_ != nullptr)
+        first_->setFocus();
 }
 
 void TaskDialog::addLastRow(QVBoxLayout& column, const CZrUiTaskDialog& dialog) {
@@ -92,6 +91,7 @@ void TaskDialog::addLastRow(QVBoxLayout& column, const CZrUiTaskDialog& dialog) 
     if ((dialog.buttons() & kTaskDialogCancelButton) != 0) {
         auto* const cancel = new QPushButton(toQt(texts::kButtonCancel), this);
         cancel->setObjectName("cancel");
+        cancel->setAutoDefault(false); // Enter is the links'
         connect(cancel, &QPushButton::clicked, this, &TaskDialog::reject);
         row->addWidget(cancel);
     }
@@ -138,8 +138,18 @@ void TaskDialog::keyPressEvent(QKeyEvent* event) {
         moveAmongLinks(1);
     else if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Left)
         moveAmongLinks(-1);
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        enter();
     else
         QDialog::keyPressEvent(event);
+}
+
+// Enter on the box takes what Enter took at first.
+void TaskDialog::enter() {
+    if (auto* const button = qobject_cast<QPushButton*>(focusWidget()))
+        button->click();
+    else if (first_ != nullptr)
+        first_->click();
 }
 
 } // namespace quor::desktop

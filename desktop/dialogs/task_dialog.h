@@ -38,8 +38,10 @@ private:
     void choose(int command);
     // Moves the focus from the link that has it; false when none has it, or there is none in that direction.
     bool moveAmongLinks(int step);
+    void enter();
 
     std::vector<CommandLink*> links_;
+    CommandLink* first_ = nullptr; // the recommended one, else the first
     QCheckBox* box_ = nullptr;
     TaskDialogAnswer answer_;
     bool cancellable_;

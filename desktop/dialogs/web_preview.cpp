@@ -30,7 +30,7 @@ std::filesystem::path filePath(const QString& path) { return path.toStdString();
 WebPreview::WebPreview(QWidget* parent) : QWidget(parent), polar_(new PolarView(this)), facts_(new QLabel(this)) {
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(polar_, 3);
+    column->addWidget(polar_, 1);
     facts_->setObjectName("facts");
     facts_->setTextFormat(Qt::RichText);
     facts_->setWordWrap(true);
@@ -43,7 +43,7 @@ WebPreview::WebPreview(QWidget* parent) : QWidget(parent), polar_(new PolarView(
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setFocusPolicy(Qt::NoFocus);
-    column->addWidget(scroll, 2);
+    column->addWidget(scroll, 1);
 }
 
 QString WebPreview::text() const { return facts_->text(); }

@@ -4,6 +4,7 @@
 #include "host/db/light_names.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace quor::db {
@@ -57,6 +58,9 @@ std::optional<ZrString> Journal::redo() {
 bool Journal::isModified() const { return state().group != savedNumber_; }
 
 void Journal::markSaved() { savedNumber_ = state().group; }
+
+// No group has that number.
+void Journal::markUnsaved() { savedNumber_ = std::numeric_limits<std::size_t>::max(); }
 
 Journal::State Journal::state() const {
     if (!open_.changes.empty())

@@ -41,6 +41,8 @@ public:
     // Whether the drawing differs from when markSaved() was last called.
     [[nodiscard]] bool isModified() const;
     void markSaved();
+    // The drawing is not what its file holds, and no undo makes it so: it counts as modified until it is saved.
+    void markUnsaved();
 
     // How far the drawing has come: the last group that changed it, and how much that one did.
     struct State {

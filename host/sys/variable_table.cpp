@@ -70,6 +70,7 @@ const VariableRow rows[] = {
     {.name = L"OSMODE", .type = Short, .home = User, .high = most, .initial = short{7}},
     {.name = L"QUORVERSION", .type = Text, .home = Process, .readOnly = true, .initial = ZrString(kVersion)},
     {.name = L"REFEDITNAME", .type = Text, .home = Drawing, .readOnly = true, .read = readRefEditName},
+    {.name = L"SAVETIME", .type = Short, .home = User, .high = 600, .initial = short{10}},
     {.name = L"SUPPORTPATH", .type = Text, .home = User, .initial = ZrString()},
     {.name = L"TILEMODE",
      .type = Short,

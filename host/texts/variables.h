@@ -66,6 +66,12 @@ inline constexpr VariableNote variableNotes[] = {
     {L"REFEDITNAME",
      {L"REFEDIT 正在编辑的块的名称；没有编辑时为空。",
       L"The name of the block that is being edited with REFEDIT; empty when none is."}},
+    {L"SAVETIME",
+     {L"有未保存更改的图形最迟在这么多分钟后有一个自动保存的副本；0 为不自动保存。\n"
+      L"通常在命令结束后就写入副本；很大的图形则少写一些。程序意外结束后，下次启动时可恢复这些副本。",
+      L"A drawing with unsaved changes has an autosave copy after this many minutes at the latest; 0 turns this off.\n"
+      L"A copy is usually written once a command has ended, and less often for very large drawings. If the program\n"
+      L"ends unexpectedly, the next start offers to recover the copies."}},
 };
 
 } // namespace quor::texts

@@ -2,9 +2,10 @@
 #include "desktop/dialogs/dialogs.h"
 #include "desktop/dialogs/file_dialog.h"
 #include "desktop/dialogs/preview_pane.h"
+#include "desktop/qt_text.h"
 #include "desktop/window/theme.h"
 #include "host/sys/system_variables.h"
-#include "host/texts/text.h"
+#include "host/texts/dialogs.h"
 #include "host/ui/theme.h"
 #include "sdk/ui/task_dialog.h"
 #include "tests/desktop/dialogs/dialog_steps.h"
@@ -74,8 +75,10 @@ TEST_P(PicturesTest, WebFileDialog) {
     question.caption = L"选择光域网文件";
     question.filters = {{L"IES", L"*.ies"}};
     question.previews = true;
-    FileDialog dialog(question, QString(QUOR_BUILD_DIR) + "/share/quor/webs",
-                      filePlaces(session_.session()), &window_);
+    const QString webs = QString(QUOR_BUILD_DIR) + "/share/quor/webs";
+    std::vector<FilePlace> places = filePlaces(session_.session());
+    places.insert(places.begin(), {toQt(texts::kFilePlaceWebs), webs});
+    FileDialog dialog(question, webs, places, &window_);
     for (const char* web : {"street", "downlight", "wall_washer"}) {
         dialog.show();
         auto* const view = dialog.findChild<QTreeView*>("treeView");
