@@ -28,7 +28,7 @@ private:
     void appendOwn(const Drawn& own, const ZrGeMatrix3d& placement, const Surroundings* around);
     void appendParts(const Drawn& own, const ZrGeMatrix3d& placement, const Surroundings* around);
     Part& partFor(const Surroundings& look);
-    // How many points of `from` get into `to` when they come `step` at a time.
+    // Appends so many lines or triangles, placed; how many of them could be drawn there.
     std::uint32_t carry(std::vector<ZrGePoint3d>& to, const ZrGePoint3d* from, std::size_t primitives,
                         std::size_t pointsEach, const ZrGeMatrix3d& placement);
     [[nodiscard]] bool isFull() const;

@@ -1,5 +1,7 @@
 #include "host/gs/shapes/fill.h"
 
+#include "host/gs/shapes/pen.h"
+
 #include <algorithm>
 
 namespace quor::gs {
@@ -64,8 +66,11 @@ void fillSlab(std::vector<const Edge*>& active, double low, double high, std::ve
 
 std::optional<std::vector<ZrGePoint3d>> filled(std::span<const Piece> pieces) {
     std::size_t points = 0;
-    for (const Piece& piece : pieces)
+    for (const Piece& piece : pieces) {
+        if (!std::ranges::all_of(piece, isDrawable))
+            return std::nullopt;
         points += piece.size();
+    }
     if (points > kMostPoints)
         return std::nullopt;
     const std::vector<Edge> edges = edgesOf(pieces);

@@ -59,6 +59,8 @@ ZrString textOf(const Source& source) {
 
 void show(const Source& source, const Numbers& numbers, int vertical, Pen& pen) {
     const ZrString text = textOf(source);
+    if (text.empty())
+        return;
     const double width = widthOf(text);
     const double unit = numbers.real<40>(1) / kCapitalHeight;
     const int horizontal = numbers.whole<72>();

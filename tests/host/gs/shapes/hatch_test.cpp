@@ -93,6 +93,11 @@ TEST(Fill, TakesPiecesInAnyOrder) {
     EXPECT_NEAR(areaOf(filled(pieces).value()), 16, 1e-9);
 }
 
+TEST(Fill, IsNotDoneOfPointsBeyondAllDrawings) {
+    const std::vector<Piece> pieces{{{0, 0, 0}, {1e200, 1e-200, 0}, {std::nan(""), 5, 0}, {0, 0, 0}}};
+    EXPECT_FALSE(filled(pieces));
+}
+
 TEST(Fill, IsNotDoneOfTooManyPoints) {
     Piece piece;
     for (int i = 0; i < 3000; ++i)
