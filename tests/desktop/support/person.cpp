@@ -72,13 +72,17 @@ void Person::presses(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     });
 }
 
+// The first character may take the keyboard along, into another window too.
 void Person::types(const QString& line) {
-    does([=] {
+    const auto target = [] {
         QWidget* const widget = QApplication::focusWidget();
-        QWidget* const target = widget != nullptr ? widget : QApplication::activeWindow();
-        QTest::keyClicks(target, line);
-        QWidget* const now = QApplication::focusWidget();
-        QTest::keyClick(now != nullptr ? now : target, Qt::Key_Return);
+        return widget != nullptr ? widget : QApplication::activeWindow();
+    };
+    if (!line.isEmpty())
+        does([=] { QTest::keyClicks(target(), line.first(1)); });
+    does([=] {
+        QTest::keyClicks(target(), line.sliced(line.isEmpty() ? 0 : 1));
+        QTest::keyClick(target(), Qt::Key_Return);
     });
 }
 
@@ -98,7 +102,7 @@ QString Person::screen() {
 ProgramOptions usualOptions() {
     ProgramOptions options;
     options.session.resourceFolder = std::filesystem::path(QUOR_BUILD_DIR) / "share/quor";
-    options.session.moduleFolders = {std::filesystem::path(QUOR_BUILD_DIR) / "lib/quor"};
+    options.session.moduleFolders = {std::filesystem::path(QUOR_BUILD_DIR) / "lib/quor/modules"};
     options.session.language = L"zh";
     return options;
 }
