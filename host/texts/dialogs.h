@@ -66,4 +66,30 @@ inline constexpr Text kPolarAllPlanes{L"所有 C 平面", L"all C planes"};
 inline constexpr Text kPolarHorizontal{L"水平", L"horizontal"};
 inline constexpr Text kPolarVertical{L"垂直", L"vertical"};
 
+// Drawings of a program that ended unexpectedly.
+inline constexpr Text kRecoverTitle{L"恢复图形", L"Recover drawings"};
+inline constexpr Text kRecoverIntroduction{
+    L"上次程序意外结束时，下列图形有未保存的更改。恢复后的图形尚未保存；用 SAVE 保存到原来的位置。",
+    L"These drawings had unsaved changes when the program ended unexpectedly. Recovered drawings are not saved yet; "
+    L"SAVE writes them to their original location."};
+inline constexpr Text kRecoverName{L"图形", L"Drawing"};
+inline constexpr Text kRecoverPath{L"位置", L"Location"};
+inline constexpr Text kRecoverTime{L"副本时间", L"Copied"};
+inline constexpr Text kRecoverSize{L"大小", L"Size"};
+inline constexpr Text kRecoverNeverSaved{L"(从未保存)", L"(never saved)"};
+inline constexpr Text kRecoverButton{L"恢复(&R)", L"&Recover"};
+inline constexpr Text kRecoverDiscard{L"全部放弃(&D)…", L"&Discard All…"};
+inline constexpr Text kRecoverLater{L"以后再说(&L)", L"&Later"};
+inline constexpr Text kRecoverDiscardQuestion{L"是否删除全部 %d 个副本?", L"Delete all copies (%d)?"};
+inline constexpr Text kRecoverDiscardConsequence{L"其中未保存的更改将永久丢失。", L"The unsaved changes in them are lost for good."};
+inline constexpr Text kRecoverDelete{L"删除(&D)", L"&Delete"};
+
+// About the program.
+inline constexpr Text kAboutTitle{L"关于 Quor", L"About Quor"};
+inline constexpr Text kAboutVersion{L"版本 %s", L"Version %s"};
+inline constexpr Text kAboutWhat{
+    L"在 DXF 图形中布置、编辑和管理光源，包括光度数据和光域网。",
+    L"Places, edits and manages lights in DXF drawings, with their photometric data and webs."};
+inline constexpr Text kAboutBuilt{L"Qt %s", L"Qt %s"};
+
 } // namespace quor::texts

@@ -1,7 +1,9 @@
 // Pictures of all dialogs in both themes and languages, for a person to look at; each shows more than a plain colour.
 #include "desktop/dialogs/dialogs.h"
 #include "desktop/dialogs/file_dialog.h"
+#include "desktop/dialogs/help_dialogs.h"
 #include "desktop/dialogs/preview_pane.h"
+#include "desktop/dialogs/recovery_dialog.h"
 #include "desktop/qt_text.h"
 #include "desktop/window/theme.h"
 #include "host/sys/system_variables.h"
@@ -97,6 +99,29 @@ TEST_P(PicturesTest, WebFileDialog) {
 TEST_P(PicturesTest, SaveQuestion) {
     later({picture("save"), press(Qt::Key_Escape)});
     EXPECT_EQ(dialogs_.askToSave(L"办公室 office.dxf"), SaveChoice::Cancel);
+}
+
+TEST_P(PicturesTest, RecoveryDialog) {
+    const std::vector<autosave::LeftCopy> copies{
+        {{}, {L"/home/lin/项目/办公室 office/平面图 plan.dxf", L"平面图 plan.dxf", 1'795'318'000}, 98'566'144},
+        {{}, {L"", L"Drawing2", 1'795'317'000}, 14'300}};
+    RecoveryDialog dialog(copies, &window_);
+    later({picture("recovery"), press(Qt::Key_Escape)});
+    EXPECT_EQ(dialog.ask(), RecoveryDialog::Choice::Later);
+}
+
+TEST_P(PicturesTest, About) {
+    bool wasShown = false;
+    later({picture("about"), [&] { wasShown = openDialog()->objectName() == "about"; }, press(Qt::Key_Escape)});
+    showAbout(window_);
+    EXPECT_TRUE(wasShown);
+}
+
+TEST_P(PicturesTest, Shortcuts) {
+    bool wasShown = false;
+    later({picture("shortcuts"), [&] { wasShown = openDialog()->objectName() == "shortcuts"; }, press(Qt::Key_Return)});
+    showShortcuts(window_);
+    EXPECT_TRUE(wasShown);
 }
 
 INSTANTIATE_TEST_SUITE_P(Looks, PicturesTest,
