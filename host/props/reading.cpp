@@ -80,7 +80,8 @@ Row rowOf(const Common& common, const Context& context) {
     row.text = common.varies ? ZrString(texts::kVaries.get()) : shownText(property, common.value, context);
     if (!common.varies)
         row.input = inputText(property, common.value);
-    if (const auto* color = std::get_if<ZrCmColor>(&common.value); color != nullptr && !common.varies)
+    const auto* const color = std::get_if<ZrCmColor>(&common.value);
+    if (color != nullptr && !common.varies && !color->isByLayer() && !color->isByBlock())
         row.color = *color;
     if (!isEditable(common, context))
         return row;

@@ -14,8 +14,8 @@ struct Row {
     ZrString input{}; // what an editor begins with: no unit, empty when it varies
     ZrString unit{};
     bool varies = false;
-    std::vector<ZrString> choices{}; // of a choice, and of yes and no; some of a colour
-    std::optional<ZrCmColor> color{};
+    std::vector<ZrString> choices{};  // of a choice, and of yes and no; some of a colour
+    std::optional<ZrCmColor> color{}; // one of its own, to be shown
 };
 
 // The heading of a group; that of the geometry tells the coordinate system.

@@ -31,6 +31,7 @@ TEST_F(RowsOfSelected, BeginWithWhatEveryObjectHas) {
     EXPECT_EQ(text("lineweight"), L"ByLayer");
     EXPECT_EQ(text("visible"), L"yes");
     EXPECT_FALSE(text("handle").empty());
+    EXPECT_EQ(row("color").color, std::nullopt);
     EXPECT_EQ(row("handle").editor, Editor::ReadOnly);
     EXPECT_EQ(row("kind").editor, Editor::ReadOnly);
 }
