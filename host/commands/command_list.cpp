@@ -70,6 +70,8 @@ const Row kCommands[] = {
     {L"REGEN",      regen,          kWithDrawing, kNoUndo | kTransparent, {L"RE", L"REGENALL", L"REA"}},
     {L"OSNAP",      objectSnaps,    kAnytime,     kNoUndo | kTransparent, {L"OS", L"-OSNAP", L"-OS"}},
     {L"SETVAR",     setVariable,    kAnytime,     kTransparent, {L"SET"}},
+    {L"TEXTSCR",    textScreen,     kAnytime,     kNoUndo | kTransparent},
+    {L"GRAPHSCR",   graphicsScreen, kAnytime,     kNoUndo | kTransparent},
     {L"SCRIPT",     script,         kAnytime,     kNoUndo, {L"SCR"}},
     {L"LOADMODULE", loadModule,     kAnytime,     kNoUndo, {L"LM"}},
     {L"HELP",       help,           kAnytime,     kNoUndo | kTransparent, {L"?"}},

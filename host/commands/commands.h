@@ -49,6 +49,8 @@ int paperInLayout(Session& session);
 int layer(Session& session);
 int layers(Session& session);
 int setVariable(Session& session);
+int textScreen(Session& session);
+int graphicsScreen(Session& session);
 
 // How the drawing is seen.
 int zoom(Session& session);

@@ -231,8 +231,8 @@ constexpr HelpPage kPages[] = {
       L"In a layout, switches from the viewport back to paper space."},
      kNoQuestions, L"PSPACE"},
     {L"LAYER", kSpaces,
-     {L"列出、新建、设置当前图层，或更改图层的状态和颜色。",
-      L"Lists and creates layers, sets the current one, and changes the state and color of layers."},
+     {L"列出、新建或更改图层，或设置当前图层。",
+      L"Lists, creates, and changes layers, and sets the current one."},
      {L"列出(?): 所有图层。新建(M): 名称；该图层成为当前图层。设置(S): 已有图层的名称。Enter 结束。\n"
       L"开(ON)、关(OFF)、颜色(C)、冻结(F)、解冻(T)、锁定(LO)、解锁(U): 图层的名称，多个名称以逗号分隔，可用 * 和 ? 作通配符。\n"
       L"当前图层不能冻结。锁定图层上的对象不能更改或删除。\n"
@@ -244,7 +244,7 @@ constexpr HelpPage kPages[] = {
      L"LAYER ? "},
     {L"LAYERS", kSpaces,
      {L"显示“图层”选项板；没有窗口时列出图层。",
-      L"Shows the Layers palette; lists the layers where there are no windows."},
+      L"Shows the Layers palette; without windows, lists the layers."},
      kNoQuestions, L"LAYERS"},
 
     {L"ZOOM", kViews,
@@ -305,6 +305,20 @@ constexpr HelpPage kPages[] = {
      {L"变量名，然后是新值；Enter 保留当前值。? 列出变量，可用 * 和 ? 作通配符。",
       L"The name, then the new value; Enter keeps the current value. ? lists variables; * and ? are wildcards."},
      L"SETVAR LUPREC 2"},
+    {L"TEXTSCR", kPrograms,
+     {L"显示文本窗口，其中有命令行的全部历史。",
+      L"Shows the text window, which holds the whole history of the command line."},
+     {L"在窗口界面中也可按 F2；执行其他命令时可用 'TEXTSCR。在终端中只有一个屏幕，不作切换。",
+      L"In the window interface F2 does the same; 'TEXTSCR can be used during other commands. A terminal has one screen only, so "
+      L"nothing changes there."},
+     L"TEXTSCR"},
+    {L"GRAPHSCR", kPrograms,
+     {L"关闭文本窗口，回到图形。",
+      L"Hides the text window and goes back to the drawing."},
+     {L"在窗口界面中也可按 F2；执行其他命令时可用 'GRAPHSCR。在终端中只有一个屏幕，不作切换。",
+      L"In the window interface F2 does the same; 'GRAPHSCR can be used during other commands. A terminal has one screen only, so "
+      L"nothing changes there."},
+     L"GRAPHSCR"},
     {L"SCRIPT", kPrograms,
      {L"执行脚本文件中的命令。",
       L"Runs the commands of a script file."},
