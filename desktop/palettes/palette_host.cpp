@@ -4,10 +4,12 @@
 #include "desktop/palettes/painter_device.h"
 #include "desktop/palettes/palette_area.h"
 #include "desktop/palettes/popup_menu.h"
+#include "desktop/qt_text.h"
 #include "host/document.h"
 #include "host/session.h"
 #include "host/ui/dpi.h"
 #include "host/ui/user_interface.h"
+#include "sdk/ui/palette_set_manager.h"
 
 #include <QMainWindow>
 #include <QScreen>
@@ -62,6 +64,24 @@ void PaletteHost::showAgain(CZkUiPaletteSet& palette) {
     session_.ui().frame().ShowControlBar(&palette, true, false);
     if (auto* const shown = dynamic_cast<CZrRxPaletteSet*>(window.get()))
         shown->documentBecameCurrent(session_.documents().current());
+}
+
+QStringList PaletteHost::shownPalettes() {
+    QStringList shown;
+    if (CZrRxPaletteSetManager* const palettes = session_.ui().palettes(false))
+        palettes->forEach([&](const CZrRxPaletteSet& palette) {
+            if (palette.IsVisible())
+                shown += toQt(palette.GetToolID());
+        });
+    return shown;
+}
+
+void PaletteHost::showPalettes(const QStringList& toolIds) {
+    if (CZrRxPaletteSetManager* const palettes = session_.ui().palettes(false))
+        palettes->forEach([&](CZrRxPaletteSet& palette) {
+            if (toolIds.contains(toQt(palette.GetToolID())) && !palette.IsVisible())
+                showAgain(palette);
+        });
 }
 
 unsigned PaletteHost::trackMenu(const CMenu& menu, CPoint screen) { return popUp(menu, screen, main_); }

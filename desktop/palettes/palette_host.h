@@ -5,6 +5,7 @@
 #include "desktop/palettes/palette_dock.h"
 
 #include <QObject>
+#include <QStringList>
 
 #include <functional>
 
@@ -26,6 +27,11 @@ public:
 
     // Gives the keyboard to whoever has it for the drawing, when a palette gives it up.
     void setFocusDrawing(std::function<void()> focus) { focusDrawing_ = std::move(focus); }
+
+    // The tool ids of the palettes that are shown, for the next session; and showing them there, once modules are
+    // loaded.
+    [[nodiscard]] QStringList shownPalettes();
+    void showPalettes(const QStringList& toolIds);
 
     void realise(CWnd& window) override;
     unsigned trackMenu(const CMenu& menu, CPoint screen) override;

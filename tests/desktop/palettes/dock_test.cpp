@@ -171,6 +171,20 @@ TEST_F(TheDock, IsWhereItWasWhenTheLayoutWasSaved) {
     EXPECT_EQ(main_->dockWidgetArea(&dock()), Qt::RightDockWidgetArea);
 }
 
+TEST_F(TheDock, IsShownInTheNextSessionAsItWas) {
+    const QString id = QString::fromStdWString(palette().GetToolID());
+    EXPECT_EQ(host_->shownPalettes(), QStringList{id});
+    session_.run({L"LIGHTLISTCLOSE"});
+    EXPECT_EQ(host_->shownPalettes(), QStringList());
+
+    host_->showPalettes({"something else"});
+    EXPECT_EQ(lightListState(), 0);
+    host_->showPalettes({id});
+
+    EXPECT_EQ(lightListState(), 1);
+    EXPECT_EQ(names(), L"a b");
+}
+
 TEST_F(TheDock, IsDisabledWithThePalette) {
     palette().Disable();
     EXPECT_FALSE(view().isEnabled());

@@ -3,8 +3,10 @@
 #include "tests/desktop/palettes/shown_palette.h"
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolTip>
 #include <QWheelEvent>
 
 namespace quor::desktop::test {
@@ -156,6 +158,26 @@ TEST_F(TheListView, TellsTheNameOfTheRowUnderTheMouse) {
 
     EXPECT_EQ(tipOf(list()), L"L12");
     EXPECT_EQ(tipOf(tips()), L"");
+}
+
+TEST_F(TheListView, ShowsATipAsItStandsAndTakesItAwayWithTheNextRow) {
+    list().SetItemText(2, 1, L"<b>x</b>");
+    const auto moveTo = [this](int row) {
+        const QPointF at = middleOf(row);
+        QMouseEvent move(QEvent::MouseMove, at, view().viewport()->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(view().viewport(), &move);
+    };
+    moveTo(2);
+    QHelpEvent rests(QEvent::ToolTip, middleOf(2), view().viewport()->mapToGlobal(middleOf(2)));
+    QApplication::sendEvent(view().viewport(), &rests);
+    EXPECT_TRUE(QToolTip::isVisible());
+    EXPECT_TRUE(QToolTip::text().contains("&lt;b&gt;x"));
+
+    list().DeleteItem(2);
+    moveTo(2);
+
+    EXPECT_EQ(tipOf(list()), L"L13");
 }
 
 // A list whose rows are counted when they are drawn.

@@ -74,9 +74,10 @@ void Person::presses(Qt::Key key, Qt::KeyboardModifiers modifiers) {
 
 // The first character may take the keyboard along, into another window too.
 void Person::types(const QString& line) {
-    const auto target = [] {
-        QWidget* const widget = QApplication::focusWidget();
-        return widget != nullptr ? widget : QApplication::activeWindow();
+    const auto target = [this]() -> QWidget* {
+        if (QWidget* const widget = QApplication::focusWidget())
+            return widget;
+        return QApplication::activeWindow() != nullptr ? QApplication::activeWindow() : &program_.window();
     };
     if (!line.isEmpty())
         does([=] { QTest::keyClicks(target(), line.first(1)); });
