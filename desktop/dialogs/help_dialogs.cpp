@@ -5,11 +5,11 @@
 #include "host/texts/dialogs.h"
 #include "host/texts/shortcuts.h"
 
-#include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -64,7 +64,7 @@ void showAbout(QWidget& owner) {
     auto* const column = new QVBoxLayout(&dialog);
     auto* const row = new QHBoxLayout;
     auto* const icon = new QLabel(&dialog);
-    icon->setPixmap(QApplication::windowIcon().pixmap(kIcon, kIcon));
+    icon->setPixmap(owner.window()->windowIcon().pixmap(kIcon, kIcon));
     icon->setAlignment(Qt::AlignTop);
     auto* const words = new QLabel(aboutHtml(), &dialog);
     words->setWordWrap(true);

@@ -94,7 +94,8 @@ void PolarView::paintRings(QPainter& painter, const Frame& frame) const {
     for (const double value : diagram_.rings) {
         const QString text = QString::number(value, 'g', 6);
         const qreal radius = frame.radius * value / diagram_.rings.back();
-        const QRectF box(frame.centre + QPointF(-metrics.horizontalAdvance(text) / 2 - 2, radius - metrics.height() / 2),
+        const QRectF box(frame.centre +
+                             QPointF(-metrics.horizontalAdvance(text) / 2 - 2, radius - metrics.height() / 2),
                          QSizeF(metrics.horizontalAdvance(text) + 4, metrics.height()));
         painter.fillRect(box, faded(palette().color(QPalette::Base), 0.8));
         painter.setPen(faded(ink, 0.75));

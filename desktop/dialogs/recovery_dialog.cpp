@@ -63,8 +63,8 @@ void RecoveryDialog::fillList(const std::vector<autosave::LeftCopy>& copies) {
     list_->setUniformRowHeights(true);
     list_->setAlternatingRowColors(true);
     list_->setTextElideMode(Qt::ElideMiddle);
-    list_->setHeaderLabels({toQt(texts::kRecoverName), toQt(texts::kRecoverPath), toQt(texts::kRecoverTime),
-                            toQt(texts::kRecoverSize)});
+    list_->setHeaderLabels(
+        {toQt(texts::kRecoverName), toQt(texts::kRecoverPath), toQt(texts::kRecoverTime), toQt(texts::kRecoverSize)});
     for (const autosave::LeftCopy& copy : copies) {
         auto* const row = new QTreeWidgetItem(list_, wordsOf(copy));
         row->setCheckState(0, Qt::Checked);

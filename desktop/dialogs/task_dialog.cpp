@@ -119,7 +119,8 @@ void TaskDialog::reject() {
 }
 
 bool TaskDialog::moveAmongLinks(int step) {
-    const auto at = std::find_if(links_.begin(), links_.end(), [](const CommandLink* link) { return link->hasFocus(); });
+    const auto at =
+        std::find_if(links_.begin(), links_.end(), [](const CommandLink* link) { return link->hasFocus(); });
     if (at == links_.end())
         return false;
     const auto index = static_cast<std::ptrdiff_t>(at - links_.begin()) + step;

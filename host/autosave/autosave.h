@@ -33,8 +33,8 @@ public:
 
     // Called now and then while the command prompt waits; does nothing while a command runs.
     void tick();
-    // The program is made to end: every drawing with unsaved changes is copied at once, also in the middle of a command,
-    // and the copies stay when the documents are closed. A tick() after it takes that back.
+    // The program is made to end: every drawing with unsaved changes is copied at once, also in the middle of a
+    // command, and the copies stay when the documents are closed. A tick() after it takes that back.
     void writeAllNow();
 
     // The copy that a document came from becomes its copy here; false, with the copy where it was, when that is not

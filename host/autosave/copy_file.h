@@ -21,8 +21,8 @@ struct CopyFile {
     [[nodiscard]] std::filesystem::path info() const;
 };
 
-// Writes what SAVE would write, and leaves the drawing, whether it is modified, and its own files as they are. The error
-// is a reason for people, without a full stop.
+// Writes what SAVE would write, and leaves the drawing, whether it is modified, and its own files as they are. The
+// error is a reason for people, without a full stop.
 [[nodiscard]] Result<void, ZrString> write(Document& document, const CopyFile& copy);
 [[nodiscard]] CopyInfo readInfo(const CopyFile& copy);
 void remove(const CopyFile& copy);

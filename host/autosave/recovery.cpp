@@ -31,8 +31,7 @@ std::int64_t timeOf(const fs::path& file) {
     const fs::file_time_type written = fs::last_write_time(file, error);
     if (error)
         return 0;
-    return std::chrono::duration_cast<std::chrono::seconds>(
-               std::chrono::file_clock::to_sys(written).time_since_epoch())
+    return std::chrono::duration_cast<std::chrono::seconds>(std::chrono::file_clock::to_sys(written).time_since_epoch())
         .count();
 }
 
@@ -62,8 +61,7 @@ Recovery::Recovery(const fs::path& folder) {
     if (folder.empty())
         return;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder, error))
-        if (std::error_code ignored;
-            entry.is_directory(ignored) && !entry.path().filename().string().starts_with('.'))
+        if (std::error_code ignored; entry.is_directory(ignored) && !entry.path().filename().string().starts_with('.'))
             collect(entry.path());
     std::ranges::sort(copies_, [](const LeftCopy& a, const LeftCopy& b) { return a.info.time > b.info.time; });
 }

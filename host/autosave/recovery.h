@@ -31,8 +31,8 @@ public:
 
     // The latest first.
     [[nodiscard]] const std::vector<LeftCopy>& copies() const { return copies_; }
-    // Opens the copy as a drawing with unsaved changes under its own path, so that SAVE writes to where it came from; it
-    // becomes current. Without a path when it had none, or another document has that path. The copy stays until the
+    // Opens the copy as a drawing with unsaved changes under its own path, so that SAVE writes to where it came from;
+    // it becomes current. Without a path when it had none, or another document has that path. The copy stays until the
     // drawing is saved or closed. The error says why the copy cannot be read; it stays, too.
     [[nodiscard]] Result<Document*, db::FileProblem> recover(Session& session, Autosave& autosave,
                                                              const LeftCopy& copy) const;

@@ -81,7 +81,8 @@ inline constexpr Text kRecoverButton{L"恢复(&R)", L"&Recover"};
 inline constexpr Text kRecoverDiscard{L"全部放弃(&D)…", L"&Discard All…"};
 inline constexpr Text kRecoverLater{L"以后再说(&L)", L"&Later"};
 inline constexpr Text kRecoverDiscardQuestion{L"是否删除全部 %d 个副本?", L"Delete all copies (%d)?"};
-inline constexpr Text kRecoverDiscardConsequence{L"其中未保存的更改将永久丢失。", L"The unsaved changes in them are lost for good."};
+inline constexpr Text kRecoverDiscardConsequence{L"其中未保存的更改将永久丢失。",
+                                                 L"The unsaved changes in them are lost for good."};
 inline constexpr Text kRecoverDelete{L"删除(&D)", L"&Delete"};
 
 // About the program.

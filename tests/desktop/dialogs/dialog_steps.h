@@ -52,6 +52,9 @@ inline void later(std::vector<Step> steps, int waited = 0) {
     }
     QTimer::singleShot(1, qApp, [steps = std::move(steps), waited]() mutable {
         if (!isReady() && waited < kPatience) {
+            // Where there is no window manager, nobody gives the keyboard back to what was below.
+            if (openDialog() != nullptr && !isWaiting)
+                openDialog()->activateWindow();
             later(std::move(steps), waited + 1);
             return;
         }

@@ -50,9 +50,7 @@ TEST_F(DialogsTest, DiscardingHasALetter) {
     EXPECT_EQ(saveChoice({press(Qt::Key_N, Qt::AltModifier)}), SaveChoice::Discard);
 }
 
-TEST_F(DialogsTest, SavingHasALetter) {
-    EXPECT_EQ(saveChoice({press(Qt::Key_S, Qt::AltModifier)}), SaveChoice::Save);
-}
+TEST_F(DialogsTest, SavingHasALetter) { EXPECT_EQ(saveChoice({press(Qt::Key_S, Qt::AltModifier)}), SaveChoice::Save); }
 
 TEST_F(DialogsTest, TheQuestionNamesTheDrawing) {
     QString text;

@@ -22,8 +22,8 @@
 namespace quor::desktop::test {
 namespace {
 
-using testing::HasSubstr;
 using quor::test::TestSession;
+using testing::HasSubstr;
 
 FileQuestion webQuestion() {
     FileQuestion question;
@@ -73,9 +73,7 @@ TEST_F(FileDialogTest, TheEndingMayBeLeftOut) {
     EXPECT_EQ(chosen(webQuestion(), {type("street"), press(Qt::Key_Return)}), path("street.ies"));
 }
 
-TEST_F(FileDialogTest, EscChoosesNothing) {
-    EXPECT_EQ(chosen(webQuestion(), {press(Qt::Key_Escape)}), "");
-}
+TEST_F(FileDialogTest, EscChoosesNothing) { EXPECT_EQ(chosen(webQuestion(), {press(Qt::Key_Escape)}), ""); }
 
 TEST_F(FileDialogTest, ANameWithoutAFileIsComplainedAboutAndTheDialogStays) {
     QString complaint;
@@ -86,22 +84,22 @@ TEST_F(FileDialogTest, ANameWithoutAFileIsComplainedAboutAndTheDialogStays) {
 }
 
 TEST_F(FileDialogTest, TheListIsWalkedByArrowKeys) {
-    const QString file =
-        chosen(webQuestion(), {untilListed("street.ies"),
-                               [] { dialog().findChild<QAbstractItemView*>("treeView")->setFocus(); },
-                               press(Qt::Key_Home), press(Qt::Key_Down), press(Qt::Key_Up), press(Qt::Key_Down),
-                               press(Qt::Key_Return)});
+    const QString file = chosen(webQuestion(), {untilListed("street.ies"),
+                                                [] { dialog().findChild<QAbstractItemView*>("treeView")->setFocus(); },
+                                                press(Qt::Key_Home), press(Qt::Key_Down), press(Qt::Key_Up),
+                                                press(Qt::Key_Down), press(Qt::Key_Return)});
     EXPECT_EQ(file, path("UPPER.IES"));
 }
 
 TEST_F(FileDialogTest, TheListHoldsWhatTheFilterNamesInEitherCase) {
     QStringList names;
-    (void)chosen(webQuestion(), {untilListed("street.ies"), [&] {
-                               auto* const view = dialog().findChild<QAbstractItemView*>("treeView");
-                               for (int row = 0; row < view->model()->rowCount(view->rootIndex()); ++row)
-                                   names << view->model()->index(row, 0, view->rootIndex()).data().toString();
-                           },
-                           [] { dialog().reject(); }});
+    (void)chosen(webQuestion(), {untilListed("street.ies"),
+                                 [&] {
+                                     auto* const view = dialog().findChild<QAbstractItemView*>("treeView");
+                                     for (int row = 0; row < view->model()->rowCount(view->rootIndex()); ++row)
+                                         names << view->model()->index(row, 0, view->rootIndex()).data().toString();
+                                 },
+                                 [] { dialog().reject(); }});
     EXPECT_EQ(names.join(" "), "street.ies UPPER.IES");
 }
 

@@ -99,15 +99,15 @@ TEST(TaskDialogTest, TheBoxIsReachedAndTickedByKeyboard) {
 }
 
 TEST(TaskDialogTest, CancelIsReachedByKeyboard) {
-    const TaskDialogAnswer answer = answered(
-        lightingMode(), {press(Qt::Key_Tab), press(Qt::Key_Tab), press(Qt::Key_Tab), press(Qt::Key_Return)});
+    const TaskDialogAnswer answer =
+        answered(lightingMode(), {press(Qt::Key_Tab), press(Qt::Key_Tab), press(Qt::Key_Tab), press(Qt::Key_Return)});
     EXPECT_FALSE(answer.command.has_value());
     EXPECT_FALSE(answer.inputEnded);
 }
 
 TEST(TaskDialogTest, EscCancelsWithoutATick) {
-    const TaskDialogAnswer answer = answered(
-        lightingMode(), {press(Qt::Key_Tab), press(Qt::Key_Tab), press(Qt::Key_Space), press(Qt::Key_Escape)});
+    const TaskDialogAnswer answer =
+        answered(lightingMode(), {press(Qt::Key_Tab), press(Qt::Key_Tab), press(Qt::Key_Space), press(Qt::Key_Escape)});
     EXPECT_FALSE(answer.command.has_value());
     EXPECT_FALSE(answer.checked);
     EXPECT_FALSE(answer.inputEnded);
@@ -130,11 +130,11 @@ TEST(TaskDialogTest, WhatCannotBeCancelledHasNoCancelButton) {
 }
 
 TEST(TaskDialogTest, AClickOnTheExplanationTakesTheLink) {
-    const TaskDialogAnswer answer = answered(lightingMode(), {[] {
-                                                 CommandLink* const link = linksOf(*openDialog())[1];
-                                                 QTest::mouseClick(link, Qt::LeftButton, {},
-                                                                   QPoint(link->width() / 2, link->height() - 8));
-                                             }});
+    const TaskDialogAnswer answer =
+        answered(lightingMode(), {[] {
+                     CommandLink* const link = linksOf(*openDialog())[1];
+                     QTest::mouseClick(link, Qt::LeftButton, {}, QPoint(link->width() / 2, link->height() - 8));
+                 }});
     EXPECT_EQ(answer.command, kSecond);
 }
 

@@ -4,6 +4,7 @@
 #include "host/autosave/recovery.h"
 #include "host/sys/path_text.h"
 #include "host/sys/system_variables.h"
+#include "host/sys/utf8.h"
 #include "host/sys/whole_file.h"
 #include "tests/support/test_session.h"
 
@@ -174,6 +175,33 @@ TEST_F(AutosaveTest, GoingOnAfterThatRemovesThemAtTheEndAsEver) {
         other.tick();
     }
     EXPECT_THAT(copies(), IsEmpty());
+}
+
+TEST_F(AutosaveTest, AtSuchAnEndTheRunningCommandIsCopiedAsFarAsItCame) {
+    std::string asFarAsItCame;
+    test_.addCommand(L"WORK", [&] {
+        drawLine();
+        asFarAsItCame = savedBytes();
+        autosave_.writeAllNow();
+        return 5100;
+    });
+    test_.run({L"WORK"});
+    ASSERT_THAT(copies(), SizeIs(1));
+    EXPECT_EQ(bytes(copies()[0]), asFarAsItCame);
+}
+
+TEST_F(AutosaveTest, WhileABlockIsEditedInPlaceTheCopyFromBeforeStays) {
+    test_.run({L"OPEN", fromUtf8(QUOR_TEST_DATA "/dxf/own/luminaires.dxf")});
+    drawLine();
+    autosave_.tick();
+    const std::string before = savedBytes();
+    test_.run({L"REFEDIT", L"#60", L""});
+    drawLine();
+    now_ += 100;
+    autosave_.tick();
+    autosave_.writeAllNow();
+    ASSERT_THAT(copies(), SizeIs(1));
+    EXPECT_EQ(bytes(copies()[0]), before);
 }
 
 TEST_F(AutosaveTest, FoldersAreForTheUserAlone) {

@@ -75,9 +75,7 @@ TEST_F(RecoveryTest, ItIsKnownWhereACopyBelongs) {
     EXPECT_GT(recovery.copies()[0].info.time, 0);
 }
 
-TEST_F(RecoveryTest, NothingIsFoundWhereNoProgramWasKilled) {
-    EXPECT_THAT(Recovery(folder()).copies(), IsEmpty());
-}
+TEST_F(RecoveryTest, NothingIsFoundWhereNoProgramWasKilled) { EXPECT_THAT(Recovery(folder()).copies(), IsEmpty()); }
 
 TEST_F(RecoveryTest, TheCopiesOfARunningProgramAreItsOwn) {
     TestSession test;

@@ -63,8 +63,9 @@ TEST(PolarDiagram, TakesTheOutermostRingAsItsUnit) {
 }
 
 TEST(PolarDiagram, HasThePlane0AtTheRightAndThePlane180AtTheLeft) {
-    const auto web = made(Photometry::C, {0, 90}, {0, 90, 180, 270, 360},
-                          [](double h, double v) { return v < 90 ? 0.0 : h == 180 ? 40.0 : h == 90 ? 70.0 : 100.0; });
+    const auto web = made(Photometry::C, {0, 90}, {0, 90, 180, 270, 360}, [](double h, double v) {
+        return v < 90 ? 0.0 : h == 180 ? 40.0 : h == 90 ? 70.0 : 100.0;
+    });
 
     const PolarDiagram diagram = polarDiagram(web);
 
