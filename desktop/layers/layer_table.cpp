@@ -1,5 +1,6 @@
 #include "desktop/layers/layer_table.h"
 
+#include "desktop/layers/state_delegate.h"
 #include "desktop/properties/swatch.h"
 #include "desktop/qt_text.h"
 #include "host/props/value_text.h"
@@ -46,7 +47,11 @@ LayerTable::LayerTable(QWidget* parent) : QTableWidget(parent) {
     setTabKeyNavigation(false);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowMargin);
+    for (const int column : {On, Frozen, Locked})
+        setItemDelegateForColumn(column, new StateDelegate(this));
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeaderItem(Name)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeaderItem(Color)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(Name, QHeaderView::Stretch);
 }

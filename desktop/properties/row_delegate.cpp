@@ -19,6 +19,10 @@ QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInde
     return size;
 }
 
+void RowDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex&) const {
+    editor->setGeometry(option.rect);
+}
+
 void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     if (index.data(IsHeading).toBool()) {

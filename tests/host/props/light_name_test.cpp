@@ -81,5 +81,19 @@ TEST_F(LightNames, AreToldToThoseWhoListen) {
     host.document().database()->removeReactor(&listener);
 }
 
+TEST_F(LightNames, ThatChangeAreSeenInTheListOfLights) {
+    ASSERT_TRUE(host.loadLight(QUOR_BUILD_DIR));
+    host.run({L"LIGHTLIST"});
+    ASSERT_TRUE(host.front().shows(L"Lamp"));
+    select({lamp});
+    EXPECT_EQ(rename(L"Desk"), std::nullopt);
+    host.front().clearScreen();
+
+    host.run({L"LIGHTLIST"});
+
+    EXPECT_TRUE(host.front().shows(L"Desk"));
+    EXPECT_FALSE(host.front().shows(L"Lamp"));
+}
+
 } // namespace
 } // namespace quor::props
