@@ -56,16 +56,15 @@ void CandidateList::offer(std::vector<Row> rows, const QRect& beside) {
 }
 
 void CandidateList::place(const QRect& beside) {
-    resizeColumnToContents(0);
-    resizeColumnToContents(1);
     const bool hasDetails =
         std::any_of(rows_.begin(), rows_.end(), [](const Row& row) { return !row.detail.isEmpty(); });
     setColumnHidden(1, !hasDetails);
-    setColumnWidth(0, columnWidth(0) + kGap);
+    const int textWidth = sizeHintForColumn(0) + kGap;
+    setColumnWidth(0, textWidth);
     const int seen = std::min(static_cast<int>(rows_.size()), kMostRowsSeen);
     const bool scrolls = seen < static_cast<int>(rows_.size());
     const int bar = scrolls ? verticalScrollBar()->sizeHint().width() : 0;
-    const int wanted = columnWidth(0) + (hasDetails ? columnWidth(1) : 0) + bar + 2 * frameWidth();
+    const int wanted = textWidth + (hasDetails ? sizeHintForColumn(1) + kGap : 0) + bar + 2 * frameWidth();
     const int width = std::max(wanted, kLeastWidth);
     const int height = seen * std::max(sizeHintForRow(0), 1) + 2 * frameWidth();
     const QScreen* const shown = screen();

@@ -44,6 +44,11 @@ constexpr const wchar_t* kSection = L"Desktop";
 constexpr const wchar_t* kZoomKey = L"CommandLineZoom";
 constexpr const wchar_t* kThemeVariable = L"COLORTHEME";
 
+// Chinese characters twice as wide as the others, so that tables stand in columns; the first one that is there.
+QStringList wideFamilies() {
+    return {"Noto Sans Mono CJK SC", "Sarasa Mono SC", "WenQuanYi Zen Hei Mono", "Noto Sans CJK SC"};
+}
+
 } // namespace
 
 CommandLine::CommandLine(Session& session, DesktopFrontEnd& front, QWidget* parent)
@@ -59,7 +64,7 @@ CommandLine::CommandLine(Session& session, DesktopFrontEnd& front, QWidget* pare
     showQuestion();
     listener_ = session.variables().addListener([this](const ZrString& name) {
         if (name == kThemeVariable)
-            applyColors();
+            colorTimer_.start();
     });
 }
 
@@ -119,6 +124,9 @@ void CommandLine::connectFront() {
         if (front_.question() == nullptr && !working_.isEmpty())
             showThatItWorks();
     });
+    colorTimer_.setSingleShot(true);
+    colorTimer_.setInterval(0);
+    connect(&colorTimer_, &QTimer::timeout, this, &CommandLine::applyColors);
     workTimer_.setSingleShot(true);
     workTimer_.setInterval(kWorkMilliseconds);
     connect(&workTimer_, &QTimer::timeout, this, &CommandLine::showThatItWorks);
@@ -307,6 +315,7 @@ void CommandLine::zoom(int steps) {
 void CommandLine::applyFont() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setStyleHint(QFont::Monospace);
+    font.setFamilies(QStringList(font.family()) + wideFamilies());
     font.setPointSizeF(QApplication::font().pointSizeF() + fontSteps_);
     for (QWidget* const widget : {static_cast<QWidget*>(history_), static_cast<QWidget*>(prompt_),
                                   static_cast<QWidget*>(input_), static_cast<QWidget*>(&textWindow_->view())})
@@ -369,6 +378,12 @@ void CommandLine::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     completer_->dismiss();
     arrange();
+}
+
+void CommandLine::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::PaletteChange)
+        colorTimer_.start();
 }
 
 // The line between history and prompt.

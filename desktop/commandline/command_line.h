@@ -67,6 +67,7 @@ protected:
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void buildParts();
@@ -103,6 +104,7 @@ private:
     ed::Recall recall_;
     ed::RecentCommands recent_;
     std::deque<QString> ahead_; // lines that were pasted or typed before their questions
+    QTimer colorTimer_;         // a change of style gives widgets the palettes that they had, afterwards
     QTimer workTimer_;          // until it is worth saying that a command works
     QString working_;
     int listener_ = 0;

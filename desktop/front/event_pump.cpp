@@ -9,6 +9,10 @@ namespace quor::desktop {
 
 namespace {
 
+// The host works this much longer than a breath took, up to a pause after which Esc would seem not to be heard.
+constexpr qint64 kWorkPerBreath = 4;
+constexpr qint64 kLongestPause = 500;
+
 enum class Fate { Passes, Waits, IsDropped };
 
 Fate fateOf(QEvent::Type type) {
@@ -43,14 +47,15 @@ bool isEscape(const std::unique_ptr<QKeyEvent>& key) { return key->key() == Qt::
 } // namespace
 
 void EventPump::breathe() {
-    if (isPumping_ || clock_.elapsed() < kMilliseconds)
+    if (isPumping_ || clock_.elapsed() < pause_)
         return;
     isPumping_ = true;
+    clock_.restart();
     QApplication::instance()->installEventFilter(this);
     QApplication::processEvents(QEventLoop::AllEvents);
     QApplication::instance()->removeEventFilter(this);
     isPumping_ = false;
-    clock_.restart();
+    pause_ = std::clamp<qint64>(clock_.restart() * kWorkPerBreath, kMilliseconds, kLongestPause);
 }
 
 // A shortcut would not wait: it is taken for a key.

@@ -17,7 +17,8 @@ public:
 
     EventPump() { clock_.start(); }
 
-    // Handles what waits, unless it has done so less than kMilliseconds ago.
+    // Handles what waits, unless it has done so less than kMilliseconds ago; after a long breath the pause is longer,
+    // so that painting takes a small share of the time.
     void breathe();
     // Whether Esc was pressed while the host worked; that and what was typed before it are forgotten.
     [[nodiscard]] bool takeEscape();
@@ -31,6 +32,7 @@ private:
     void keep(const QKeyEvent& event);
 
     QElapsedTimer clock_;
+    qint64 pause_ = kMilliseconds;
     bool isPumping_ = false;
     std::vector<std::unique_ptr<QKeyEvent>> keys_;
 };
