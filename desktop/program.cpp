@@ -55,6 +55,7 @@ void Program::run() {
     front_->setAlive(true);
     loadModules();
     openDrawings();
+    window_->restorePalettes();
     startScripts();
     signals_ = std::make_unique<Signals>([this] { front_->quit(); });
     while (!session_->processor().quitRequested()) {

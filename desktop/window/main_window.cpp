@@ -37,6 +37,7 @@ namespace words = texts::window;
 constexpr const wchar_t* kLayoutSection = L"Desktop";
 constexpr const wchar_t* kGeometryKey = L"Geometry";
 constexpr const wchar_t* kStateKey = L"Layout";
+constexpr const wchar_t* kPalettesKey = L"Palettes";
 // Raised when docks or tool bars are added, so that an older layout is not half applied.
 constexpr int kLayoutVersion = 1;
 
@@ -339,6 +340,12 @@ void MainWindow::saveLayout() {
     };
     keep(kGeometryKey, saveGeometry());
     keep(kStateKey, saveState(kLayoutVersion));
+    (void)session_.settings().set(kLayoutSection, kPalettesKey, fromQt(palettes_->shownPalettes().join(' ')));
+}
+
+void MainWindow::restorePalettes() {
+    if (const auto shown = session_.settings().get(kLayoutSection, kPalettesKey))
+        palettes_->showPalettes(toQt(*shown).split(' ', Qt::SkipEmptyParts));
 }
 
 // The window goes when QUIT has asked about every drawing.
@@ -351,8 +358,13 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     front_.quit();
 }
 
-// What no widget wanted is meant for the command line.
-void MainWindow::keyPressEvent(QKeyEvent* event) { commandLine_->takeKey(event); }
+// What no widget wanted is meant for the command line; what that does not want comes back here.
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    if (std::exchange(isForwardingKey_, true))
+        return;
+    commandLine_->takeKey(event);
+    isForwardingKey_ = false;
+}
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
     if (event->mimeData()->hasUrls())

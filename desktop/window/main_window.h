@@ -43,6 +43,8 @@ public:
     // Where docks and tool bars stand, as the person left them.
     void restoreLayout();
     void saveLayout();
+    // The palettes of modules that were shown then; once modules are loaded and drawings open.
+    void restorePalettes();
     // The session is about to go: nothing of it is shown any more.
     void leaveSession();
 
@@ -99,6 +101,7 @@ private:
     QTimer refresh_;
     int variableListener_ = 0;
     bool inSession_ = true;
+    bool isForwardingKey_ = false;
 };
 
 } // namespace quor::desktop

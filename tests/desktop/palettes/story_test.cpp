@@ -9,7 +9,7 @@
 #include "tests/desktop/support/person.h"
 
 #include <QApplication>
-#include <QMenu>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -137,6 +137,27 @@ TEST(LightsInTheProgram, AreDockedBesideTheDrawing) {
         lights.click(1);
         person.takesPicture("program_with_docked_palette");
         EXPECT_FALSE(person.sees([&] { return lights.dock().isFloating(); }));
+    });
+}
+
+TEST(LightsInTheProgram, AreShownAgainInTheNextSessionWhereTheyWere) {
+    const QTemporaryDir home;
+    ProgramOptions options = usualOptions();
+    options.session.settingsFile = (home.path() + "/settings.ini").toStdString();
+    withProgram(options, [](Person& person) {
+        Lights lights(person);
+        person.does([&] {
+            person.program().window().addDockWidget(Qt::RightDockWidgetArea, &lights.dock());
+            lights.dock().setFloating(false);
+        });
+    });
+    withProgram(options, [](Person& person) {
+        MainWindow& window = person.program().window();
+        PaletteDock* const dock = person.sees([&] { return window.findChild<PaletteDock*>(); });
+        ASSERT_NE(dock, nullptr);
+        EXPECT_TRUE(person.sees([&] { return dock->isVisible(); }));
+        EXPECT_FALSE(person.sees([&] { return dock->isFloating(); }));
+        EXPECT_EQ(person.sees([&] { return window.dockWidgetArea(dock); }), Qt::RightDockWidgetArea);
     });
 }
 
