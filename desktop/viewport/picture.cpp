@@ -2,6 +2,8 @@
 
 #include "desktop/viewport/viewport_colors.h"
 
+#include <QElapsedTimer>
+
 namespace quor::desktop {
 
 const QImage& Picture::of(const Subject& subject, const gs::SceneData& scene) {
@@ -29,7 +31,11 @@ void Picture::render(const Subject& subject, const gs::SceneData& scene) {
     options.pixelRatio = subject.pixelRatio;
     const PixelBuffer pixels{reinterpret_cast<std::uint32_t*>(image_.bits()), image_.width(), image_.height(),
                              static_cast<int>(image_.bytesPerLine() / 4)};
+    QElapsedTimer clock;
+    clock.start();
     renderer_.render(scene, subject.camera, options, pixels);
+    if (!subject.isMoving)
+        fineTime_ = clock.elapsed();
     image_.setDevicePixelRatio(subject.pixelRatio);
     ++renderCount_;
 }

@@ -71,9 +71,8 @@ Viewport::Viewport(Session& session, DesktopFrontEnd& front, QWidget* parent)
 Viewport::~Viewport() = default;
 
 void Viewport::setDocument(Document* document) {
-    if (view_ != nullptr)
-        view_->scene().setHovered({});
     hovered_ = {};
+    hover_ = {};
     rectangle_.reset();
     aim_.reset();
     view_ = nullptr;
@@ -115,6 +114,7 @@ void Viewport::settle() {
         return;
     }
     isMoving_ = false;
+    isFineDue_ = true;
     update();
 }
 
@@ -124,6 +124,7 @@ void Viewport::navigate(const gs::Camera& camera) {
     if (!isMoving_)
         view_->look().history.keep(view_->look().camera);
     isMoving_ = true;
+    isFineDue_ = false;
     settled_.start();
     changeCamera(camera);
 }

@@ -4,6 +4,7 @@
 
 #include "desktop/viewport/aiming.h"
 #include "desktop/viewport/document_view.h"
+#include "desktop/viewport/hover_sketch.h"
 #include "desktop/viewport/overlay.h"
 #include "desktop/viewport/picked.h"
 #include "desktop/viewport/picture.h"
@@ -131,6 +132,7 @@ private:
 
     // Painting (viewport_paint.cpp).
     [[nodiscard]] Picture::Subject subject() const;
+    [[nodiscard]] const QImage& picture();
     void paintPointing(QPainter& painter, const ViewportColors& colors);
     void paintWay(QPainter& painter, const gs::Projector& projector, const ViewportColors& colors);
     [[nodiscard]] QStringList readOut() const;
@@ -144,6 +146,7 @@ private:
     Picture picture_;
 
     bool isMoving_ = false;
+    bool isFineDue_ = false; // what moved stands still now
     QTimer settled_;
     Held held_ = Held::Nothing;
     bool hasHeldMoved_ = false;
@@ -156,6 +159,8 @@ private:
     std::optional<PickRectangle> rectangle_;
     bool isRectanglePressed_ = false; // it ends when the button is let go
     ZrDbObjectId hovered_;
+    HoverSketch hover_;
+    std::size_t hoverVersion_ = 0; // of the drawing, for which it was made
     bool isHoverDue_ = false;
     ZrDbObjectIdArray given_; // to the questions for objects of the running command
 };

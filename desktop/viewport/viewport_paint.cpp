@@ -2,7 +2,7 @@
 
 #include "desktop/front/desktop_front_end.h"
 #include "desktop/qt_text.h"
-#include "desktop/viewport/light_sketch.h"
+#include "desktop/viewport/sketches.h"
 #include "desktop/viewport/ucs_icon.h"
 #include "desktop/viewport/viewport.h"
 #include "host/session.h"
@@ -63,10 +63,22 @@ Picture::Subject Viewport::subject() const {
     subject.lighting =
         session_.variables().number(L"DEFAULTLIGHTING", 1) == 0 ? Lighting::OfDrawing : Lighting::Default;
     subject.isDark = ui::Theme().isDark();
-    subject.isMoving = isMoving_;
     subject.pixelRatio = devicePixelRatioF();
     subject.size = (QSizeF(QWidget::size()) * subject.pixelRatio).toSize();
+    subject.isMoving = isMoving_;
     return subject;
+}
+
+// A drawing that takes long is shown fast at first, whatever has changed, and fine a little later.
+const QImage& Viewport::picture() {
+    Picture::Subject wanted = subject();
+    if (picture_.takesLong() && !isFineDue_ && !isMoving_ && !picture_.has(wanted)) {
+        wanted.isMoving = true;
+        if (!settled_.isActive())
+            settled_.start();
+    }
+    isFineDue_ = false;
+    return picture_.of(wanted, view_->scene().data());
 }
 
 void Viewport::paintEvent(QPaintEvent*) {
@@ -78,8 +90,9 @@ void Viewport::paintEvent(QPaintEvent*) {
     }
     view_->update();
     showHovered();
-    painter.drawImage(QPointF(0, 0), picture_.of(subject(), view_->scene().data()));
+    painter.drawImage(QPointF(0, 0), picture());
     paintLightLines(painter, projector(), view_->selectedLightLines(), colors);
+    paintHovered(painter, projector(), hover_, colors);
     paintUcsIcon(painter, ucsIcon(projector(), view_->document().database()->ucsToWorld()), colors);
     paintPointing(painter, colors);
 }

@@ -154,15 +154,14 @@ void Viewport::questionOpened() {
 
 // At most once for each picture.
 void Viewport::showHovered() {
-    if (!std::exchange(isHoverDue_, false))
-        return;
-    const bool looks = cursor_ && asksForObjects() && !rectangle_ && held_ == Held::Nothing && !isMoving_;
-    const ZrDbObjectId hovered = looks ? objectAt(*cursor_) : ZrDbObjectId();
-    if (hovered == hovered_)
-        return;
-    hovered_ = hovered;
-    view_->scene().setHovered(hovered);
-    view_->update();
+    bool isAnother = std::exchange(hoverVersion_, view_->version()) != view_->version();
+    if (std::exchange(isHoverDue_, false)) {
+        const bool looks = cursor_ && asksForObjects() && !rectangle_ && held_ == Held::Nothing && !isMoving_;
+        const ZrDbObjectId hovered = looks ? objectAt(*cursor_) : ZrDbObjectId();
+        isAnother = std::exchange(hovered_, hovered) != hovered || isAnother;
+    }
+    if (isAnother)
+        hover_ = hoverSketch(view_->scene().data(), hovered_);
 }
 
 } // namespace quor::desktop

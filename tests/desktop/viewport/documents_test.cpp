@@ -90,6 +90,15 @@ TEST(RenderingTest, MovingTheCursorOverNothingRendersNothing) {
     });
 }
 
+TEST(RenderingTest, MovingTheCursorOverAnObjectRendersNothingEither) {
+    withScreen([](Screen& screen) {
+        screen.types({L"LINE", L"-20,0", L"20,0", L""});
+        const std::size_t before = rendered(screen);
+        screen.moves(screen.at({10, 0, 0}));
+        EXPECT_EQ(rendered(screen), before);
+    });
+}
+
 TEST(RenderingTest, WhatIsDrawnIsSeen) {
     withScreen([](Screen& screen) {
         const std::size_t before = rendered(screen);

@@ -1,4 +1,4 @@
-#include "desktop/viewport/light_sketch.h"
+#include "desktop/viewport/sketches.h"
 
 #include "desktop/render/glyph_shapes.h"
 #include "host/gs/scene.h"
@@ -16,6 +16,7 @@ namespace {
 // Of 255.
 constexpr int kFaint = 90;
 constexpr int kLineStrength = 170;
+constexpr double kHoverWidth = 2;
 // Beyond this a line is not drawn: its end is behind the eye, nearly.
 constexpr double kFarthestPixel = 1e6;
 
@@ -85,10 +86,26 @@ void paintShape(QPainter& painter, const GlyphShape& shape, QPointF at, const QC
     painter.drawPolygon(outline);
 }
 
+struct Glyph {
+    gs::GlyphKind kind;
+    ZrGePoint3d position;
+    ZrGeVector3d direction;
+};
+
+void paintGlyph(QPainter& painter, const gs::Projector& projector, const Glyph& glyph, const QColor& color) {
+    const std::optional<QPointF> at = onScreen(projector, glyph.position);
+    if (!at)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    const ShapePoint direction = directionOnScreen(projector.camera(), glyph.direction);
+    for (const GlyphShape& shape : glyphShapes(glyph.kind, direction))
+        paintShape(painter, shape, *at, color);
+}
+
 } // namespace
 
-void paintLightLines(QPainter& painter, const gs::Projector& projector, std::span<const ZrGePoint3d> lines,
-                     const ViewportColors& colors) {
+void paintLines(QPainter& painter, const gs::Projector& projector, std::span<const ZrGePoint3d> lines,
+                const QPen& pen) {
     QList<QLineF> seen;
     for (std::size_t i = 0; i + 1 < lines.size(); i += 2) {
         const std::optional<QPointF> a = onScreen(projector, lines[i]);
@@ -97,19 +114,28 @@ void paintLightLines(QPainter& painter, const gs::Projector& projector, std::spa
             seen << QLineF(*a, *b);
     }
     painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setPen(QPen(faint(colors.light, kLineStrength), 1));
+    painter.setPen(pen);
     painter.drawLines(seen);
+}
+
+void paintLightLines(QPainter& painter, const gs::Projector& projector, std::span<const ZrGePoint3d> lines,
+                     const ViewportColors& colors) {
+    paintLines(painter, projector, lines, QPen(faint(colors.light, kLineStrength), 1));
+}
+
+void paintHovered(QPainter& painter, const gs::Projector& projector, const HoverSketch& sketch,
+                  const ViewportColors& colors) {
+    const QColor color = QColor::fromRgb(colors.picture.hovered);
+    paintLines(painter, projector, sketch.lines, QPen(color, kHoverWidth));
+    if (sketch.light)
+        paintGlyph(painter, projector, {sketch.light->kind, sketch.light->position, sketch.light->direction}, color);
 }
 
 void paintDraggedLight(QPainter& painter, const gs::Projector& projector, const ZrDbLight& light,
                        const ViewportColors& colors) {
     paintLightLines(painter, projector, gs::Scene::lightLines(light), colors);
-    const std::optional<QPointF> at = onScreen(projector, light.position());
-    if (!at)
-        return;
-    const ShapePoint direction = directionOnScreen(projector.camera(), light.lightDirection());
-    for (const GlyphShape& shape : glyphShapes(glyphOf(light.lightType()), direction))
-        paintShape(painter, shape, *at, colors.light);
+    paintGlyph(painter, projector, {glyphOf(light.lightType()), light.position(), light.lightDirection()},
+               colors.light);
 }
 
 } // namespace quor::desktop
