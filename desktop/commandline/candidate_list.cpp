@@ -103,6 +103,7 @@ void CandidateList::applyColors(const LineColors& colors) {
     palette.setColor(QPalette::Highlight, colors.selection);
     palette.setColor(QPalette::HighlightedText, colors.selectedText);
     setPalette(palette);
+    viewport()->setPalette(palette); // which is what is painted; a change of style leaves it behind
 }
 
 } // namespace quor::desktop

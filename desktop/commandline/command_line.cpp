@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QMenu>
@@ -315,7 +316,7 @@ void CommandLine::zoom(int steps) {
 void CommandLine::applyFont() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setStyleHint(QFont::Monospace);
-    font.setFamilies(QStringList(font.family()) + wideFamilies());
+    font.setFamilies(QStringList(QFontInfo(font).family()) + wideFamilies());
     font.setPointSizeF(QApplication::font().pointSizeF() + fontSteps_);
     for (QWidget* const widget : {static_cast<QWidget*>(history_), static_cast<QWidget*>(prompt_),
                                   static_cast<QWidget*>(input_), static_cast<QWidget*>(&textWindow_->view())})

@@ -163,7 +163,7 @@ TEST(LineLooksTest, ColoursFollowTheTheme) {
     atTheLine([](AtTheLine& line) {
         const auto lightness = [&] {
             return line.person().sees(
-                [&] { return line.line().history().palette().color(QPalette::Base).lightness(); });
+                [&] { return line.line().history().viewport()->palette().color(QPalette::Base).lightness(); });
         };
         line.types("COLORTHEME 0");
         EXPECT_LT(lightness(), 80);
