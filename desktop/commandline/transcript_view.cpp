@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kPauseMilliseconds = 30;
 constexpr int kWheelStep = 120;
+constexpr int kMargin = 6; // as far in as the prompt below
 
 QColor colorOf(const LineColors& colors, Transcript::Voice voice) {
     switch (voice) {
@@ -60,6 +61,7 @@ TranscriptView::TranscriptView(const Transcript& transcript, QWidget* parent)
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setTabChangesFocus(true);
     setFrameShape(QFrame::NoFrame);
+    document()->setDocumentMargin(kMargin);
     pause_.setSingleShot(true);
     pause_.setInterval(kPauseMilliseconds);
     connect(&pause_, &QTimer::timeout, this, &TranscriptView::append);
