@@ -63,6 +63,15 @@ inline constexpr VariableNote variableNotes[] = {
     {L"LIGHTINGUNITS",
      {L"0 为常规: 光源命令不可用；1 为光度控制，照度单位为英尺烛光(FC)；2 为光度控制，照度单位为勒克斯(Lx)。",
       L"0 is generic: light commands are not available. 1 is photometric with foot-candles (FC), 2 with lux (Lx)."}},
+    {L"ORTHOMODE",
+     {L"1 为用鼠标指定的点只沿 UCS 的 X 轴或 Y 轴离开基点，0 为任意方向；用于有窗口的程序，F8 切换。",
+      L"1 keeps points shown with the mouse on the X or Y axis of the UCS through the base point, 0 does not; for\n"
+      L"programs with windows. F8 toggles it."}},
+    {L"OSMODE",
+     {L"对象捕捉，各值相加: 1 端点，2 中点，4 圆心，16384 暂时关闭；用于有窗口的程序，F3 开关，以后运行时仍然有效。\n"
+      L"着色显示时还捕捉到面上的点。",
+      L"The object snaps, added up: 1 endpoint, 2 midpoint, 4 center, 16384 switches them off for now; for programs\n"
+      L"with windows. F3 toggles them. Kept for later runs. In shaded pictures points snap to faces as well."}},
     {L"REFEDITNAME",
      {L"REFEDIT 正在编辑的块的名称；没有编辑时为空。",
       L"The name of the block that is being edited with REFEDIT; empty when none is."}},
