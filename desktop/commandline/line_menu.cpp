@@ -16,7 +16,7 @@ namespace quor::desktop {
 namespace words = texts::line;
 
 QMenu* CommandLine::recentCommandsMenu(QWidget* parent) {
-    auto* const menu = new QMenu(toQt(words::kRecentCommands), parent);
+    auto* const menu = new QMenu(toQt(words::kLastCommands), parent);
     connect(menu, &QMenu::aboutToShow, this, [this, menu] { fillRecentCommands(*menu); });
     return menu;
 }
@@ -29,7 +29,7 @@ void CommandLine::fillRecentCommands(QMenu& menu) {
         menu.addAction(toQt(shown), this, [this, name] { front_.run(L"_" + name); });
     }
     if (menu.isEmpty())
-        menu.addAction(toQt(words::kNoRecentCommands))->setEnabled(false);
+        menu.addAction(toQt(words::kNoLastCommands))->setEnabled(false);
 }
 
 void CommandLine::openMenu(const QPoint& screen) {

@@ -24,8 +24,8 @@ inline constexpr Text kScriptStopped{L"\n已停止执行。\n", L"\nStopped.\n"}
 inline constexpr Text kTypeHere{L"输入命令", L"Type a command"};
 
 // The menu of the right button.
-inline constexpr Text kRecentCommands{L"最近使用的命令(&R)", L"&Recent Commands"};
-inline constexpr Text kNoRecentCommands{L"(无)", L"(None)"};
+inline constexpr Text kLastCommands{L"最近使用的命令(&R)", L"&Recent Commands"};
+inline constexpr Text kNoLastCommands{L"(无)", L"(None)"};
 inline constexpr Text kCopy{L"复制(&C)", L"&Copy"};
 inline constexpr Text kCopyHistory{L"复制全部历史(&H)", L"Copy &History"};
 inline constexpr Text kPaste{L"粘贴并执行(&P)", L"&Paste"};
