@@ -96,9 +96,8 @@ bool handOverKey(QWidget& widget, const ui::WindowRef& window, const QKeyEvent& 
 }
 
 void askForMenu(QWidget& widget, const ui::WindowRef& window, CPoint point) {
-    const ui::WindowRef target = window;
     for (const Kind kind : {Kind::RightDown, Kind::RightUp})
-        handOver(widget, {.kind = kind, .window = target.get(), .point = point});
+        handOver(widget, {.kind = kind, .window = window.get(), .point = point});
 }
 
 } // namespace quor::desktop
