@@ -85,6 +85,10 @@ void TaskDialog::addLastRow(QVBoxLayout& column, const CZrUiTaskDialog& dialog) 
     auto* const row = new QHBoxLayout;
     if (!dialog.checkbox().empty()) {
         box_ = new QCheckBox(toQt(dialog.checkbox()), this);
+        // The frame of a box is drawn a shade darker than this, which is too dark in a dark window.
+        QPalette framed = palette();
+        framed.setColor(QPalette::Window, framed.color(QPalette::PlaceholderText));
+        box_->setPalette(framed);
         row->addWidget(box_);
     }
     row->addStretch();
