@@ -10,6 +10,7 @@
 #include "host/ed/input_stack.h"
 #include "host/ed/script_source.h"
 #include "host/rx/module_loader.h"
+#include "host/ui/user_interface.h"
 
 namespace quor::desktop {
 
@@ -19,9 +20,12 @@ Program::Program(ProgramOptions options) : options_(std::move(options)), front_(
     window_ = std::make_unique<MainWindow>(*session_, *front_);
 }
 
-// The windows of modules go with the session, while the widgets that show them are still there.
+// The windows of modules go first, while the widgets that show them are still there; the widgets go while the session
+// that they listen to is there.
 Program::~Program() {
-    window_->leaveSession();
+    session_->modules().unloadAll();
+    session_->ui().destroyPalettes();
+    window_.reset();
     session_.reset();
 }
 

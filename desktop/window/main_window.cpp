@@ -2,8 +2,11 @@
 
 #include "desktop/commandline/command_line.h"
 #include "desktop/dialogs/dialogs.h"
+#include "desktop/dialogs/help_dialogs.h"
 #include "desktop/front/desktop_front_end.h"
+#include "desktop/layers/layers_panel.h"
 #include "desktop/palettes/palette_host.h"
+#include "desktop/properties/properties_panel.h"
 #include "desktop/qt_text.h"
 #include "desktop/viewport/viewport.h"
 #include "desktop/window/actions.h"
@@ -93,15 +96,13 @@ MainWindow::MainWindow(Session& session, DesktopFrontEnd& front)
     refresh();
 }
 
-MainWindow::~MainWindow() { leaveSession(); }
-
-void MainWindow::leaveSession() {
-    if (!std::exchange(inSession_, false))
-        return;
-    refresh_.stop();
+MainWindow::~MainWindow() {
     session_.documents().removeReactor(this);
     session_.variables().removeListener(variableListener_);
-    viewport_->setDocument(nullptr);
+    front_.setDialogs(nullptr);
+    front_.setWindows(nullptr);
+    front_.setPanels(nullptr);
+    front_.setView(nullptr);
 }
 
 QDockWidget* MainWindow::addDock(const char* name, const Text& title, QWidget* content, Qt::DockWidgetArea area) {
@@ -114,9 +115,9 @@ QDockWidget* MainWindow::addDock(const char* name, const Text& title, QWidget* c
 
 void MainWindow::makeDocks() {
     commandDock_ = addDock("dock.commandline", words::kCommandLine, commandLine_, Qt::BottomDockWidgetArea);
-    propertiesDock_ = addDock("dock.properties", words::kProperties, new QWidget(this),
+    propertiesDock_ = addDock("dock.properties", words::kProperties, new PropertiesPanel(session_, this),
                               Qt::RightDockWidgetArea);
-    layersDock_ = addDock("dock.layers", words::kLayers, new QWidget(this), Qt::RightDockWidgetArea);
+    layersDock_ = addDock("dock.layers", words::kLayers, new LayersPanel(session_, this), Qt::RightDockWidgetArea);
     tabifyDockWidget(propertiesDock_, layersDock_);
     propertiesDock_->raise();
     layersDock_->hide();
@@ -181,6 +182,8 @@ void MainWindow::bindActions() {
             zredSetImpliedSelection(ed::entitiesOfCurrentSpace(*document));
     });
     actions_->bind("deselect", [] { zredSetImpliedSelection({}); });
+    actions_->bind("shortcuts", [this] { showShortcuts(*this); });
+    actions_->bind("about", [this] { showAbout(*this); });
     actions_->bind("textwindow", [this] { commandLine_->showTextWindow(!commandLine_->isTextWindowShown()); });
     actions_->showState("textwindow", [this] { return commandLine_->isTextWindowShown(); });
     connect(&actions_->menu(MenuPlace::File), &QMenu::aboutToShow, this, &MainWindow::refreshRecentFiles);
@@ -268,8 +271,6 @@ void MainWindow::commandEnded(const ZrString&) { refreshSoon(); }
 void MainWindow::commandCancelled(const ZrString&) { refreshSoon(); }
 
 void MainWindow::refresh() {
-    if (!inSession_)
-        return;
     const Document* const document = session_.documents().current();
     if (document != nullptr && !document->path().empty())
         recent_.add(document->path());
@@ -350,7 +351,7 @@ void MainWindow::restorePalettes() {
 
 // The window goes when QUIT has asked about every drawing.
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!inSession_ || session_.processor().quitRequested()) {
+    if (session_.processor().quitRequested()) {
         event->accept();
         return;
     }

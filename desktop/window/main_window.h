@@ -45,8 +45,6 @@ public:
     void saveLayout();
     // The palettes of modules that were shown then; once modules are loaded and drawings open.
     void restorePalettes();
-    // The session is about to go: nothing of it is shown any more.
-    void leaveSession();
 
     void showProperties() override;
     void showLayers() override;
@@ -100,7 +98,6 @@ private:
     QDockWidget* layersDock_ = nullptr;
     QTimer refresh_;
     int variableListener_ = 0;
-    bool inSession_ = true;
     bool isForwardingKey_ = false;
 };
 
