@@ -1,10 +1,10 @@
 #include "host/commands/commands.h"
-#include "host/commands/layer_name.h"
 #include "host/commands/view.h"
 #include "host/db/view_records.h"
 #include "host/document.h"
 #include "host/gs/standard_views.h"
 #include "host/gs/view_record.h"
+#include "host/props/layer_name.h"
 #include "host/sys/case_fold.h"
 #include "host/texts/view.h"
 

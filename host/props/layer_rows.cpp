@@ -1,7 +1,7 @@
 #include "host/props/layer_rows.h"
 
-#include "host/commands/layer_name.h"
 #include "host/db/database.h"
+#include "host/props/layer_name.h"
 #include "host/texts/commands.h"
 #include "host/texts/properties.h"
 #include "sdk/db/symbol_table.h"
@@ -85,8 +85,8 @@ Refusal makeLayerCurrent(db::Database& drawing, ZrDbObjectId id) {
 }
 
 Refusal addLayer(db::Database& drawing, const ZrString& name) {
-    if (!commands::isLayerName(name))
-        return inOneLine(fill(texts::kBadLayerName, visibleText(name), ZrString(commands::kNotInLayerNames)));
+    if (!isLayerName(name))
+        return inOneLine(fill(texts::kBadLayerName, visibleText(name), ZrString(kNotInLayerNames)));
     if (!findLayer(drawing, name).isNull())
         return fill(texts::kLayerNameIsTaken, name);
     drawing.makeLayer(name);

@@ -1,6 +1,5 @@
 #include "host/props/sheet.h"
 
-#include "host/commands/ucs_math.h"
 #include "host/document.h"
 #include "host/props/change.h"
 #include "host/props/drawing_settings.h"
@@ -8,6 +7,7 @@
 #include "host/props/layer_rows.h"
 #include "host/props/value_input.h"
 #include "host/session.h"
+#include "host/sys/system_variables.h"
 #include "host/sys/trim.h"
 #include "host/texts/properties.h"
 #include "sdk/sys/format.h"
@@ -71,8 +71,8 @@ std::size_t Sheet::showing() {
 }
 
 bool Sheet::isWorld() {
-    const Document* const document = session_.documents().current();
-    return document == nullptr || commands::sameUcs(document->drawing().ucs(), db::Ucs());
+    constexpr short kWorld = 1;
+    return session_.variables().number(L"WORLDUCS", kWorld) == kWorld;
 }
 
 bool Sheet::isEditable() { return canChange(session_); }

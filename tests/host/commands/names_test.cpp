@@ -1,4 +1,4 @@
-#include "host/commands/layer_name.h"
+#include "host/props/layer_name.h"
 #include "host/commands/upper_case.h"
 #include "host/commands/wildcard.h"
 #include "tests/support/test_session.h"

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace quor::commands {
+namespace quor {
 
 inline constexpr std::size_t kMaxLayerName = 255;
 inline constexpr std::wstring_view kNotInLayerNames = L"<>/\\\":;?*|=,`";
@@ -17,4 +17,4 @@ inline constexpr std::wstring_view kNotInLayerNames = L"<>/\\\":;?*|=,`";
            !hasControl;
 }
 
-} // namespace quor::commands
+} // namespace quor
