@@ -27,6 +27,9 @@ PaletteDock::PaletteDock(CZkUiPaletteSet& palette, QWidget* parent)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { tellOfKeyboard(now); });
 }
 
+// Widgets inside lose the keyboard when they are destroyed, after this object.
+PaletteDock::~PaletteDock() { disconnect(qApp, nullptr, this, nullptr); }
+
 void PaletteDock::windowChanged(CWnd& window, ui::WindowPeer::Change change) {
     using Change = ui::WindowPeer::Change;
     switch (change) {

@@ -18,6 +18,7 @@ class PaletteDock final : public QDockWidget, public WindowView {
 
 public:
     PaletteDock(CZkUiPaletteSet& palette, QWidget* parent);
+    ~PaletteDock() override;
 
     // Null once it is gone.
     [[nodiscard]] CZkUiPaletteSet* shownPalette() const { return dynamic_cast<CZkUiPaletteSet*>(window_.get()); }
