@@ -103,8 +103,6 @@ void paintSnap(QPainter& painter, gs::Snap::Kind kind, QPointF at, const QRectF&
     paintBox(painter, at + QPointF(kSnapNameShift, -kSnapNameShift - 22), area, {toQt(look.name)}, colors);
 }
 
-QString snapName(gs::Snap::Kind kind) { return toQt(lookOf(kind).name); }
-
 void paintLabel(QPainter& painter, QPointF cursor, const QRectF& area, const QStringList& lines,
                 const ViewportColors& colors) {
     paintBox(painter, cursor + kLabelShift, area, lines, colors);

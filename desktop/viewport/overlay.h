@@ -26,7 +26,6 @@ void paintCursor(QPainter& painter, QPointF at, CursorShape shape, const Viewpor
 void paintPickRectangle(QPainter& painter, const PickRectangle& rectangle, const ViewportColors& colors);
 // A mark of the snap's own shape with its name.
 void paintSnap(QPainter& painter, gs::Snap::Kind kind, QPointF at, const QRectF& area, const ViewportColors& colors);
-[[nodiscard]] QString snapName(gs::Snap::Kind kind);
 // Beside the cursor, inside of the area.
 void paintLabel(QPainter& painter, QPointF cursor, const QRectF& area, const QStringList& lines,
                 const ViewportColors& colors);

@@ -144,7 +144,8 @@ QStringList Viewport::readOut() const {
     const Question* const open = front_.question();
     if (open != nullptr && open->base) {
         const ZrGeVector3d way = p - zrdbWcs2Ucs(*open->base);
-        lines << length(way.length()) + " < " + angle(std::atan2(way.y, way.x));
+        const bool inDegrees = session_.variables().number(L"AUNITS") == 0;
+        lines << length(way.length()) + " < " + angle(std::atan2(way.y, way.x)) + QString(inDegrees ? "°" : "");
     }
     return lines;
 }
