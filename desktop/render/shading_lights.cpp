@@ -1,5 +1,7 @@
 #include "desktop/render/shading_lights.h"
 
+#include "host/gs/light_distribution.h"
+
 #include <algorithm>
 #include <numbers>
 
@@ -42,6 +44,9 @@ bool makeLight(const gs::LightMark& mark, const ViewTransform& view, float radiu
     light.color = Vector3(linear(mark.rgb, 16), linear(mark.rgb, 8), linear(mark.rgb, 0)) * strength;
     light.cosFalloff = cosOfHalf(std::isfinite(mark.falloff) ? mark.falloff : 0);
     light.cosHotspot = cosOfHalf(std::isfinite(mark.hotspot) ? std::min(mark.hotspot, mark.falloff) : 0);
+    light.web = mark.distribution.get();
+    std::transform(mark.axes.begin(), mark.axes.end(), light.axes.begin(),
+                   [](const ZrGeVector3d& axis) { return Vector3(axis); });
     return isFinite(light.position) && isFinite(light.color) && isFinite(light.direction);
 }
 
@@ -91,9 +96,17 @@ void LightSamples::add(Vector3 position, Vector3 normal) {
     visible_.push_back(1);
 }
 
+inline void LightSamples::add(std::size_t i, const ShadingLight& light, float share) {
+    red_[i] += light.color.x * share;
+    green_[i] += light.color.y * share;
+    blue_[i] += light.color.z * share;
+}
+
 void LightSamples::addLight(const ShadingLight& light) {
     if (light.kind == gs::GlyphKind::Distant)
         addDistant(light);
+    else if (light.web != nullptr)
+        addFromWeb(light);
     else
         addFromPlace(light);
 }
@@ -102,10 +115,7 @@ void LightSamples::addDistant(const ShadingLight& light) {
     const Vector3 to = light.direction * -1;
     for (std::size_t i = 0; i < x_.size(); ++i) {
         const float facing = normalX_[i] * to.x + normalY_[i] * to.y + normalZ_[i] * to.z;
-        const float share = std::max(facing, 0.0F) * visible_[i];
-        red_[i] += light.color.x * share;
-        green_[i] += light.color.y * share;
-        blue_[i] += light.color.z * share;
+        add(i, light, std::max(facing, 0.0F) * visible_[i]);
     }
 }
 
@@ -127,10 +137,20 @@ void LightSamples::addFromPlace(const ShadingLight& light) {
             -(light.direction.x * wayX + light.direction.y * wayY + light.direction.z * wayZ) * perDistance;
         const float within = std::min(std::max((cosine - outer) * perCos, 0.0F), 1.0F);
         const float cone = within * within * (3 - 2 * within);
-        const float share = std::max(facing, 0.0F) * perDistance * perDistance * cone * visible_[i];
-        red_[i] += light.color.x * share;
-        green_[i] += light.color.y * share;
-        blue_[i] += light.color.z * share;
+        add(i, light, std::max(facing, 0.0F) * perDistance * perDistance * cone * visible_[i]);
+    }
+}
+
+void LightSamples::addFromWeb(const ShadingLight& light) {
+    for (std::size_t i = 0; i < x_.size(); ++i) {
+        const Vector3 way = position(i) - light.position;
+        const float squared = dot(way, way);
+        const float facing = -dot(normal(i), way);
+        if (!(facing > 0) || !(squared > 0) || visible_[i] == 0)
+            continue;
+        const float towards =
+            light.web->towards(dot(way, light.axes[0]), dot(way, light.axes[1]), dot(way, light.axes[2]));
+        add(i, light, facing / (squared * std::sqrt(squared)) * towards * visible_[i]);
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "desktop/render/view_transform.h"
 
+#include <array>
 #include <vector>
 
 namespace quor::desktop {
@@ -14,6 +15,8 @@ struct ShadingLight {
     Vector3 color;        // red, green, blue times the intensity
     float cosHotspot = 1; // of half the angles
     float cosFalloff = 0;
+    const gs::LightDistribution* web = nullptr; // and its axes; without one, the light shines evenly
+    std::array<Vector3, 3> axes;
 };
 
 inline constexpr std::size_t kMostShadingLights = 64;
@@ -41,6 +44,8 @@ public:
 private:
     void addDistant(const ShadingLight& light);
     void addFromPlace(const ShadingLight& light);
+    void addFromWeb(const ShadingLight& light);
+    void add(std::size_t i, const ShadingLight& light, float share);
     std::vector<float> x_, y_, z_, normalX_, normalY_, normalZ_, red_, green_, blue_, visible_;
 };
 

@@ -56,12 +56,22 @@ void readPhotometry(Database& database, const ObjectEntry& entry, ZrDbLightData&
     readFields(database.file(), database.file().record(place.record->record), photometryGroups(), light, context);
 }
 
+// A face without a fourth corner is a triangle.
+void closeTriangle(const DrawingFile& file, const ObjectEntry& entry, ZrDbFaceData& face) {
+    constexpr int kFourthCorner = 13;
+    dxf::Tag tag;
+    if (!file.findTag(file.record(entry.record), kFourthCorner, tag))
+        face.vertices[3] = face.vertices[2];
+}
+
 void readEntity(Database& database, const ObjectEntry& entry, const EntityKind& kind, ZrDbObjectData& data) {
     const DrawingFile& file = database.file();
     const FieldContext context{database, file.version()};
     readFields(file, file.record(entry.record), kind.groups(), data, context);
     if (kind.type == "LIGHT")
         readPhotometry(database, entry, static_cast<ZrDbLightData&>(data), context);
+    else if (kind.type == "3DFACE")
+        closeTriangle(file, entry, static_cast<ZrDbFaceData&>(data));
 }
 
 ZrString recordName(Database& database, const ObjectEntry& entry) {

@@ -43,18 +43,43 @@ db::ViewData readViewport(const db::DrawingFile& file, const db::ObjectEntry& vi
     return view;
 }
 
-// Whether any of the box may be on the picture: not all of its corners lie beyond the same edge.
+// From one value to another.
+struct Span {
+    double low;
+    double high;
+    [[nodiscard]] double length() const { return std::max(high - low, 0.0); }
+    // How much of it is within 0 and `end`.
+    [[nodiscard]] double shareUpTo(double end) const {
+        const Span inside{std::clamp(low, 0.0, end), std::clamp(high, 0.0, end)};
+        if (length() > 0)
+            return inside.length() / length();
+        return low >= 0 && low <= end ? 1 : 0;
+    }
+};
+
+// Whether a person would look at the box like this: most of it is on the picture, and it is no speck there. An eye in
+// the midst of it was put there on purpose.
 bool shows(const Camera& camera, PictureSize size, const Box& box) {
-    constexpr double kSmallest = 2; // pixels; less is nothing that a person would see
+    constexpr double kMostOfIt = 0.5;
+    constexpr double kSpeck = 0.1; // of the picture
     const Projector projector(camera, size);
     Box seen;
+    bool isAnyBehindEye = false;
     for (const double x : {box.low.x, box.high.x})
         for (const double y : {box.low.y, box.high.y})
-            for (const double z : {box.low.z, box.high.z})
-                if (const auto at = projector.toScreen({x, y, z}))
+            for (const double z : {box.low.z, box.high.z}) {
+                const auto at = projector.toScreen({x, y, z});
+                if (at)
                     seen.add({at->x, at->y, 0});
-    return !seen.isEmpty() && seen.high.x >= 0 && seen.high.y >= 0 && seen.low.x <= size.width &&
-           seen.low.y <= size.height && (seen.diagonal() >= kSmallest || box.diagonal() == 0);
+                isAnyBehindEye = isAnyBehindEye || !at;
+            }
+    if (isAnyBehindEye || seen.isEmpty())
+        return !seen.isEmpty();
+    const Span across{seen.low.x, seen.high.x};
+    const Span down{seen.low.y, seen.high.y};
+    const double share = across.shareUpTo(size.width) * down.shareUpTo(size.height);
+    const double filled = std::max(across.length() / size.width, down.length() / size.height);
+    return share >= kMostOfIt && (filled >= kSpeck || box.diagonal() == 0);
 }
 
 } // namespace

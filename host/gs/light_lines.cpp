@@ -3,8 +3,8 @@
 #include "host/db/database.h"
 #include "host/db/light_web.h"
 #include "host/gs/scene.h"
+#include "host/gs/web_directions.h"
 #include "host/ies/reader.h"
-#include "sdk/ge/matrix3d.h"
 
 #include <cmath>
 #include <numbers>
@@ -59,34 +59,6 @@ void addCone(Points& points, const ZrDbLightData& light, const Beam& beam, doubl
         addLine(points, light.position, rim(i, kGenerators));
 }
 
-// The direction that angles of a web mean, for a luminaire that shines straight down.
-ZrGeVector3d directionIn(ies::Photometry photometry, double horizontal, double vertical) {
-    const double h = horizontal * db::kDegree;
-    const double v = vertical * db::kDegree;
-    switch (photometry) {
-    case ies::Photometry::B:
-        return {std::sin(v), std::cos(v) * std::sin(h), -std::cos(v) * std::cos(h)};
-    case ies::Photometry::A:
-        return {std::cos(v) * std::sin(h), std::sin(v), -std::cos(v) * std::cos(h)};
-    case ies::Photometry::C:
-        break;
-    }
-    return {std::sin(v) * std::cos(h), std::sin(v) * std::sin(h), -std::cos(v)};
-}
-
-// From a luminaire that shines straight down to the light: turned by the rotation of its web (degrees about X, then Y,
-// then Z), then towards its target.
-ZrGeMatrix3d placementOf(const ZrDbLightData& light, const Beam& beam) {
-    ZrGeMatrix3d placement;
-    placement.setCoordSystem(light.position, -beam.across, beam.over, -beam.along);
-    const std::array<std::pair<double, ZrGeVector3d>, 3> turns{std::pair{light.webRotation.z, ZrGeVector3d::kZAxis},
-                                                               std::pair{light.webRotation.y, ZrGeVector3d::kYAxis},
-                                                               std::pair{light.webRotation.x, ZrGeVector3d::kXAxis}};
-    for (const auto& [degrees, axis] : turns)
-        placement *= ZrGeMatrix3d().setToRotation(degrees * db::kDegree, axis);
-    return placement;
-}
-
 // A closed curve around the light, as far away in each direction as it is bright there.
 struct PolarCurve {
     double firstPlane; // the horizontal angles of the two halves of a curve of type C
@@ -98,7 +70,7 @@ void addCurve(Points& points, const ies::PhotometricWeb& web, const ZrGeMatrix3d
     constexpr int kSteps = 72; // for a half turn
     const auto at = [&](double plane, double vertical) {
         const double away = ies::intensityAt(web, plane, vertical) * perCandela;
-        return placement * (ZrGePoint3d() + directionIn(web.photometry, plane, vertical) * away);
+        return placement * (ZrGePoint3d() + webDirection(web.photometry, plane, vertical) * away);
     };
     const bool aboutVertical = web.photometry == ies::Photometry::C;
     const double lowest = aboutVertical ? 0 : -90;
@@ -113,7 +85,7 @@ void addRound(Points& points, const ies::PhotometricWeb& web, const ZrGeMatrix3d
     const auto at = [&](int step) {
         const double horizontal = -180 + 360.0 * step / kSteps;
         const double away = ies::intensityAt(web, horizontal, 0) * perCandela;
-        return placement * (ZrGePoint3d() + directionIn(web.photometry, horizontal, 0) * away);
+        return placement * (ZrGePoint3d() + webDirection(web.photometry, horizontal, 0) * away);
     };
     for (int i = 0; i < kSteps; ++i)
         addLine(points, at(i), at(i + 1));
@@ -130,7 +102,7 @@ void addWeb(Points& points, const ZrDbLightData& light, const Beam& beam) {
     const double brightest = ies::maxIntensity(web);
     if (!(brightest > 0))
         return;
-    const ZrGeMatrix3d placement = placementOf(light, beam);
+    const ZrGeMatrix3d placement = webPlacement(light.position, beam.along, light.webRotation);
     const double perCandela = beam.reach / brightest;
     if (web.photometry == ies::Photometry::C) {
         addCurve(points, web, placement, perCandela, {0, 180});

@@ -5,6 +5,7 @@
 #include "host/db/object_reader.h"
 #include "host/db/units_conversion.h"
 #include "host/gs/light_color.h"
+#include "host/gs/web_directions.h"
 
 #include <algorithm>
 #include <cmath>
@@ -117,7 +118,7 @@ void LightMarks::put(std::uint32_t number, db::Database& drawing, db::ObjectEntr
 }
 
 LightMarks::Light LightMarks::make(std::uint32_t number, const db::ObjectEntry& entity, const ZrDbLightData& data,
-                                   LayerLooks& looks) const {
+                                   LayerLooks& looks) {
     constexpr double kShortest = 1e-12;
     Light light;
     LightMark& mark = light.mark;
@@ -134,9 +135,19 @@ LightMarks::Light LightMarks::make(std::uint32_t number, const db::ObjectEntry& 
     mark.rgb = rgbOf(data, settings_.units);
     mark.candela = candelaOf(data, settings_.units);
     mark.isOn = data.on;
+    takeWeb(mark, data);
     light.source = {looks.numberOf(data.layer), data.glyph, data.visible};
     mark.isGlyphShown = isGlyphShown(mark, light.source, looks);
     return light;
+}
+
+void LightMarks::takeWeb(LightMark& mark, const ZrDbLightData& data) {
+    if (mark.kind != GlyphKind::Web)
+        return;
+    mark.distribution = distributions_.of(data.webFile);
+    ZrGePoint3d origin;
+    webPlacement(mark.position, mark.direction, data.webRotation)
+        .getCoordSystem(origin, mark.axes[0], mark.axes[1], mark.axes[2]);
 }
 
 bool LightMarks::isGlyphShown(const LightMark& mark, const Source& source, const LayerLooks& looks) const {
@@ -147,6 +158,7 @@ bool LightMarks::isGlyphShown(const LightMark& mark, const Source& source, const
 }
 
 void LightMarks::settle() {
+    distributions_.lookAgain();
     if (waiting_.empty() && !anyErased_)
         return;
     std::sort(waiting_.begin(), waiting_.end(),

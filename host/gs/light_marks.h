@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/gs/layer_looks.h"
+#include "host/gs/light_distribution.h"
 #include "host/gs/scene.h"
 #include "sdk/gi/photometric_intensity.h"
 
@@ -49,10 +50,12 @@ private:
     };
 
     [[nodiscard]] Light make(std::uint32_t number, const db::ObjectEntry& entity, const ZrDbLightData& data,
-                             LayerLooks& looks) const;
+                             LayerLooks& looks);
+    void takeWeb(LightMark& mark, const ZrDbLightData& data);
     [[nodiscard]] bool isGlyphShown(const LightMark& mark, const Source& source, const LayerLooks& looks) const;
 
     LightSettings settings_;
+    LightDistributions distributions_;
     std::vector<LightMark> marks_; // in drawing order
     std::vector<Source> sources_;  // of the marks
     std::vector<Light> waiting_;   // new ones, to be put among the others

@@ -6,6 +6,7 @@
 #include "host/gs/scene_items.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <unordered_map>
 #include <unordered_set>
@@ -20,6 +21,12 @@ constexpr std::array<std::string_view, 3> kBlockTypes{"INSERT", "DIMENSION", "AC
 bool showsBlock(const db::Database& drawing, const db::ObjectEntry& entity) {
     const std::string_view type = drawing.file().typeName(entity.type);
     return std::find(kBlockTypes.begin(), kBlockTypes.end(), type) != kBlockTypes.end();
+}
+
+// Of all scenes, so that no two have the same contents by chance.
+std::uint64_t nextContents() {
+    static std::atomic<std::uint64_t> last = 0;
+    return ++last;
 }
 
 double middleOf(std::vector<double> values) {
@@ -39,6 +46,7 @@ public:
     void regenerate() { block_ = nullptr; }
     [[nodiscard]] SceneData data() const;
     [[nodiscard]] Box extents() const;
+    [[nodiscard]] bool isIncomplete() const { return items_.isIncomplete(); }
     void setSelected(const std::vector<ZrDbObjectId>& ids);
     void setHovered(ZrDbObjectId id);
 
@@ -72,6 +80,7 @@ private:
     ZrDbObjectId hovered_;
     std::vector<std::uint32_t> emphasised_;
     bool emphasisChanged_ = false;
+    std::uint64_t contents_ = nextContents();
     mutable std::optional<Box> extents_;
     ShapeReader reader_;
     Shape shape_;
@@ -84,7 +93,7 @@ bool Scene::Parts::update(const std::function<void(double)>& progress) {
     if (changes.inBlocks || changes.ofLayers)
         reader_.forget();
     const db::Block& block = drawing_.currentSpace();
-    bool changed = emphasisChanged_;
+    bool changed = false;
     if (&block != block_) {
         build(block, progress);
         changed = true;
@@ -95,10 +104,13 @@ bool Scene::Parts::update(const std::function<void(double)>& progress) {
         changed = true;
     }
     if (changed) {
+        contents_ = nextContents();
         extents_.reset();
-        emphasise();
     }
-    return changed;
+    if (!changed && !emphasisChanged_)
+        return false;
+    emphasise();
+    return true;
 }
 
 void Scene::Parts::build(const db::Block& block, const std::function<void(double)>& progress) {
@@ -154,7 +166,10 @@ void Scene::Parts::put(std::uint32_t number) {
     db::ObjectEntry& entity = *block_->entities[number];
     entities_[number] = entity.erased ? ZrDbObjectId() : ZrDbObjectId(&entity);
     shape_.clear();
-    if (!entity.erased)
+    const bool hasNoRoom = items_.isFull() && !items_.holds(number);
+    if (hasNoRoom && !entity.erased && !isLight(drawing_, entity))
+        items_.leaveOut();
+    else if (!entity.erased)
         reader_.append(shape_, entity);
     items_.put(number, shape_, looks_);
     lights_.put(number, drawing_, entity, looks_);
@@ -266,8 +281,8 @@ void Scene::Parts::setHovered(ZrDbObjectId id) {
 }
 
 SceneData Scene::Parts::data() const {
-    return {items_.origin(),    items_.chunks(), items_.items(), items_.lines(),
-            items_.triangles(), lights_.marks(), entities_,      emphasis_};
+    return {items_.origin(), items_.chunks(), items_.items(), items_.lines(), items_.triangles(),
+            lights_.marks(), entities_,       emphasis_,      contents_};
 }
 
 Box Scene::Parts::extents() const {
@@ -287,6 +302,8 @@ bool Scene::update(const std::function<void(double)>& progress) { return parts_-
 void Scene::regenerate() { parts_->regenerate(); }
 
 SceneData Scene::data() const { return parts_->data(); }
+
+bool Scene::isIncomplete() const { return parts_->isIncomplete(); }
 
 Box Scene::extents() const { return parts_->extents(); }
 

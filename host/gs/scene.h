@@ -16,6 +16,8 @@ class ZrDbLight;
 
 namespace quor::gs {
 
+struct LightDistribution;
+
 // Coordinates relative to Scene::origin(), so that single precision is enough anywhere in the world.
 using Coordinates = std::array<float, 3>;
 struct SceneLine {
@@ -63,6 +65,10 @@ struct LightMark {
     double candela = 0;           // peak intensity times the intensity factor; the factor alone in generic lighting
     bool isOn = true;
     bool isGlyphShown = true; // by its own setting, LIGHTGLYPHDISPLAY, its visibility and its layer
+    // How a web shares the light among the directions; null: evenly. Its luminaire stands along these axes, which are
+    // of length 1, and shines along the third one backwards.
+    std::shared_ptr<const LightDistribution> distribution;
+    std::array<ZrGeVector3d, 3> axes;
 };
 
 // All that is to be drawn, as it is at the moment; holds until the scene is updated.
@@ -75,6 +81,8 @@ struct SceneData {
     std::span<const LightMark> lights;      // in drawing order; those that were erased are left out
     std::span<const ZrDbObjectId> entities; // by their number; null for one that does not exist any more
     std::span<const Emphasis> emphasis;     // by the number of the entity
+    // The same number means the same contents but for their emphasis; 0: nobody knows.
+    std::uint64_t contents = 0;
 };
 
 class Scene {
@@ -94,6 +102,8 @@ public:
     [[nodiscard]] SceneData data() const;
     // Of what is visible; empty when nothing is.
     [[nodiscard]] Box extents() const;
+    // The drawing is too large to be drawn: some of it was left out.
+    [[nodiscard]] bool isIncomplete() const;
 
     void setSelected(const std::vector<ZrDbObjectId>& ids);
     // Null: none.

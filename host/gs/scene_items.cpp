@@ -65,9 +65,10 @@ void SceneItems::Draft::clear() {
     triangles.clear();
 }
 
-void SceneItems::start(const ZrGePoint3d& origin) {
+void SceneItems::start(const ZrGePoint3d& origin, std::size_t mostPrimitives) {
     *this = SceneItems();
     origin_ = origin;
+    mostPrimitives_ = mostPrimitives;
 }
 
 void SceneItems::put(std::uint32_t entity, const Shape& shape, LayerLooks& looks) {
@@ -81,7 +82,11 @@ void SceneItems::put(std::uint32_t entity, const Shape& shape, LayerLooks& looks
             return;
         }
     }
-    if (!draft_.items.empty() && total() < kMostPrimitives)
+    if (draft_.items.empty())
+        return;
+    if (isFull())
+        leaveOut();
+    else
         append(entity);
 }
 
@@ -217,6 +222,8 @@ void SceneItems::fillBox(SceneChunk& chunk) const {
 void SceneItems::compact() {
     SceneItems tidy;
     tidy.origin_ = origin_;
+    tidy.mostPrimitives_ = mostPrimitives_;
+    tidy.isIncomplete_ = isIncomplete_;
     tidy.places_.resize(places_.size());
     for (std::size_t entity = 0; entity < places_.size(); ++entity) {
         const Place place = places_[entity];

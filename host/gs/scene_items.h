@@ -10,10 +10,18 @@ namespace quor::gs {
 class SceneItems {
 public:
     // A scene does not grow beyond this, whatever a drawing says: entities behind it are not drawn.
-    static constexpr std::size_t kMostPrimitives = 40'000'000;
+    static constexpr std::size_t kMostPrimitives = 20'000'000;
 
     // Empty, with coordinates from here on relative to `origin`.
-    void start(const ZrGePoint3d& origin);
+    void start(const ZrGePoint3d& origin, std::size_t mostPrimitives = kMostPrimitives);
+    // Nothing more is taken in, except in the place of what is there already.
+    [[nodiscard]] bool isFull() const { return total() >= mostPrimitives_; }
+    [[nodiscard]] bool holds(std::uint32_t entity) const {
+        return entity < places_.size() && places_[entity].itemCount > 0;
+    }
+    // Something was left out for that.
+    void leaveOut() { isIncomplete_ = true; }
+    [[nodiscard]] bool isIncomplete() const { return isIncomplete_; }
     // What an entity is drawn with from now on; nothing for an empty shape.
     void put(std::uint32_t entity, const Shape& shape, LayerLooks& looks);
     // To be called after the last put of some: boxes, and tidying up.
@@ -76,6 +84,8 @@ private:
     std::vector<bool> isStale_; // of the chunks: the box is to be made
     std::vector<std::uint32_t> stale_;
     std::size_t live_ = 0; // items, lines and triangles in use
+    std::size_t mostPrimitives_ = kMostPrimitives;
+    bool isIncomplete_ = false;
     Draft draft_;
 };
 

@@ -22,8 +22,8 @@ ZrString textOf(const Source& source) {
     static constexpr dxf::CodeSet kWanted{1, 3, kEmbeddedObject};
     ZrString text;
     BodyTags tags(source, kWanted);
-    while (tags.next())
-        text += source.file().text(tags.tag());
+    while (text.size() < kLongestText && tags.next())
+        text += drawableText(source, tags.tag());
     return text;
 }
 

@@ -54,7 +54,7 @@ Lettering heldAtAPoint(const Numbers& numbers, int vertical, double width, doubl
 ZrString textOf(const Source& source) {
     static constexpr dxf::CodeSet kWanted{1};
     BodyTags tags(source, kWanted);
-    return tags.next() ? plainText(source.file().text(tags.tag())) : ZrString();
+    return tags.next() ? plainText(drawableText(source, tags.tag())) : ZrString();
 }
 
 void show(const Source& source, const Numbers& numbers, int vertical, Pen& pen) {

@@ -2,6 +2,11 @@
 
 namespace quor::gs {
 
+ZrString drawableText(const Source& source, dxf::Tag tag) {
+    tag.raw = tag.raw.substr(0, kLongestText);
+    return source.file().text(tag);
+}
+
 // Codes below 0 are in every set of codes.
 bool BodyTags::next() {
     do {

@@ -10,6 +10,10 @@
 
 namespace quor::gs {
 
+// What a tag says, so much of it as can be drawn: nobody reads a text that is longer than this many bytes.
+inline constexpr std::size_t kLongestText = 1'000'000;
+[[nodiscard]] ZrString drawableText(const Source& source, dxf::Tag tag);
+
 // Begins the tags of an object inside of an entity, with codes like its own.
 inline constexpr int kEmbeddedObject = 101;
 

@@ -130,6 +130,19 @@ TEST_F(OpenClose, LineRefusesPointsThatAreNoNumbers) {
     EXPECT_EQ(writer->endPoint(), ZrGePoint3d(4, 5, 6));
 }
 
+TEST(Face, WithoutAFourthCornerIsATriangle) {
+    Sections sections;
+    sections.entities = "0\n3DFACE\n5\n32\n330\n1F\n100\nAcDbEntity\n8\n0\n100\nAcDbFace\n"
+                        "10\n1\n20\n1\n30\n5\n11\n2\n21\n1\n31\n5\n12\n2\n22\n2\n32\n5\n";
+    const auto database = parsed(drawing("AC1032", sections));
+    const ZrDbObjectPointer<ZrDbFace> face(database->interface().objectId(ZrDbHandle(0x32)), ZrDb::kForRead);
+
+    ZrGePoint3d fourth;
+    ASSERT_EQ(face->getVertexAt(3, fourth), Quor::eOk);
+
+    EXPECT_EQ(fourth, ZrGePoint3d(2, 2, 5));
+}
+
 TEST(Face, HasFourCornersAndEdges) {
     ZrDbFace face({0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0});
     ZrGePoint3d corner;

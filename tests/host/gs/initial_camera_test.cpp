@@ -73,6 +73,21 @@ TEST(InitialCamera, ShowsAllWhereTheViewportShowsNothing) {
     EXPECT_EQ(initialCamera(*drawing, {800, 600}, elsewhere), fitted(cameraOf(*drawing), {800, 600}, elsewhere));
 }
 
+TEST(InitialCamera, ShowsAllWhereTheViewportShowsACorner) {
+    const auto drawing = drawingWith(viewport(kFromAbove, "50"));
+    Box large = boxAt(100, 200);
+    large.add({5000, 5000, 0});
+    EXPECT_EQ(initialCamera(*drawing, {800, 600}, large), fitted(cameraOf(*drawing), {800, 600}, large));
+}
+
+TEST(InitialCamera, StaysInARoomWhereTheEyeIsInIt) {
+    const auto drawing = drawingWith(viewport(kFromTheFront, "50", "71\n1\n"));
+    Box room;
+    room.add({-1000, -1000, 0});
+    room.add({1000, 1000, 400});
+    EXPECT_EQ(initialCamera(*drawing, {800, 600}, room), cameraOf(*drawing));
+}
+
 TEST(InitialCamera, ShowsAllWhereItWouldBeASpeck) {
     const auto drawing = drawingWith(viewport(kFromAbove, "1000000"));
     EXPECT_LT(initialCamera(*drawing, {800, 600}, boxAt(100, 200)).height, 20);

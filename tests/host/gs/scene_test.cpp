@@ -189,6 +189,15 @@ TEST_F(SceneTest, SelectedAndHoveredEntitiesStandOut) {
     EXPECT_THAT(updated().emphasis, ElementsAre(Emphasis::Selected, Emphasis::None));
 }
 
+TEST_F(SceneTest, ContentsAreTheSameWhateverStandsOut) {
+    const ZrDbObjectId line = addLine({1, 2, 3}, {4, 5, 6});
+    const std::uint64_t before = updated().contents;
+    scene->setSelected({line});
+    EXPECT_EQ(updated().contents, before);
+    erase(line);
+    EXPECT_NE(updated().contents, before);
+}
+
 TEST_F(SceneTest, TheSelectionStaysWhenAllIsMadeAnew) {
     const ZrDbObjectId line = addLine({1, 2, 3}, {4, 5, 6});
     scene->setSelected({line});
