@@ -232,10 +232,12 @@ void CommandLine::cancel() {
     completer_->dismiss();
     ahead_.clear();
     recall_.leave();
-    if (input_->text().isEmpty())
+    if (input_->text().isEmpty()) {
+        Q_EMIT escaped();
         front_.escape();
-    else
+    } else {
         input_->clear();
+    }
 }
 
 void CommandLine::copyOrCancel() {

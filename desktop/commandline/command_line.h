@@ -63,6 +63,10 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
 
+Q_SIGNALS:
+    // Esc in an empty line: what else the person has begun is taken back too.
+    void escaped();
+
 protected:
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

@@ -41,6 +41,7 @@ constexpr const wchar_t* kLayoutSection = L"Desktop";
 constexpr const wchar_t* kGeometryKey = L"Geometry";
 constexpr const wchar_t* kStateKey = L"Layout";
 constexpr const wchar_t* kPalettesKey = L"Palettes";
+constexpr const wchar_t* kQuit = L"QUIT";
 // Raised when docks or tool bars are added, so that an older layout is not half applied.
 constexpr int kLayoutVersion = 1;
 
@@ -139,6 +140,7 @@ void MainWindow::connectViewport() {
     connect(viewport_, &Viewport::viewChanged, this, &MainWindow::refreshSoon);
     connect(viewport_, &Viewport::modesChanged, this, &MainWindow::refreshSoon);
     connect(viewport_, &Viewport::keyForCommandLine, commandLine_, &CommandLine::takeKey);
+    connect(commandLine_, &CommandLine::escaped, viewport_, &Viewport::escape);
     connect(viewport_, &Viewport::contextMenuRequested, this, &MainWindow::showContextMenu);
     palettes_->setFocusDrawing([this] { commandLine_->setFocus(); });
 }
@@ -356,7 +358,15 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         return;
     }
     event->ignore();
-    front_.quit();
+    if (!isQuitting())
+        front_.quit();
+    else if (QWidget* const question = QApplication::activeModalWidget())
+        question->activateWindow();
+}
+
+bool MainWindow::isQuitting() const {
+    const std::vector<ZrString> running = session_.processor().running();
+    return !running.empty() && running.front() == kQuit;
 }
 
 // What no widget wanted is meant for the command line; what that does not want comes back here.

@@ -46,6 +46,7 @@ const Row kCommands[] = {
     {L"ERASE",      erase,          kWithDrawing, 0, {L"E"}},
     {L"LIST",       list,           kWithDrawing, 0, {L"LI", L"LS"}},
     {L"PROPERTIES", properties,     kWithDrawing, 0, {L"PROPS", L"PR", L"CH", L"MO"}},
+    {L"CHPROP",     changeProperty, kWithDrawing, 0, {L"-PROPERTIES", L"-PR"}},
     {L"LIGHTTABLE", lightTable,     kWithDrawing, 0},
     {L"-LIGHTTABLE", lightTableAsFile, kWithDrawing, 0},
     {L"LINE",       line,           kWithDrawing, 0, {L"L"}},

@@ -28,6 +28,7 @@ int select(Session& session);
 int erase(Session& session);
 int list(Session& session);
 int properties(Session& session);
+int changeProperty(Session& session);
 int lightTable(Session& session);
 int lightTableAsFile(Session& session);
 int line(Session& session);

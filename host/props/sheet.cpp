@@ -2,36 +2,16 @@
 
 #include "host/document.h"
 #include "host/props/change.h"
+#include "host/props/common_change.h"
 #include "host/props/drawing_settings.h"
 #include "host/props/kinds.h"
-#include "host/props/layer_rows.h"
-#include "host/props/value_input.h"
 #include "host/session.h"
 #include "host/sys/system_variables.h"
-#include "host/sys/trim.h"
 #include "host/texts/properties.h"
-#include "sdk/sys/format.h"
 
 #include <algorithm>
 
 namespace quor::props {
-
-namespace {
-
-Refusal writeAll(const ZrDbObjectIdArray& ids, const Property& property, const Value& value, const Context& context) {
-    for (const ZrDbObjectId id : ids) {
-        const ZrDbObjectPointer<ZrDbEntity> entity(id, ZrDb::kForWrite);
-        if (!entity)
-            return fill(texts::kObjectIsInUse, zrFormat(L"%X", {id.handle().value()}));
-        if (property.read(*entity, context) == value)
-            continue;
-        if (Refusal refusal = property.write(*entity, value, context))
-            return refusal;
-    }
-    return std::nullopt;
-}
-
-} // namespace
 
 Sheet::Sheet(Session& session) : session_(session), watch_([this] { becomeStale(); }) {}
 
@@ -130,7 +110,7 @@ void Sheet::readRows() {
         rows_ = drawingRows(session_);
         return;
     }
-    context_ = {.drawing = &document->drawing(), .units = photometricUnits(), .several = shown().size() > 1};
+    context_ = contextOf(document->drawing(), shown().size());
     common_ = readCommon(shown(), context_);
     for (const Common& common : common_)
         rows_.push_back(rowOf(common, context_));
@@ -146,31 +126,12 @@ Refusal Sheet::set(std::string_view id, const ZrString& typed) {
     return common == common_.end() ? Refusal(texts::kRowIsGone.get()) : setShown(*common, typed);
 }
 
+// Copies: listeners may have the rows read anew meanwhile.
 Refusal Sheet::setShown(const Common& common, const ZrString& typed) {
-    const Property& property = *common.property;
-    if (!props::isEditable(common, context_))
-        return fill(texts::kRowIsReadOnly, property.label.get());
-    // What is shown may be rounded: left as it is, it changes nothing.
-    if (!common.varies && trimmed(typed) == inputText(property, common.value))
-        return std::nullopt;
-    const Result<Value, ZrString> value = parseValue(property, typed, context_);
-    if (!value)
-        return value.error();
-    if (!common.varies && *value == common.value)
-        return std::nullopt;
-    if (const std::size_t locked = lockedObjects(); locked > 0)
-        return fill(texts::kObjectsOnLockedLayers, locked);
-    // Copies: listeners may have the rows read anew meanwhile.
-    return makeChange(session_, L"PROPERTIES", [ids = shown(), context = context_, &property, changed = *value] {
-        return writeAll(ids, property, changed, context);
+    const ZrDbObjectIdArray ids = shown();
+    return changeCommon(ids, Common(common), typed, Context(context_), [this](const std::function<Refusal()>& write) {
+        return makeChange(session_, L"PROPERTIES", write);
     });
-}
-
-std::size_t Sheet::lockedObjects() const {
-    return static_cast<std::size_t>(std::ranges::count_if(shown(), [](ZrDbObjectId id) {
-        const ZrDbObjectPointer<ZrDbEntity> entity(id, ZrDb::kForRead);
-        return entity && isOnLockedLayer(*entity);
-    }));
 }
 
 } // namespace quor::props

@@ -55,7 +55,6 @@ private:
     void sortByKind();
     void readRows();
     [[nodiscard]] Refusal setShown(const Common& common, const ZrString& typed);
-    [[nodiscard]] std::size_t lockedObjects() const;
     [[nodiscard]] const ZrDbObjectIdArray& shown() const { return objects_[chosen_].ids; }
 
     Session& session_;

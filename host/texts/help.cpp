@@ -109,6 +109,15 @@ constexpr HelpPage kPages[] = {
       L"Select objects as in SELECT; objects already selected are shown at once. Either way they are selected afterwards, for "
       L"the next command."},
      L"PROPERTIES ALL "},
+    {L"CHPROP", kObjects,
+     {L"更改一个或多个对象的一项特性。",
+      L"Changes one property of one or several objects."},
+     {L"先选择对象，再输入特性的名称(特性选项板中的文字，或 light.intensity 之类的标识)，然后输入值；“?”列出所选对象共有的"
+      L"可更改特性。值的格式与特性选项板相同，可以带单位。被拒绝时任何对象都不改变。",
+      L"Select objects, enter a property (its name in the Properties palette, or an id such as light.intensity), then the "
+      L"value. ? lists what the selected objects have in common and can be changed. Values are typed as in the palette, with or "
+      L"without unit. A value that is refused changes nothing in any of them."},
+     L"CHPROP ALL"},
     {L"LIGHTTABLE", kObjects,
      {L"以表格列出图形中的光源。",
       L"Lists the lights of the drawing in tables."},

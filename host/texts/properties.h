@@ -140,6 +140,13 @@ inline constexpr Text kNoLayerToChoose{L"没有可用的图层“%s”。请选�
                                        L"There is no layer \"%s\" to choose. Choose one of the list."};
 inline constexpr Text kValueRefused{L"该值未被接受，未做任何更改。",
                                     L"The value was not accepted; nothing was changed."};
+// CHPROP.
+inline constexpr Text kAskProperty{L"\n输入要更改的特性或 [?]: ", L"\nEnter property to change or [?]: "};
+inline constexpr Text kAskPropertyValue{L"\n输入“%s”的新值 <%s>: ", L"\nEnter new value of \"%s\" <%s>: "};
+inline constexpr Text kNoSuchProperty{L"\n所选对象没有共同的可更改特性“%s”。输入 ? 列出全部。\n",
+                                      L"\nThe selected objects have no property \"%s\" in common that can be changed. "
+                                      L"Enter ? to list them.\n"};
+inline constexpr Text kPropertyChanged{L"\n已更改“%s”，共 %d 个对象。\n", L"\nObjects whose \"%s\" was changed: %d.\n"};
 inline constexpr Text kRowIsReadOnly{L"“%s”不能更改。", L"\"%s\" cannot be changed."};
 inline constexpr Text kRowIsGone{L"所选对象已改变，该值未被采用。",
                                  L"What is selected has changed; the value was not used."};

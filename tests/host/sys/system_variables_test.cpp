@@ -160,7 +160,7 @@ TEST_F(Variables, UserVariableIsKeptInTheSettings) {
 
 TEST_F(Variables, UserVariableThatTheSettingsSpoilHasItsInitialValue) {
     ASSERT_FALSE(session_.session().settings().setInt(quor::sys::kUserVariables, L"COLORTHEME", 9).has_value());
-    EXPECT_EQ(variables().number(L"COLORTHEME"), 0);
+    EXPECT_EQ(variables().number(L"COLORTHEME"), 2);
 }
 
 TEST_F(Variables, ChangeOfADrawingVariableIsUndone) {

@@ -305,7 +305,7 @@ TEST_F(LightListDialog, AnotherThemeIsShownWithTheNextPainting) {
     short theme = 0;
     ASSERT_TRUE(zwutads::getVar(L"COLORTHEME", theme));
 
-    zwutads::setVar(L"COLORTHEME", theme == 0 ? 1 : 0);
+    zwutads::setVar(L"COLORTHEME", theme == 1 ? 0 : 1);
 
     EXPECT_TRUE(dialog().needsPaint());
     EXPECT_TRUE(list().needsPaint());
