@@ -1,6 +1,7 @@
 // quor: the host on the desktop.
 #include "desktop/options.h"
 #include "desktop/program.h"
+#include "desktop/qt_text.h"
 #include "desktop/window/theme.h"
 #include "host/sys/language_choice.h"
 #include "host/sys/settings_store.h"
@@ -10,7 +11,12 @@
 #include <QApplication>
 #include <QTimer>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
+#include <cstdlib>
+#include <span>
+#include <string_view>
 
 namespace {
 
@@ -20,23 +26,44 @@ constexpr int kNoDisplay = 3;
 
 void print(std::FILE* stream, const ZrString& text) { std::fputs(toUtf8(text).c_str(), stream); }
 
+int answer(const desktop::Notice& notice) {
+    print(notice.status == 0 ? stdout : stderr, notice.text);
+    return notice.status;
+}
+
+// Behind "--" stand names of files: the toolkit is shown what is before it only.
+int countBeforeNames(int count, char** arguments) {
+    char** const end = arguments + count;
+    return static_cast<int>(
+        std::find_if(arguments, end, [](const char* word) { return std::string_view(word) == "--"; }) - arguments);
+}
+
 // The toolkit would end the program without a word that a person understands.
-bool hasDisplay(int count, char** arguments) {
-    for (int i = 1; i < count; ++i)
-        if (std::string_view(arguments[i]).starts_with("-platform"))
-            return true;
-    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        if (!qEnvironmentVariableIsEmpty(variable))
-            return true;
-    return false;
+bool hasDisplay(std::span<char* const> arguments) {
+    const bool names = std::any_of(arguments.begin(), arguments.end(), [](std::string_view word) {
+        return word.starts_with("-platform") || word.starts_with("--platform") || word.starts_with("-display") ||
+               word.starts_with("--display");
+    });
+    constexpr std::array variables = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+    return names || std::any_of(variables.begin(), variables.end(),
+                                [](const char* variable) { return !qEnvironmentVariableIsEmpty(variable); });
 }
 
-void chooseLanguage() {
+// While the toolkit starts: what it dies of is a display that it cannot use.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    if (type != QtFatalMsg)
+        return;
+    print(stderr, fill(texts::window::kDisplayRefused, desktop::fromQt(message)));
+    std::fflush(stderr);
+    std::_Exit(kNoDisplay);
+}
+
+Language usualLanguage() {
     SettingsStore settings;
-    setLanguage(sys::languageOf(settings) == L"en" ? Language::English : Language::Chinese);
+    return sys::languageOf(settings) == L"en" ? Language::English : Language::Chinese;
 }
 
-int runProgram(QApplication& application, desktop::Options options) {
+int runProgram(desktop::Options options) {
     desktop::ProgramOptions program;
     program.drawings = std::move(options.drawings);
     program.scripts = std::move(options.scripts);
@@ -46,7 +73,7 @@ int runProgram(QApplication& application, desktop::Options options) {
         program.modules = std::move(options.modules);
     QApplication::setStyle("Fusion");
     desktop::Program running(std::move(program));
-    QTimer::singleShot(0, &application, [&] {
+    QTimer::singleShot(0, qApp, [&] {
         running.run();
         QApplication::quit();
     });
@@ -56,28 +83,27 @@ int runProgram(QApplication& application, desktop::Options options) {
 } // namespace
 
 int main(int count, char** arguments) {
-    chooseLanguage();
-    std::vector<std::string> words(arguments + 1, arguments + (count > 0 ? count : 1));
-    auto parsed = desktop::parseOptions(words);
-    if (const auto* notice = std::get_if<desktop::Notice>(&parsed); notice != nullptr && notice->status == 0) {
-        print(stdout, notice->text);
-        return notice->status;
-    }
-    if (!hasDisplay(count, arguments)) {
+    const int before = countBeforeNames(count, arguments);
+    const std::vector<std::string> names(arguments + before, arguments + count);
+    std::vector<std::string> words(arguments + 1, arguments + count);
+    const auto asked = desktop::parseOptions(words, usualLanguage());
+    if (const auto* notice = std::get_if<desktop::Notice>(&asked); notice != nullptr && notice->status == 0)
+        return answer(*notice);
+    if (!hasDisplay({arguments + 1, arguments + before})) {
         print(stderr, texts::window::kNoDisplay.get());
         return kNoDisplay;
     }
-    QApplication application(count, arguments);
+    // The toolkit takes away what was meant for it.
+    int left = before;
+    qInstallMessageHandler(endWithoutDisplay);
+    const QApplication application(left, arguments);
+    qInstallMessageHandler(nullptr);
     QApplication::setApplicationName("quor");
     QApplication::setDesktopFileName("quor");
-    // Without what was meant for the toolkit.
-    words.clear();
-    for (const QString& word : QApplication::arguments().mid(1))
-        words.push_back(word.toStdString());
-    parsed = desktop::parseOptions(words);
-    if (const auto* notice = std::get_if<desktop::Notice>(&parsed)) {
-        print(stderr, notice->text);
-        return notice->status;
-    }
-    return runProgram(application, std::move(std::get<desktop::Options>(parsed)));
+    words.assign(arguments + 1, arguments + left);
+    words.insert(words.end(), names.begin(), names.end());
+    auto parsed = desktop::parseOptions(words, language());
+    if (const auto* notice = std::get_if<desktop::Notice>(&parsed))
+        return answer(*notice);
+    return runProgram(std::move(std::get<desktop::Options>(parsed)));
 }

@@ -14,14 +14,14 @@ class Signals final : public QObject {
     Q_OBJECT
 
 public:
-    // One at a time. `wanted` is called from the event loop.
-    explicit Signals(std::function<void()> wanted);
+    // One at a time. `wanted` is called from the event loop, with the signal's number.
+    explicit Signals(std::function<void(int)> wanted);
     ~Signals() override;
 
 private:
     void read();
 
-    std::function<void()> wanted_;
+    std::function<void(int)> wanted_;
     std::unique_ptr<QSocketNotifier> notifier_;
 };
 

@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QTimer>
 
 #include <utility>
 
@@ -20,6 +21,8 @@ namespace {
 
 // The host's own, whatever a module or a language makes of the name.
 constexpr const wchar_t* kQuit = L"._QUIT";
+// How often a program that ends looks for what keeps it.
+constexpr int kMillisecondsToGo = 50;
 
 ZrString shownPoint(const ZrGePoint3d& world) {
     const ZrGePoint3d p = zrdbWcs2Ucs(world);
@@ -94,7 +97,24 @@ void DesktopFrontEnd::quit() {
     run(kQuit);
 }
 
+// A question that is open may have a dialog on top that it is asked beside: that one goes first. What opens a dialog on
+// its own is told as long as it does.
+void DesktopFrontEnd::end() {
+    if (dialogs_ != nullptr)
+        dialogs_->escape();
+    for (Waiting* const open : waiting_) {
+        if (!open->answer)
+            open->answer = Answer{Answer::Kind::End, {}, {}};
+        open->loop.quit();
+    }
+    if (!std::exchange(isEnding_, true))
+        line_.reset();
+    QTimer::singleShot(kMillisecondsToGo, this, &DesktopFrontEnd::end);
+}
+
 std::optional<Answer> DesktopFrontEnd::readyAnswer(const Question& question) {
+    if (isEnding_)
+        return Answer{Answer::Kind::End, {}, {}};
     if (!line_)
         return std::nullopt;
     if (question.kind != Question::Kind::Command)
@@ -112,7 +132,7 @@ void DesktopFrontEnd::breathe() {
 
 bool DesktopFrontEnd::goesOn() {
     breathe();
-    return !pump_.takeEscape() && !line_;
+    return !pump_.takeEscape() && !isLeaving();
 }
 
 void DesktopFrontEnd::print(std::wstring_view text) {
@@ -153,6 +173,8 @@ void DesktopFrontEnd::echo(const Question& question, std::wstring_view answer) {
 }
 
 TaskDialogAnswer DesktopFrontEnd::showTaskDialog(const CZrUiTaskDialog& dialog) {
+    if (isLeaving())
+        return {std::nullopt, false, isEnding_ || !dialog.isCancellable()};
     if (dialogs_ != nullptr)
         return dialogs_->showTaskDialog(dialog);
     return ui::askTaskDialog(
@@ -161,12 +183,16 @@ TaskDialogAnswer DesktopFrontEnd::showTaskDialog(const CZrUiTaskDialog& dialog) 
 }
 
 FileAnswer DesktopFrontEnd::chooseFile(const FileQuestion& file) {
+    if (isLeaving())
+        return {std::nullopt, isEnding_};
     if (dialogs_ != nullptr)
         return dialogs_->chooseFile(file);
     return ui::askFile(file, [](const Question& question) { return Session::current().input().ask(question); });
 }
 
 std::optional<SaveChoice> DesktopFrontEnd::askToSave(std::wstring_view drawing) {
+    if (isLeaving())
+        return SaveChoice::Cancel;
     return dialogs_ != nullptr ? std::optional(dialogs_->askToSave(drawing)) : std::nullopt;
 }
 
@@ -181,7 +207,7 @@ void DesktopFrontEnd::paletteShown(const CZkUiPaletteSet& palette) {
 }
 
 unsigned DesktopFrontEnd::trackMenu(const CMenu& menu, CPoint screen) {
-    return windows_ != nullptr ? windows_->trackMenu(menu, screen) : 0;
+    return windows_ != nullptr && !isLeaving() ? windows_->trackMenu(menu, screen) : 0;
 }
 
 void DesktopFrontEnd::macroQueued(bool cancelsFirst) {

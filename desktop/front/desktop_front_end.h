@@ -46,6 +46,8 @@ public:
     void run(const ZrString& line);
     // The person closes the program: as run(QUIT), with Esc to an open dialog first.
     void quit();
+    // The program ends, whatever is going on: all that is asked now or later has no answer any more.
+    void end();
 
     // Whether the windows are kept alive while the host works: from when they are shown until the program ends.
     void setAlive(bool alive) { isAlive_ = alive; }
@@ -97,8 +99,11 @@ private:
     Answer wait(const Question& question, const Sample* sample);
     // While the host works: events are handled every now and then, but for what the person does.
     void breathe();
-    // What is known before anybody is asked: Esc and the line, while a line of run() waits for the command prompt.
+    // What is known before anybody is asked: Esc and the line, while a line of run() waits for the command prompt; that
+    // there are no more answers, when the program ends.
     [[nodiscard]] std::optional<Answer> readyAnswer(const Question& question);
+    // Whether a dialog of what runs is cancelled before anybody sees it.
+    [[nodiscard]] bool isLeaving() const { return isEnding_ || line_.has_value(); }
 
     DialogPart* dialogs_ = nullptr;
     WindowPart* windows_ = nullptr;
@@ -109,6 +114,7 @@ private:
     std::optional<ZrString> line_;  // of run()
     EventPump pump_;
     bool isAlive_ = false;
+    bool isEnding_ = false;
 };
 
 } // namespace quor::desktop

@@ -82,6 +82,8 @@ private:
     void refreshTheme();
     void refreshRecentFiles();
     void showContextMenu(const QPoint& at);
+    // Whether the person is being asked about changes on the way out.
+    [[nodiscard]] bool isQuitting() const;
 
     Session& session_;
     DesktopFrontEnd& front_;

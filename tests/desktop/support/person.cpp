@@ -8,7 +8,6 @@
 #include "host/texts/text.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QMenu>
@@ -26,6 +25,8 @@ namespace {
 
 // Longer than anything takes, so that a program that hangs fails its test.
 constexpr int kPatience = 60'000;
+// The same for its end.
+constexpr int kPatienceAtTheEnd = 10'000;
 
 QString screenText;
 
@@ -58,6 +59,14 @@ void Person::waits() {
         if (!waiting)
             QThread::msleep(1);
     }
+}
+
+bool Person::sawItEnd() const {
+    QElapsedTimer clock;
+    clock.start();
+    while (!ended_ && clock.elapsed() < kPatienceAtTheEnd)
+        QThread::msleep(1);
+    return ended_;
 }
 
 void Person::does(const std::function<void()>& action) {
@@ -108,7 +117,7 @@ ProgramOptions usualOptions() {
     return options;
 }
 
-void withProgram(ProgramOptions options, const std::function<void(Person&)>& story) {
+int withProgram(ProgramOptions options, const std::function<void(Person&)>& story) {
     const QTemporaryDir home;
     qputenv("XDG_CONFIG_HOME", (home.path() + "/config").toUtf8());
     qputenv("XDG_STATE_HOME", (home.path() + "/state").toUtf8());
@@ -117,14 +126,16 @@ void withProgram(ProgramOptions options, const std::function<void(Person&)>& sto
     setLanguage(options.session.language == L"en" ? Language::English : Language::Chinese);
     screenText.clear();
     std::string problem;
+    int status = 0;
     {
         Program program(std::move(options));
         QObject::connect(&program.front(), &DesktopFrontEnd::printed, qApp,
                          [](const QString& text) { screenText += text; });
         QObject::connect(&program.front(), &DesktopFrontEnd::questionAnswered, qApp,
                          [](const QString& prompt, const QString& answer) { screenText += prompt + answer + "\n"; });
+        Person person(program);
+        std::atomic<bool> isTold = false;
         std::thread teller([&] {
-            Person person(program);
             try {
                 person.waits();
                 story(person);
@@ -133,26 +144,27 @@ void withProgram(ProgramOptions options, const std::function<void(Person&)>& sto
             }
             QMetaObject::invokeMethod(
                 qApp,
-                [&program] {
-                    while (QWidget* const dialog = QApplication::activeModalWidget())
-                        if (auto* const open = qobject_cast<QDialog*>(dialog))
-                            open->reject();
-                        else
-                            dialog->close();
+                [&] {
+                    isTold = true;
+                    if (person.hasEnded())
+                        return;
                     program.session().processor().requestQuit();
-                    program.front().run(L"._CMDECHO");
+                    program.front().end();
                 },
                 Qt::QueuedConnection);
         });
         QTimer::singleShot(0, qApp, [&] {
-            program.run();
-            QApplication::quit();
+            QApplication::exit(program.run());
         });
-        QApplication::exec();
+        status = QApplication::exec();
+        person.markEnded();
+        while (!isTold)
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
         teller.join();
     }
     if (!problem.empty())
         throw std::runtime_error(problem);
+    return status;
 }
 
 } // namespace quor::desktop::test

@@ -7,6 +7,7 @@
 #include <QPoint>
 #include <QString>
 
+#include <atomic>
 #include <functional>
 
 class QWidget;
@@ -32,6 +33,11 @@ public:
     }
     // Until the program waits for the person again: at a question or in a dialog.
     void waits();
+    // Whether it has ended, now or within the seconds of a person's patience. Then nothing is done any more.
+    [[nodiscard]] bool hasEnded() const { return ended_; }
+    [[nodiscard]] bool sawItEnd() const;
+    // Told by whoever runs the program.
+    void markEnded() { ended_ = true; }
     // Keeps a picture of a widget (null: the main window) among the test output.
     void takesPicture(const QString& name, QWidget* widget = nullptr);
     // What the command line has said so far, prompts and answers included.
@@ -44,11 +50,12 @@ private:
     void post(const std::function<void()>& action);
 
     Program& program_;
+    std::atomic<bool> ended_ = false;
 };
 
 // Runs the program with a person at it: `story` is told in a thread of its own; when it ends, the program is closed
-// without saving. Settings are those of a new user, in a folder of their own.
-void withProgram(ProgramOptions options, const std::function<void(Person&)>& story);
+// without saving, unless the person has ended it; it can be looked at as long as the story is told. Settings are those of a new user, in a folder of their own. The status that the program ends with.
+int withProgram(ProgramOptions options, const std::function<void(Person&)>& story);
 // A new user with the light module, in Chinese, with one new drawing.
 [[nodiscard]] ProgramOptions usualOptions();
 
