@@ -27,6 +27,7 @@ gs::SceneData MadeScene::data() const {
     data.triangles = triangles_;
     data.lights = lights_;
     data.emphasis = emphasis_;
+    data.contents = 1; // a renderer shows one scene only
     return data;
 }
 

@@ -1,15 +1,12 @@
 #include "desktop/render/drawing_lights.h"
 
 #include "desktop/render/dither.h"
-#include "desktop/render/scene_faces.h"
+#include "desktop/render/face_places.h"
+#include "desktop/render/light_meter.h"
 #include "desktop/render/shadow_mask.h"
-
-#include <cmath>
 
 namespace quor::desktop {
 namespace {
-
-constexpr std::size_t kMostShadowLights = 16;
 
 // How many pixels, across and down, are computed as one: more while the picture moves or where pixels are small.
 int sampleSizeOf(const RenderOptions& options) {
@@ -23,68 +20,19 @@ constexpr float kEven = 0.030F;
 constexpr float kTowardsEye = 0.045F;
 constexpr float kMoreInTheDark = 3;
 
-std::array<float, 256> linearBytes() {
-    std::array<float, 256> values{};
-    for (std::size_t i = 0; i < values.size(); ++i)
-        values[i] = std::pow(static_cast<float>(i) / 255, 2.2F);
-    return values;
-}
-
-// The colour of a face as the share of light that it sends back; never all of it.
-Vector3 linearColor(std::uint32_t color) {
-    static const std::array<float, 256> values = linearBytes();
-    constexpr float most = 0.9F;
-    return Vector3(values[(color >> 16) & 0xFFU], values[(color >> 8) & 0xFFU], values[color & 0xFFU]) * most;
-}
-
-Vector3 product(Vector3 a, Vector3 b) { return {a.x * b.x, a.y * b.y, a.z * b.z}; }
-
-// The plane of the triangle that was looked at last: neighbours mostly show the same one.
-class FacePlanes {
-public:
-    FacePlanes(const gs::SceneData& scene, const ViewTransform& view) : scene_(scene), view_(view) {}
-
-    struct Place {
-        Vector3 position;
-        Vector3 normal; // on the side that is seen
-        float facing;   // 0 from the edge, 1 straight on
-    };
-    [[nodiscard]] Place at(std::uint32_t number, int x, int y) {
-        if (number != number_) {
-            number_ = number;
-            const gs::SceneTriangle& triangle = scene_.triangles[number - 1];
-            corner_ = Vector3(triangle.a);
-            normal_ = normalOf(triangle);
-        }
-        const SightLine sight = view_.sightLine(static_cast<float>(x), static_cast<float>(y));
-        const float towards = dot(normal_, sight.direction);
-        const float along = dot(normal_, corner_ - sight.origin) / towards;
-        const Vector3 position = std::isfinite(along) ? sight.origin + sight.direction * along : corner_;
-        const float facing = std::min(std::abs(towards) / length(sight.direction), 1.0F);
-        return {position, towards > 0 ? normal_ * -1 : normal_, facing};
-    }
-
-private:
-    const gs::SceneData& scene_;
-    const ViewTransform& view_;
-    std::uint32_t number_ = 0;
-    Vector3 corner_, normal_;
-};
-
 } // namespace
 
 void DrawingLights::takeSamples(Frame& frame, Band band, const gs::SceneData& scene, const ViewTransform& view,
                                 int block, BandLight& light) {
     light.clear();
-    FacePlanes planes(scene, view);
+    FacePlaces places(scene, view);
     const auto add = [&](std::uint32_t number, std::uint32_t color, int x, int y) {
-        const FacePlanes::Place place = planes.at(number, x, y);
+        const FacePlace place = places.at(number, x, y);
         light.samples.add(place.position, place.normal);
         light.triangles.push_back(number);
         light.dither.push_back(static_cast<std::uint8_t>(ditherAt(x / block, y / block)));
         light.facing.push_back(place.facing);
         light.own.push_back(linearColor(color));
-        light.pixels.push_back(0);
         return static_cast<std::uint32_t>(light.samples.size());
     };
     for (int top = band.top; top < band.bottom; top += block) {
@@ -104,7 +52,6 @@ void DrawingLights::takeSamples(Frame& frame, Band band, const gs::SceneData& sc
                                      std::min(y + block / 2, bottom - 1));
                     }
                     number = sample;
-                    ++light.pixels[sample - 1];
                 }
             }
         }
@@ -120,25 +67,34 @@ void DrawingLights::paint(Frame& frame, Band band, const ToneCurve& curve, BandL
         light.colors[i] = curve.color(product(fallen, light.own[i]), light.dither[i]);
     }
     for (int y = band.top; y < band.bottom; ++y) {
-        const std::uint32_t* const samples = frame.faces(y);
+        std::uint32_t* const samples = frame.faces(y);
         std::uint32_t* const row = frame.row(y);
         for (int x = 0; x < frame.width(); ++x) {
-            if (samples[x] != 0)
-                row[x] = light.colors[samples[x] - 1];
+            if (samples[x] == 0)
+                continue;
+            row[x] = light.colors[samples[x] - 1];
+            samples[x] = light.triangles[samples[x] - 1];
         }
     }
 }
 
-void DrawingLights::light(Frame& frame, Band band, const std::vector<ShadingLight>& lights, int sampleSize,
-                          BandLight& light) const {
-    ShadowMask shadows(frame, band, shadows_, light.samples, light.triangles, sampleSize);
+void DrawingLights::light(Frame& frame, Band band, const std::vector<ShadingLight>& lights,
+                          const RenderOptions& options, BandLight& light) const {
+    const std::size_t shadowLights = options.isMoving || shadows_.isEmpty() ? 0 : kMostShadowLights;
+    ShadowMask shadows(frame, band, shadows_, light.samples, light.triangles, sampleSizeOf(options));
     for (std::size_t i = 0; i < lights.size(); ++i) {
-        if (!shadows_.isEmpty() && i < kMostShadowLights)
+        if (i < shadowLights)
             shadows.apply(lights[i]);
-        else if (i == kMostShadowLights)
+        else if (i == shadowLights)
             shadows.clear();
         light.samples.addLight(lights[i]);
     }
+}
+
+void DrawingLights::findShadows(const gs::SceneData& scene) {
+    if (scene.contents == 0 || scene.contents != shadowsOf_)
+        shadows_.build(scene);
+    shadowsOf_ = scene.contents;
 }
 
 void DrawingLights::shade(Frame& frame, const gs::SceneData& scene, const gs::Camera& camera, const ViewTransform& view,
@@ -146,27 +102,19 @@ void DrawingLights::shade(Frame& frame, const gs::SceneData& scene, const gs::Ca
     if (!view.isValid())
         return;
     const std::vector<ShadingLight> lights = shadingLights(scene, camera, view);
-    if (options.isMoving || lights.empty())
-        shadows_.clear();
-    else
-        shadows_.build(scene);
-    const int sampleSize = sampleSizeOf(options);
+    if (!lights.empty())
+        findShadows(scene);
+    const BrightnessCounts brightness = measuredBrightness(frame, scene, view, lights, shadows_, threads);
+    const ToneCurve curve(brightness);
     const auto count = static_cast<std::size_t>(frame.bandCount());
     bands_.resize(count);
     threads.run(count, [&](std::size_t number) {
-        BandLight& band = bands_[number];
-        takeSamples(frame, frame.band(number), scene, view, sampleSize, band);
-        light(frame, frame.band(number), lights, sampleSize, band);
-        for (std::size_t i = 0; i < band.samples.size(); ++i)
-            band.brightness.add(luminance(product(band.samples.light(i), band.own[i])), band.pixels[i]);
-    });
-    BrightnessCounts brightness;
-    for (const BandLight& band : bands_)
-        brightness.add(band.brightness);
-    const ToneCurve curve(brightness);
-    threads.run(count, [&](std::size_t number) {
-        bands_[number].isDark = brightness.isEmpty();
-        paint(frame, frame.band(number), curve, bands_[number]);
+        const Band band = frame.band(number);
+        BandLight& bandLight = bands_[number];
+        bandLight.isDark = brightness.isEmpty();
+        takeSamples(frame, band, scene, view, sampleSizeOf(options), bandLight);
+        light(frame, band, lights, options, bandLight);
+        paint(frame, band, curve, bandLight);
     });
 }
 
@@ -176,8 +124,6 @@ void DrawingLights::BandLight::clear() {
     dither.clear();
     own.clear();
     facing.clear();
-    pixels.clear();
-    brightness = {};
 }
 
 } // namespace quor::desktop

@@ -54,8 +54,13 @@ void Frame::clear(Band band, const PictureColors& colors) {
     std::fill(depths_.begin() + first, depths_.begin() + last, kFarthest);
     if (hasFaces_)
         std::fill(faces_.begin() + first, faces_.begin() + last, 0U);
+    clearStrokes(band);
+}
+
+void Frame::clearStrokes(Band band) {
     if (hasStrokes_)
-        std::fill(strokes_.begin() + first, strokes_.begin() + last, 0U);
+        std::fill(strokes_.begin() + static_cast<std::ptrdiff_t>(offset(band.top)),
+                  strokes_.begin() + static_cast<std::ptrdiff_t>(offset(band.bottom)), 0U);
 }
 
 } // namespace quor::desktop

@@ -22,6 +22,8 @@ public:
     void start(const PixelBuffer& target, bool needsFaces, bool needsStrokes);
     // The background and nothing on it.
     void clear(Band band, const PictureColors& colors);
+    // No line has been drawn yet.
+    void clearStrokes(Band band);
 
     [[nodiscard]] int width() const { return target_.width; }
     [[nodiscard]] int height() const { return target_.height; }

@@ -1,6 +1,8 @@
 #include "desktop/render/renderer.h"
 
 #include "desktop/render/drawing_lights.h"
+#include "desktop/render/face_tint.h"
+#include "desktop/render/lit_faces.h"
 #include "desktop/render/scene_faces.h"
 #include "desktop/render/scene_glyphs.h"
 #include "desktop/render/scene_lines.h"
@@ -33,24 +35,45 @@ public:
     void render(const gs::SceneData& scene, const gs::Camera& camera, const RenderOptions& options,
                 const PixelBuffer& target) {
         const ViewTransform view(camera, scene.origin, target.width, target.height);
-        const bool isLit = options.style == gs::VisualStyle::Shaded && options.lighting == Lighting::OfDrawing;
+        const bool isLit = gs::showsFaces(options.style) && options.lighting == Lighting::OfDrawing;
+        const LitFaces::Subject subject{scene.contents, camera, options, target.width, target.height};
+        const bool isLitAlready = isLit && litFaces_.areOf(subject);
         frame_.start(target, isLit, !options.isMoving);
-        collect(view.isValid() ? scene : gs::SceneData{}, view, options);
-        const auto bands = static_cast<std::size_t>(frame_.bandCount());
-        if (!isLit) {
-            threads_.run(bands, [&](std::size_t band) {
-                drawFaces(band, options);
-                drawOver(band, options);
-            });
-            return;
+        const gs::SceneData& seen = view.isValid() ? scene : nothing_;
+        collect(seen, view, camera, options, !isLitAlready);
+        if (isLit)
+            tint_.collect(seen);
+        if (isLit && !isLitAlready) {
+            eachBand([&](std::size_t band) { drawFaces(band, options); });
+            lights_.shade(frame_, seen, camera, view, options, threads_);
         }
-        threads_.run(bands, [&](std::size_t band) { drawFaces(band, options); });
-        lights_.shade(frame_, scene, camera, view, options, threads_);
-        threads_.run(bands, [&](std::size_t band) { drawOver(band, options); });
+        const bool isKept = isLit && !isLitAlready && !options.isMoving && scene.contents != 0;
+        if (isKept)
+            litFaces_.start(subject);
+        eachBand([&](std::size_t number) {
+            const Band band = frame_.band(number);
+            if (!isLit)
+                drawFaces(number, options);
+            if (isLitAlready)
+                litFaces_.restore(frame_, band);
+            if (isKept)
+                litFaces_.keep(frame_, band);
+            if (isLit)
+                tint_.apply(frame_, band, options.colors);
+            drawOver(number, options);
+        });
     }
 
 private:
-    void collect(const gs::SceneData& scene, const ViewTransform& view, const RenderOptions& options) {
+    template <class Draw>
+    void eachBand(const Draw& draw) {
+        threads_.run(static_cast<std::size_t>(frame_.bandCount()), draw);
+    }
+
+    void collect(const gs::SceneData& scene, const ViewTransform& view, const gs::Camera& camera,
+                 const RenderOptions& options, bool needsFaces) {
+        const bool isOpen = needsFaces && options.style == gs::VisualStyle::Interior;
+        const gs::CutAway cutAway = isOpen ? gs::CutAway(scene, camera) : gs::CutAway();
         runs_.collect(scene, view);
         const std::size_t pieces = runs_.pieceCount();
         lines_.resize(std::max(lines_.size(), pieces));
@@ -64,8 +87,8 @@ private:
             lines_[piece].start(view.height());
             faces_[piece].start(view.height());
             collectLines(scene, view, options, runs_.piece(piece), lines_[piece]);
-            if (options.style == gs::VisualStyle::Shaded)
-                collectFaces(scene, view, options, runs_.piece(piece), faces_[piece]);
+            if (needsFaces && gs::showsFaces(options.style))
+                collectFaces(scene, view, options, runs_.piece(piece), cutAway, faces_[piece]);
         });
     }
 
@@ -93,6 +116,9 @@ private:
     std::vector<BandBlock<ScreenFace>> faces_;
     SceneGlyphs glyphs_;
     DrawingLights lights_;
+    LitFaces litFaces_;
+    FaceTint tint_;
+    const gs::SceneData nothing_;
 };
 
 Renderer::Renderer(unsigned threads) : parts_(std::make_unique<Parts>(threads)) {}

@@ -26,6 +26,7 @@ struct PictureColors {
     std::uint32_t selected = 0xFF3D9BFF;
     std::uint32_t lightOn = 0xFFFFD54A; // glyphs
     std::uint32_t lightOff = 0xFF8A8F98;
+    bool operator==(const PictureColors&) const = default;
 };
 
 // What lights the faces of a shaded picture.
@@ -41,6 +42,7 @@ struct RenderOptions {
     // While the picture moves it is made faster: less is computed, the size stays.
     bool isMoving = false;
     double pixelRatio = 1; // pixels per logical pixel: lines and glyphs are as much thicker and larger
+    bool operator==(const RenderOptions&) const = default;
 };
 
 class Renderer {

@@ -1,6 +1,7 @@
 #include "desktop/render/scene_faces.h"
 
 #include "desktop/render/colors.h"
+#include "desktop/render/face_tint.h"
 
 namespace quor::desktop {
 namespace {
@@ -27,19 +28,6 @@ private:
     Vector3 key_, fill_, backward_;
 };
 
-std::uint32_t emphasized(std::uint32_t color, gs::Emphasis emphasis, const PictureColors& colors) {
-    constexpr std::uint32_t share = 100;
-    switch (emphasis) {
-    case gs::Emphasis::Hovered:
-        return mixed(color, colors.hovered, share);
-    case gs::Emphasis::Selected:
-        return mixed(color, colors.selected, share);
-    case gs::Emphasis::None:
-        break;
-    }
-    return color;
-}
-
 void addPolygon(const ScreenPolygon& polygon, std::uint32_t color, std::uint32_t number, BandBlock<ScreenFace>& block) {
     for (std::size_t i = 2; i < polygon.count; ++i) {
         const ScreenFace face{.x = {polygon.x[0], polygon.x[i - 1], polygon.x[i]},
@@ -62,7 +50,7 @@ Vector3 normalOf(const gs::SceneTriangle& triangle) {
 }
 
 void collectFaces(const gs::SceneData& scene, const ViewTransform& view, const RenderOptions& options,
-                  std::span<const ItemRun> runs, BandBlock<ScreenFace>& block) {
+                  std::span<const ItemRun> runs, const gs::CutAway& cutAway, BandBlock<ScreenFace>& block) {
     const EyeLights lights(view);
     const bool isLitHere = options.lighting == Lighting::Default;
     const Vector3 eye = view.sightLine(0, 0).origin;
@@ -71,12 +59,13 @@ void collectFaces(const gs::SceneData& scene, const ViewTransform& view, const R
             const bool isThere = std::uint64_t{item.firstTriangle} + item.triangleCount <= scene.triangles.size();
             if (!item.visible || item.triangleCount == 0 || !isThere)
                 continue;
-            const std::uint32_t color =
-                emphasized(Palette::faceColor(item.rgb), emphasisOf(scene, item.entity), options.colors);
+            std::uint32_t color = Palette::faceColor(item.rgb);
+            if (isLitHere)
+                color = emphasized(color, emphasisOf(scene, item.entity), options.colors);
             for (std::uint32_t i = item.firstTriangle; i < item.firstTriangle + item.triangleCount; ++i) {
                 const gs::SceneTriangle& triangle = scene.triangles[i];
                 ScreenPolygon polygon;
-                if (!projectTriangle(view, triangle, polygon))
+                if (cutAway.hides(triangle) || !projectTriangle(view, triangle, polygon))
                     continue;
                 std::uint32_t shown = color;
                 if (isLitHere) {

@@ -35,7 +35,7 @@ public:
         case gs::Emphasis::None:
             break;
         }
-        const bool isEdge = options_.style == gs::VisualStyle::Shaded && item.triangleCount > 0;
+        const bool isEdge = gs::showsFaces(options_.style) && item.triangleCount > 0;
         const std::uint32_t color =
             isEdge ? Palette::edgeColor(Palette::faceColor(item.rgb)) : palette_.lineColor(item.rgb);
         return {color, thin_, kBeforeFaces};

@@ -13,6 +13,20 @@ constexpr float kBeforeLight = 1e-2F;
 
 } // namespace
 
+bool reaches(const ShadingLight& light, const ShadowTree& tree, Vector3 position, Vector3 normal) {
+    const Vector3 from = position + normal * (tree.radius() * kFromFace);
+    if (light.kind == gs::GlyphKind::Distant)
+        return dot(normal, light.direction) >= 0 || !tree.isBlocked(from, light.direction * (-4 * tree.radius()));
+    const Vector3 way = light.position - from;
+    const float distance = length(way);
+    if (dot(normal, way) <= 0)
+        return true;
+    if (light.kind == gs::GlyphKind::Spot && -dot(light.direction, way) < light.cosFalloff * distance)
+        return true;
+    const float share = 1 - std::min(tree.radius() * kBeforeLight / distance, 0.5F);
+    return !tree.isBlocked(from, way * share);
+}
+
 ShadowMask::ShadowMask(Frame& frame, Band band, const ShadowTree& tree, LightSamples& samples,
                        const std::vector<std::uint32_t>& triangles, int sampleSize)
     : frame_(frame), band_(band), tree_(tree), samples_(samples), triangles_(triangles) {
@@ -86,24 +100,8 @@ bool ShadowMask::isOneFace(const Block& block) const {
 float ShadowMask::visible(std::uint32_t sample, const ShadingLight& light) {
     float& known = samples_.visible()[sample - 1];
     if (known == kUnknown)
-        known = look(sample - 1, light);
+        known = reaches(light, tree_, samples_.position(sample - 1), samples_.normal(sample - 1)) ? 1.0F : 0.0F;
     return known;
-}
-
-// Where the light falls on the back of the face or outside its cone, nobody need look.
-float ShadowMask::look(std::size_t i, const ShadingLight& light) const {
-    const Vector3 normal = samples_.normal(i);
-    const Vector3 from = samples_.position(i) + normal * (tree_.radius() * kFromFace);
-    if (light.kind == gs::GlyphKind::Distant)
-        return tree_.isBlocked(from, light.direction * (-4 * tree_.radius())) ? 0.0F : 1.0F;
-    const Vector3 way = light.position - from;
-    const float distance = length(way);
-    if (dot(normal, way) <= 0)
-        return 1;
-    if (light.kind == gs::GlyphKind::Spot && -dot(light.direction, way) < light.cosFalloff * distance)
-        return 1;
-    const float share = 1 - std::min(tree_.radius() * kBeforeLight / distance, 0.5F);
-    return tree_.isBlocked(from, way * share) ? 0.0F : 1.0F;
 }
 
 void ShadowMask::soften(const Block& block) {

@@ -8,6 +8,10 @@
 namespace quor::desktop {
 
 // The number plus one of each pixel's sample stands in the frame.
+// Whether nothing stands between a place and a light. True where that does not matter: behind the face at that place,
+// outside of a cone.
+[[nodiscard]] bool reaches(const ShadingLight& light, const ShadowTree& tree, Vector3 position, Vector3 normal);
+
 class ShadowMask {
 public:
     // `triangles`: what each sample shows; `sampleSize`: how many pixels, across and down, share one.
@@ -29,7 +33,6 @@ private:
     [[nodiscard]] bool lookAt(const Block& block, const ShadingLight& light);
     [[nodiscard]] bool isOneFace(const Block& block) const;
     [[nodiscard]] float visible(std::uint32_t sample, const ShadingLight& light);
-    [[nodiscard]] float look(std::size_t i, const ShadingLight& light) const;
     void soften(const Block& block);
     [[nodiscard]] float meanAround(int x, int y) const;
     [[nodiscard]] std::uint32_t sampleAt(int x, int y) const { return frame_.faces(y)[x]; }

@@ -26,6 +26,7 @@ inline float dot(Vector3 a, Vector3 b) { return a.x * b.x + a.y * b.y + a.z * b.
 inline Vector3 cross(Vector3 a, Vector3 b) {
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
+inline Vector3 product(Vector3 a, Vector3 b) { return {a.x * b.x, a.y * b.y, a.z * b.z}; }
 inline float length(Vector3 a) { return std::sqrt(dot(a, a)); }
 inline bool isFinite(Vector3 a) { return std::isfinite(a.x) && std::isfinite(a.y) && std::isfinite(a.z); }
 

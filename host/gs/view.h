@@ -6,7 +6,12 @@
 
 namespace quor::gs {
 
-enum class VisualStyle { Wireframe, Shaded };
+enum class VisualStyle {
+    Wireframe,
+    Shaded,
+    Interior // shaded, and open towards the eye (CutAway)
+};
+[[nodiscard]] constexpr bool showsFaces(VisualStyle style) { return style != VisualStyle::Wireframe; }
 
 class View {
 public:

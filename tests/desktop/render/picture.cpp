@@ -71,6 +71,7 @@ gs::SceneData HandScene::data() const {
     data.triangles = triangles_;
     data.lights = lights_;
     data.emphasis = emphasis_;
+    data.contents = contents_;
     return data;
 }
 
@@ -79,7 +80,12 @@ Picture::Picture(int width, int height)
       pixels_(static_cast<std::size_t>(stride_) * static_cast<std::size_t>(height + 2), kAround) {}
 
 void Picture::take(const HandScene& scene, const gs::Camera& camera, const RenderOptions& options, unsigned threads) {
-    Renderer(threads).render(scene.data(), camera, options, {pixels_.data() + stride_, width_, height_, stride_});
+    Renderer renderer(threads);
+    take(scene, camera, options, renderer);
+}
+
+void Picture::take(const HandScene& scene, const gs::Camera& camera, const RenderOptions& options, Renderer& renderer) {
+    renderer.render(scene.data(), camera, options, {pixels_.data() + stride_, width_, height_, stride_});
 }
 
 std::uint32_t Picture::at(int x, int y) const {

@@ -21,6 +21,8 @@ public:
     void emphasize(std::uint32_t entity, gs::Emphasis emphasis) { emphasis_[entity] = emphasis; }
     void hide(std::size_t item) { items_[item].visible = false; }
     void setOrigin(const ZrGePoint3d& origin) { origin_ = origin; }
+    // A number for the contents from now on, as scenes of drawings have one.
+    void setContents(std::uint64_t contents) { contents_ = contents; }
     [[nodiscard]] gs::SceneData data() const;
 
 private:
@@ -32,6 +34,7 @@ private:
     std::vector<gs::SceneTriangle> triangles_;
     std::vector<gs::LightMark> lights_;
     std::vector<gs::Emphasis> emphasis_;
+    std::uint64_t contents_ = 0;
 };
 
 // 100 x 100 pixels unless said otherwise; what is around the pixels is watched.
@@ -39,6 +42,8 @@ class Picture {
 public:
     explicit Picture(int width = 100, int height = 100);
     void take(const HandScene& scene, const gs::Camera& camera, const RenderOptions& options, unsigned threads = 1);
+    // With one that has made other pictures before.
+    void take(const HandScene& scene, const gs::Camera& camera, const RenderOptions& options, Renderer& renderer);
     [[nodiscard]] std::uint32_t at(int x, int y) const;
     // Red, green and blue together.
     [[nodiscard]] int brightness(int x, int y) const;
