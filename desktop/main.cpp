@@ -73,10 +73,7 @@ int runProgram(desktop::Options options) {
         program.modules = std::move(options.modules);
     QApplication::setStyle("Fusion");
     desktop::Program running(std::move(program));
-    QTimer::singleShot(0, qApp, [&] {
-        running.run();
-        QApplication::quit();
-    });
+    QTimer::singleShot(0, qApp, [&] { QApplication::exit(running.run()); });
     return QApplication::exec();
 }
 
