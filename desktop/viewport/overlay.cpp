@@ -108,6 +108,10 @@ void paintLabel(QPainter& painter, QPointF cursor, const QRectF& area, const QSt
     paintBox(painter, cursor + kLabelShift, area, lines, colors);
 }
 
+void paintNote(QPainter& painter, const QRectF& area, const QString& text, const ViewportColors& colors) {
+    paintBox(painter, area.topLeft() + QPointF(12, 12), area, {text}, colors);
+}
+
 void paintRubberBand(QPainter& painter, const QPolygonF& line, const ViewportColors& colors) {
     painter.setRenderHint(QPainter::Antialiasing, true);
     QPen pen(colors.rubberBand, 1.2);

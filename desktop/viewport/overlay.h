@@ -29,6 +29,8 @@ void paintSnap(QPainter& painter, gs::Snap::Kind kind, QPointF at, const QRectF&
 // Beside the cursor, inside of the area.
 void paintLabel(QPainter& painter, QPointF cursor, const QRectF& area, const QStringList& lines,
                 const ViewportColors& colors);
+// In the upper left corner: what has to be known of the picture.
+void paintNote(QPainter& painter, const QRectF& area, const QString& text, const ViewportColors& colors);
 // Dashed: from where a line starts to where it would go, or around a rectangle.
 void paintRubberBand(QPainter& painter, const QPolygonF& line, const ViewportColors& colors);
 

@@ -7,6 +7,7 @@
 #include "desktop/viewport/viewport.h"
 #include "host/session.h"
 #include "host/sys/system_variables.h"
+#include "host/texts/viewport.h"
 #include "host/ui/theme.h"
 #include "sdk/db/light.h"
 #include "sdk/db/units.h"
@@ -94,6 +95,8 @@ void Viewport::paintEvent(QPaintEvent*) {
     paintLightLines(painter, projector(), view_->selectedLightLines(), colors);
     paintHovered(painter, projector(), hover_, colors);
     paintUcsIcon(painter, ucsIcon(projector(), view_->document().database()->ucsToWorld()), colors);
+    if (view_->scene().isIncomplete())
+        paintNote(painter, rect(), toQt(texts::kViewportIncomplete), colors);
     paintPointing(painter, colors);
 }
 

@@ -40,11 +40,13 @@ WorkPlane Viewport::plane() const {
 
 Viewport::Aim Viewport::aimAt(QPointF place) const {
     const gs::Projector projector = this->projector();
-    const bool isShaded = visualStyle() == gs::VisualStyle::Shaded;
+    const bool isShaded = gs::showsFaces(visualStyle());
+    const bool isOpen = visualStyle() == gs::VisualStyle::Interior;
     // Faces that are filled are meant where they are seen; of others, only the edges are.
     const int modes = snapModes() | (isShaded ? gs::kSnapFace : 0);
     if (asksForPoint() && areSnapsOn())
-        if (std::optional<gs::Snap> snap = gs::snapAt(view_->scene().data(), projector, place.x(), place.y(), modes))
+        if (std::optional<gs::Snap> snap = gs::snapAt(view_->scene().data(), projector, place.x(), place.y(), modes,
+                                                      gs::kSnapRadius, isOpen))
             return {snap->at, snap};
     const WorkPlane plane = this->plane();
     const ZrGePoint3d meant = meantPoint(projector, place.x(), place.y(), plane);
@@ -57,7 +59,8 @@ Viewport::Aim Viewport::aimAt(QPointF place) const {
 ZrDbObjectId Viewport::objectAt(QPointF place) const {
     gs::PickOptions options;
     options.radius = kPickRadius;
-    options.faces = visualStyle() == gs::VisualStyle::Shaded;
+    options.faces = gs::showsFaces(visualStyle());
+    options.isOpen = visualStyle() == gs::VisualStyle::Interior;
     return gs::pickAt(view_->scene().data(), projector(), place.x(), place.y(), options);
 }
 
@@ -101,7 +104,7 @@ void Viewport::finishRectangle(QPointF place, Qt::KeyboardModifiers modifiers) {
     rectangle_.reset();
     update();
     gs::PickOptions options;
-    options.faces = visualStyle() == gs::VisualStyle::Shaded;
+    options.faces = gs::showsFaces(visualStyle());
     view_->update();
     const ZrDbObjectIdArray picked =
         gs::pickIn(view_->scene().data(), projector(), rectangle.pixels(), rectangle.how(), options);

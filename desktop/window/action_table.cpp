@@ -55,6 +55,7 @@ constexpr ActionRow kRows[] = {
 
     {Style, "wireframe", {L"线框(&W)", L"&Wireframe"},           nullptr, "Ctrl+3", Bar::View, kGroup, kCheck},
     {Style, "shaded",    {L"着色(&S)", L"&Shaded"},              nullptr, "Ctrl+4", Bar::View, false, kCheck},
+    {Style, "interior",  {L"室内(&I)", L"&Interior"},            nullptr, "", Bar::None, false, kCheck},
     {Style, "defaultlighting", {L"默认光源(&D)", L"&Default Lighting"}, nullptr, "", Bar::Light, kGroup, kCheck},
 
     {Draw, "line",       {L"直线(&L)", L"&Line"},                L"_LINE",   ""},

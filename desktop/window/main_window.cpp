@@ -199,6 +199,11 @@ void MainWindow::bindViewActions() {
         viewport_->setVisualStyle(isShaded ? gs::VisualStyle::Wireframe : gs::VisualStyle::Shaded);
     });
     actions_->showState("shaded", [this] { return viewport_->visualStyle() == gs::VisualStyle::Shaded; });
+    actions_->bind("interior", [this] {
+        const bool isOpen = viewport_->visualStyle() == gs::VisualStyle::Interior;
+        viewport_->setVisualStyle(isOpen ? gs::VisualStyle::Shaded : gs::VisualStyle::Interior);
+    });
+    actions_->showState("interior", [this] { return viewport_->visualStyle() == gs::VisualStyle::Interior; });
     actions_->bind("perspective", [this] {
         gs::Camera camera = viewport_->camera();
         const bool isParallel = camera.projection == gs::Projection::Parallel;

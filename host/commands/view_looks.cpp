@@ -6,6 +6,7 @@
 #include "host/sys/system_variables.h"
 #include "host/texts/view.h"
 
+#include <algorithm>
 #include <array>
 
 namespace quor::commands {
@@ -27,6 +28,20 @@ constexpr std::array kSnapNames{
     SnapName{gs::kSnapEnd, L"End", texts::kSnapEndName},
     SnapName{gs::kSnapMiddle, L"Mid", texts::kSnapMidName},
     SnapName{gs::kSnapCenter, L"Center", texts::kSnapCenterName},
+};
+
+struct StyleName {
+    VisualStyle style;
+    const wchar_t* keyword;
+    const Text& name;
+};
+// A style may have more than one keyword; it is called by its first one.
+constexpr std::array kStyleNames{
+    StyleName{VisualStyle::Wireframe, L"Wireframe", texts::kStyleWireframe},
+    StyleName{VisualStyle::Shaded, L"Shaded", texts::kStyleShaded},
+    StyleName{VisualStyle::Interior, L"Interior", texts::kStyleInterior},
+    StyleName{VisualStyle::Wireframe, L"2dwireframe", texts::kStyleWireframe},
+    StyleName{VisualStyle::Shaded, L"Realistic", texts::kStyleShaded},
 };
 
 ZrString describeSnaps(int modes) {
@@ -61,14 +76,13 @@ int visualStyle(Session& session) {
     gs::View* const view = viewFor(session, L"VISUALSTYLE");
     if (view == nullptr)
         return RTERROR;
-    const Text& now = view->visualStyle() == VisualStyle::Shaded ? texts::kStyleShaded : texts::kStyleWireframe;
-    armKeywords(0, L"Wireframe Shaded 2dwireframe Realistic");
+    const auto* const now = std::ranges::find(kStyleNames, view->visualStyle(), &StyleName::style);
+    armKeywords(0, L"Wireframe Shaded Interior 2dwireframe Realistic");
     ZrString answer;
-    const int result = zredGetKword(fill(texts::kAskVisualStyle, now.get()).c_str(), answer);
+    const int result = zredGetKword(fill(texts::kAskVisualStyle, now->name.get()).c_str(), answer);
     if (result != RTNORM)
         return result == RTNONE ? RTNORM : result;
-    const bool shaded = answer == L"Shaded" || answer == L"Realistic";
-    view->setVisualStyle(shaded ? VisualStyle::Shaded : VisualStyle::Wireframe);
+    view->setVisualStyle(std::ranges::find(kStyleNames, answer, &StyleName::keyword)->style);
     return RTNORM;
 }
 

@@ -132,7 +132,8 @@ std::optional<NearEntity> glyphAt(const SceneData& scene, const Projector& proje
     return best;
 }
 
-std::optional<HitFace> faceAt(const SceneData& scene, const Projector& projector, double x, double y, bool all) {
+std::optional<HitFace> faceAt(const SceneData& scene, const Projector& projector, double x, double y, bool all,
+                              const CutAway& cutAway) {
     const PickWindow window(projector, scene.origin, around(x, y, 0));
     const Ray ray = projector.rayAt(x, y);
     const Ray inScene{ZrGePoint3d() + (ray.origin - scene.origin), ray.direction};
@@ -145,7 +146,7 @@ std::optional<HitFace> faceAt(const SceneData& scene, const Projector& projector
         for (const SceneTriangle& triangle : scene.triangles.subspan(item.firstTriangle, item.triangleCount)) {
             const auto way = meet(inScene, inWorld(triangle.a, {}), inWorld(triangle.b, {}), inWorld(triangle.c, {}));
             // A parallel picture shows what is behind its eye, too.
-            if (!way || (!isParallel && *way <= 0) || (first && *way >= *first))
+            if (!way || (!isParallel && *way <= 0) || (first && *way >= *first) || cutAway.hides(triangle))
                 continue;
             first = way;
             entity = item.entity;

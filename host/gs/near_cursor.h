@@ -1,6 +1,7 @@
 // What of a scene is near a place of the picture, and how near.
 #pragma once
 
+#include "host/gs/cut_away.h"
 #include "host/gs/picking.h"
 
 namespace quor::gs {
@@ -24,9 +25,9 @@ struct NearEntity {
 struct HitFace : NearEntity {
     ZrGePoint3d at; // where the ray meets it
 };
-// The foremost one; without `all`, only of what has no lines.
+// The foremost one that is not cut away; without `all`, only of what has no lines.
 [[nodiscard]] std::optional<HitFace> faceAt(const SceneData& scene, const Projector& projector, double x, double y,
-                                            bool all = true);
+                                            bool all = true, const CutAway& cutAway = {});
 
 // Lines so much behind a face still belong to its outline, when they are up to `radius` pixels from where it was hit.
 [[nodiscard]] double hidingMargin(const Projector& projector, const NearEntity& face, double radius);

@@ -95,7 +95,8 @@ ZrDbObjectId pickAt(const SceneData& scene, const Projector& projector, double x
                     const PickOptions& options) {
     if (const auto glyph = glyphAt(scene, projector, x, y, options.glyphRadius))
         return scene.entities[glyph->entity];
-    const std::optional<NearEntity> face = faceAt(scene, projector, x, y, options.faces);
+    const CutAway cutAway = options.isOpen ? CutAway(scene, projector.camera()) : CutAway();
+    const std::optional<NearEntity> face = faceAt(scene, projector, x, y, options.faces, cutAway);
     const double hiddenFrom = options.faces && face ? face->depth + hidingMargin(projector, *face, options.radius)
                                                     : std::numeric_limits<double>::infinity();
     const std::vector<NearEntity> lines = linesNear(scene, projector, x, y, options.radius);

@@ -9,9 +9,10 @@ namespace quor::gs {
 inline constexpr double kGlyphRadius = 11;
 
 struct PickOptions {
-    double radius = 5;      // pixels around the cursor
+    double radius = 5; // pixels around the cursor
     double glyphRadius = kGlyphRadius;
-    bool faces = false;     // triangles are hit inside as well (shaded pictures)
+    bool faces = false;  // triangles are hit inside as well (shaded pictures)
+    bool isOpen = false; // but not those that stand before an interior (CutAway)
 };
 
 // The nearest entity under the cursor; null for none. Hidden and frozen layers are not hit.
@@ -26,8 +27,8 @@ struct PixelRect {
 };
 // Entities that lie wholly inside (window), or also those that the rectangle touches (crossing). In drawing order.
 enum class RectPick { Window, Crossing };
-[[nodiscard]] std::vector<ZrDbObjectId> pickIn(const SceneData& scene, const Projector& projector, const PixelRect& rect,
-                                               RectPick how, const PickOptions& options = {});
+[[nodiscard]] std::vector<ZrDbObjectId> pickIn(const SceneData& scene, const Projector& projector,
+                                               const PixelRect& rect, RectPick how, const PickOptions& options = {});
 
 // Object snaps, as bits of OSMODE.
 inline constexpr int kSnapEnd = 1;
@@ -37,13 +38,15 @@ inline constexpr int kSnapOff = 16384; // they are kept, but switched off
 // On a face, where the ray meets it: a bit of 3DOSMODE, here beside the others.
 inline constexpr int kSnapFace = 1 << 20;
 
+inline constexpr double kSnapRadius = 12; // pixels around the cursor
+
 struct Snap {
     enum class Kind { End, Middle, Center, Face };
     Kind kind;
     ZrGePoint3d at;
 };
-// The snap that is meant at the cursor; nothing when none is near.
-[[nodiscard]] std::optional<Snap> snapAt(const SceneData& scene, const Projector& projector, double x, double y, int modes,
-                                         double radius = 12);
+// The snap that is meant at the cursor; nothing when none is near. `isOpen` as in PickOptions.
+[[nodiscard]] std::optional<Snap> snapAt(const SceneData& scene, const Projector& projector, double x, double y,
+                                         int modes, double radius = kSnapRadius, bool isOpen = false);
 
 } // namespace quor::gs

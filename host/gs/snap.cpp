@@ -57,7 +57,7 @@ void considerLights(Choice& choice, const SceneData& scene, const Projector& pro
 } // namespace
 
 std::optional<Snap> snapAt(const SceneData& scene, const Projector& projector, double x, double y, int modes,
-                           double radius) {
+                           double radius, bool isOpen) {
     if ((modes & kSnapOff) != 0)
         return std::nullopt;
     Choice near;
@@ -86,10 +86,11 @@ std::optional<Snap> snapAt(const SceneData& scene, const Projector& projector, d
     }
     if (near.snap || center.snap)
         return near.snap ? near.snap : center.snap;
-    if ((modes & kSnapFace) != 0)
-        if (const auto face = faceAt(scene, projector, x, y))
-            return Snap{Snap::Kind::Face, face->at};
-    return std::nullopt;
+    if ((modes & kSnapFace) == 0)
+        return std::nullopt;
+    const CutAway cutAway = isOpen ? CutAway(scene, projector.camera()) : CutAway();
+    const auto face = faceAt(scene, projector, x, y, true, cutAway);
+    return face ? std::optional(Snap{Snap::Kind::Face, face->at}) : std::nullopt;
 }
 
 } // namespace quor::gs

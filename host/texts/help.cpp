@@ -281,8 +281,11 @@ constexpr HelpPage kPages[] = {
     {L"VISUALSTYLE", kViews,
      {L"以线框或着色方式显示图形。",
       L"Shows the drawing as lines, or shaded."},
-     {L"线框(W)；着色(S): 面由图形中的光源照亮；DEFAULTLIGHTING 为 1 时由默认光源照亮。",
-      L"Wireframe; Shaded: the lights of the drawing illuminate its faces, or default lighting while DEFAULTLIGHTING is 1."},
+     {L"线框(W)；着色(S): 面由图形中的光源照亮；DEFAULTLIGHTING 为 1 时由默认光源照亮；室内(I): 着色，但不显示挡在视线前的"
+      L"顶棚和外墙，可从外面看到室内。",
+      L"Wireframe; Shaded: the lights of the drawing illuminate its faces, or default lighting while DEFAULTLIGHTING is 1; "
+      L"Interior: shaded, without the ceiling and the outer walls that stand before the eye, so that rooms are looked into "
+      L"from outside."},
      L"VISUALSTYLE S"},
     {L"PROJECTION", kViews,
      {L"以平行投影或透视方式显示图形。",

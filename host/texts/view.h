@@ -61,10 +61,11 @@ inline constexpr Text kNamedViews{L"\n图形中的视图: %s\n", L"\nViews of th
 inline constexpr Text kNoNamedViews{L"\n图形中没有命名视图。\n", L"\nThe drawing has no named views.\n"};
 
 // VISUALSTYLE, PROJECTION, PLAN.
-inline constexpr Text kAskVisualStyle{L"\n输入视觉样式 [线框(W)/着色(S)] <%s>: ",
-                                      L"\nEnter visual style [Wireframe/Shaded] <%s>: "};
+inline constexpr Text kAskVisualStyle{L"\n输入视觉样式 [线框(W)/着色(S)/室内(I)] <%s>: ",
+                                      L"\nEnter visual style [Wireframe/Shaded/Interior] <%s>: "};
 inline constexpr Text kStyleWireframe{L"线框", L"Wireframe"};
 inline constexpr Text kStyleShaded{L"着色", L"Shaded"};
+inline constexpr Text kStyleInterior{L"室内", L"Interior"};
 inline constexpr Text kAskProjection{L"\n输入投影方式 [平行(P)/透视(E)] <%s>: ",
                                      L"\nEnter projection [Parallel/pErspective] <%s>: "};
 inline constexpr Text kProjectionParallel{L"平行", L"Parallel"};

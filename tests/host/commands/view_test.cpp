@@ -215,6 +215,8 @@ TEST_F(ViewCommands, TheVisualStyleIsSwitched) {
     host.run({L"VS", L""});
     EXPECT_EQ(view.visualStyle(), VisualStyle::Shaded);
     EXPECT_TRUE(shows(L"<Shaded>"));
+    host.run({L"VISUALSTYLE I"});
+    EXPECT_EQ(view.visualStyle(), VisualStyle::Interior);
     host.run({L"SHADEMODE W"});
     EXPECT_EQ(view.visualStyle(), VisualStyle::Wireframe);
 }

@@ -1,5 +1,7 @@
 #include "host/gs/cut_away.h"
 
+#include "host/gs/picking.h"
+
 #include <gtest/gtest.h>
 
 namespace quor::gs {
@@ -42,6 +44,16 @@ TEST_F(Room, FromACornerLosesTheWallsInFront) {
     EXPECT_TRUE(hides({1, -1, 1}, ceiling));
     EXPECT_FALSE(hides({1, -1, 1}, west));
     EXPECT_FALSE(hides({1, -1, 1}, floor));
+}
+
+TEST_F(Room, ThatIsOpenIsPickedInside) {
+    const ZrDbObjectId none;
+    data.entities = std::span(&none, 1);
+    camera.target = {4800, 4200, 0};
+    camera.height = 100;
+    const Projector projector(camera, {100, 100});
+    EXPECT_EQ(snapAt(data, projector, 50, 50, kSnapFace, kSnapRadius, true)->at.z, 750);
+    EXPECT_EQ(snapAt(data, projector, 50, 50, kSnapFace)->at.z, kHigh);
 }
 
 TEST_F(Room, FromBelowLosesItsFloor) { EXPECT_TRUE(hides({0, 0, -1}, floor)); }
