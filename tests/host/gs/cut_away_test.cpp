@@ -15,6 +15,7 @@ struct Room : testing::Test {
     Room() {
         items.push_back({.triangleCount = static_cast<std::uint32_t>(triangles.size())});
         data.items = items;
+        data.chunks = chunks;
         data.triangles = triangles;
     }
     bool hides(const ZrGeVector3d& backward, const SceneTriangle& triangle) {
@@ -28,6 +29,7 @@ struct Room : testing::Test {
     SceneTriangle table{{4000, 4000, 750}, {5000, 4000, 750}, {5000, 5000, 750}};
     std::vector<SceneTriangle> triangles{floor, ceiling, east, west, table};
     std::vector<SceneItem> items;
+    std::vector<SceneChunk> chunks{{{0, 0, 0}, {kFar, kFar, kHigh}, 0, 1}};
     SceneData data;
     Camera camera{.target = {kFar / 2, kFar / 2, 0}, .height = kFar};
 };
@@ -52,8 +54,8 @@ TEST_F(Room, ThatIsOpenIsPickedInside) {
     camera.target = {4800, 4200, 0};
     camera.height = 100;
     const Projector projector(camera, {100, 100});
-    EXPECT_EQ(snapAt(data, projector, 50, 50, kSnapFace, kSnapRadius, true)->at.z, 750);
-    EXPECT_EQ(snapAt(data, projector, 50, 50, kSnapFace)->at.z, kHigh);
+    EXPECT_NEAR(snapAt(data, projector, 50, 50, kSnapFace, kSnapRadius, true).value().at.z, 750, 1e-6);
+    EXPECT_NEAR(snapAt(data, projector, 50, 50, kSnapFace).value().at.z, kHigh, 1e-6);
 }
 
 TEST_F(Room, FromBelowLosesItsFloor) { EXPECT_TRUE(hides({0, 0, -1}, floor)); }
