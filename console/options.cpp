@@ -1,6 +1,7 @@
 #include "console/options.h"
 
 #include "console/exit_status.h"
+#include "host/sys/arguments.h"
 #include "host/sys/utf8.h"
 #include "host/texts/console.h"
 
@@ -53,7 +54,7 @@ constexpr FlagRow kFlags[] = {
     {"-h,--help", &Raw::help},    {"--version", &Raw::version},
 };
 
-Notice wrong(const ZrString& why) { return {kWrongUsage, fill(words::kUsageHint, why)}; }
+Notice wrong(const ZrString& why) { return {kWrongUsage, sys::usageHint(L"quorc", why)}; }
 
 void declare(CLI::App& app, Raw& raw) {
     app.set_help_flag();
@@ -66,31 +67,8 @@ void declare(CLI::App& app, Raw& raw) {
         app.add_flag(row.names, raw.*row.value)->disable_flag_override();
 }
 
-// The library's own words begin with the option's name; that of a flag stands without its dashes.
-ZrString optionOf(const CLI::ParseError& error) {
-    const std::string message = error.what();
-    const ZrString name = fromUtf8(message.substr(0, message.find_first_of(": ")));
-    if (name.starts_with(L"-"))
-        return name;
-    return (name.size() == 1 ? L"-" : L"--") + name;
-}
-
-Notice wrongValue(const CLI::ParseError& error, const CLI::App& app) {
-    const ZrString option = optionOf(error);
-    const CLI::Option* known = app.get_option_no_throw(toUtf8(option));
-    const bool isFlag = known == nullptr || known->get_items_expected_max() == 0;
-    return wrong(fill(isFlag ? words::kOptionFlag : words::kOptionValue, option));
-}
-
-// Which option has an empty value although it needs one; null when none has.
-const char* emptyOption(const CLI::App& app) {
-    constexpr const char* needing[] = {"--script", "--output", "--module", "--lang"};
-    for (const char* name : needing)
-        for (const std::string& value : app.get_option(name)->results())
-            if (value.empty())
-                return name;
-    return nullptr;
-}
+// The options that need a value.
+constexpr const char* kNeedValue[] = {"--script", "--output", "--module", "--lang"};
 
 // Scripts and commands in the order in which they were given.
 std::vector<Run> runsInOrder(const CLI::App& app, const Raw& raw) {
@@ -113,29 +91,13 @@ std::optional<Setting> toSetting(const std::string& text) {
     return Setting{fromUtf8(text.substr(0, at)), fromUtf8(text.substr(at + 1))};
 }
 
-// The first argument that no option and no place takes. The mark behind which everything is a name is none.
-std::optional<std::string> superfluous(const CLI::App& app) {
-    for (const std::string& argument : app.remaining())
-        if (argument != "--")
-            return argument;
-    return std::nullopt;
-}
-
 std::variant<Options, Notice> check(const CLI::App& app, Raw& raw) {
     if (raw.help)
         return Notice{kSuccess, words::kHelp.get()};
     if (raw.version)
-        return Notice{kSuccess, fill(words::kVersion, fromUtf8(QUOR_VERSION))};
-    if (const std::optional<std::string> extra = superfluous(app)) {
-        const bool isOption = extra->size() > 1 && extra->front() == '-';
-        return wrong(fill(isOption ? words::kUnknownOption : words::kOneDrawing, fromUtf8(*extra)));
-    }
-    if (const char* option = emptyOption(app))
-        return wrong(fill(words::kOptionEmpty, fromUtf8(option)));
-    if (raw.drawing.empty() && app.get_option("drawing")->count() > 0)
-        return wrong(words::kEmptyDrawingName.get());
-    if (!raw.language.empty() && raw.language != "zh" && raw.language != "en")
-        return wrong(fill(words::kBadLanguage, fromUtf8(raw.language)));
+        return Notice{kSuccess, sys::versionLine(L"quorc")};
+    if (const std::optional<ZrString> why = sys::wrongUsage(app, kNeedValue))
+        return wrong(*why);
 
     Options options;
     for (const std::string& text : raw.settings) {
@@ -155,33 +117,16 @@ std::variant<Options, Notice> check(const CLI::App& app, Raw& raw) {
     return options;
 }
 
-// Even what is wrong with the command line is said in the language that it asks for.
-Language languageOf(std::span<const char* const> arguments, Language usual) {
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        const std::string_view argument = arguments[i];
-        const bool apart = argument == "--lang" && i + 1 < arguments.size();
-        const std::string_view value = apart ? std::string_view(arguments[i + 1]) : argument;
-        if (value == "--lang=en" || (apart && value == "en"))
-            return Language::English;
-        if (value == "--lang=zh" || (apart && value == "zh"))
-            return Language::Chinese;
-    }
-    return usual;
-}
-
 } // namespace
 
 std::variant<Options, Notice> parseOptions(std::span<const char* const> arguments, Language usual) {
-    setLanguage(languageOf(arguments, usual));
+    const std::vector<std::string> given(arguments.begin(), arguments.end());
+    setLanguage(sys::languageOf(given, usual));
     Raw raw;
     CLI::App app;
     declare(app, raw);
-    std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
-    try {
-        app.parse(std::move(reversed));
-    } catch (const CLI::ParseError& error) {
-        return wrongValue(error, app);
-    }
+    if (const std::optional<ZrString> why = sys::readArguments(app, given))
+        return wrong(*why);
     return check(app, raw);
 }
 

@@ -1,12 +1,10 @@
 #include "desktop/options.h"
 
+#include "host/sys/arguments.h"
 #include "host/sys/utf8.h"
-#include "host/texts/text.h"
 #include "host/texts/window.h"
 
 #include <CLI/CLI.hpp>
-
-#include <algorithm>
 
 namespace quor::desktop {
 
@@ -26,30 +24,29 @@ struct Raw {
     bool version = false;
 };
 
-Notice wrong(const Text& text, const std::string& option) { return {kWrongUsage, fill(text, fromUtf8(option))}; }
+// The options that need a value.
+constexpr const char* kNeedValue[] = {"--script", "--module", "--lang"};
+
+Notice wrong(const ZrString& why) { return {kWrongUsage, sys::usageHint(L"quor", why)}; }
 
 void declare(CLI::App& app, Raw& raw) {
     app.set_help_flag();
     app.allow_extras();
     app.add_option("--lang", raw.language);
     app.add_option("--module", raw.modules)->type_size(1)->allow_extra_args(false);
-    app.add_option("--script", raw.scripts)->type_size(1)->allow_extra_args(false);
+    app.add_option("-s,--script", raw.scripts)->type_size(1)->allow_extra_args(false);
     app.add_option("drawings", raw.drawings);
-    app.add_flag("-h,--help", raw.help);
-    app.add_flag("--version", raw.version);
+    app.add_flag("-h,--help", raw.help)->disable_flag_override();
+    app.add_flag("--version", raw.version)->disable_flag_override();
 }
 
-bool isLanguage(const std::string& language) { return language.empty() || language == "zh" || language == "en"; }
-
-std::variant<Options, Notice> accepted(const Raw& raw) {
-    if (!isLanguage(raw.language))
-        return wrong(words::kWrongOption, "--lang " + raw.language);
-    if (!raw.language.empty())
-        setLanguage(raw.language == "en" ? Language::English : Language::Chinese);
+std::variant<Options, Notice> check(const CLI::App& app, const Raw& raw) {
     if (raw.help)
         return Notice{0, words::kUsage.get()};
     if (raw.version)
-        return Notice{0, L"quor " + fromUtf8(QUOR_VERSION) + L"\n"};
+        return Notice{0, sys::versionLine(L"quor")};
+    if (const std::optional<ZrString> why = sys::wrongUsage(app, kNeedValue))
+        return wrong(*why);
     Options options;
     options.drawings.assign(raw.drawings.begin(), raw.drawings.end());
     options.scripts = raw.scripts;
@@ -61,22 +58,14 @@ std::variant<Options, Notice> accepted(const Raw& raw) {
 
 } // namespace
 
-std::variant<Options, Notice> parseOptions(std::span<const std::string> arguments) {
-    CLI::App app;
+std::variant<Options, Notice> parseOptions(std::span<const std::string> arguments, Language usual) {
+    setLanguage(sys::languageOf(arguments, usual));
     Raw raw;
+    CLI::App app;
     declare(app, raw);
-    try {
-        // The library takes the arguments from the back.
-        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
-    } catch (const CLI::ParseError& error) {
-        // Its own words begin with the option's name.
-        const std::string message = error.what();
-        return wrong(words::kMissingValue, message.substr(0, message.find_first_of(": ")));
-    }
-    const std::vector<std::string> unknown = app.remaining();
-    const auto option =
-        std::find_if(unknown.begin(), unknown.end(), [](const std::string& word) { return word.starts_with("-"); });
-    return option == unknown.end() ? accepted(raw) : wrong(words::kWrongOption, *option);
+    if (const std::optional<ZrString> why = sys::readArguments(app, arguments))
+        return wrong(*why);
+    return check(app, raw);
 }
 
 } // namespace quor::desktop

@@ -1,6 +1,7 @@
 // The command line of quor as a value.
 #pragma once
 
+#include "host/texts/text.h"
 #include "sdk/sys/string.h"
 
 #include <filesystem>
@@ -24,8 +25,8 @@ struct Notice {
     ZrString text;
 };
 
-// `arguments` without the program's name; those of the toolkit are taken away before. Speaks the language in use, or
-// the one that --lang names.
-[[nodiscard]] std::variant<Options, Notice> parseOptions(std::span<const std::string> arguments);
+// `arguments` without the program's name and without those of the toolkit. `usual`: the language where --lang names
+// none. Sets the language in use.
+[[nodiscard]] std::variant<Options, Notice> parseOptions(std::span<const std::string> arguments, Language usual);
 
 } // namespace quor::desktop

@@ -5,9 +5,6 @@
 
 namespace quor::texts::console {
 
-// "%s": the version.
-inline constexpr Text kVersion{L"quorc %s\n", L"quorc %s\n"};
-
 inline constexpr Text kHelp{LR"(用法: quorc [选项]... [图形]
 
 在终端、管道或脚本里打开、编辑和保存 DXF 图形。
@@ -106,17 +103,8 @@ Exit status
   After that, a failed command gives 1; with -k the drawing is still saved, and a failed save gives 4.
 )"};
 
-// Wrong usage.
-inline constexpr Text kUsageHint{L"quorc: %s\n使用 quorc --help 查看用法。\n", L"quorc: %s\nSee quorc --help.\n"};
-inline constexpr Text kUnknownOption{L"没有选项“%s”。", L"There is no option \"%s\"."};
-inline constexpr Text kOneDrawing{L"只能打开一个图形，多余的参数是“%s”。",
-                                  L"Only one drawing can be opened; the extra argument is \"%s\"."};
-inline constexpr Text kOptionValue{L"选项 %s 需要且只能有一个值。", L"Option %s takes exactly one value."};
-inline constexpr Text kOptionFlag{L"选项 %s 不带值。", L"Option %s does not take a value."};
-inline constexpr Text kOptionEmpty{L"选项 %s 的值不能为空。", L"The value of option %s must not be empty."};
-inline constexpr Text kBadLanguage{L"--lang 只能是 zh 或 en，不能是“%s”。", L"--lang must be zh or en, not \"%s\"."};
+// Wrong usage; what both programs say is in usage.h.
 inline constexpr Text kBadSetting{L"--set 的格式是 名称=值，不能是“%s”。", L"--set takes NAME=VALUE, not \"%s\"."};
-inline constexpr Text kEmptyDrawingName{L"图形的文件名为空。", L"The drawing file name is empty."};
 
 // Errors, one line each.
 inline constexpr Text kError{L"quorc: %s\n", L"quorc: %s\n"};

@@ -64,28 +64,57 @@ inline constexpr Text kRepeat{L"重复 %s(&R)", L"&Repeat %s"};
 inline constexpr Text kRecentCommands{L"最近的命令(&I)", L"Recent &Commands"};
 
 // Starting.
-inline constexpr Text kUsage{
-    L"用法: quor [选项] [图形…]\n\n"
-    L"在窗口中打开图形 (DXF)；不给出图形时新建一个。\n\n"
-    L"  --lang zh|en     这一次使用的语言\n"
-    L"  --module 模块     加载的模块，可多次给出；默认为 light\n"
-    L"  --script 脚本     启动后运行的脚本，可多次给出\n"
-    L"  -h, --help       显示本说明\n"
-    L"  --version        显示版本\n\n"
-    L"没有显示器的机器上请使用 quorc。\n",
-    L"Usage: quor [OPTIONS] [DRAWING…]\n\n"
-    L"Opens drawings (DXF) in a window; makes a new one when none is given.\n\n"
-    L"  --lang zh|en     language of this run\n"
-    L"  --module NAME    module to load, may be repeated; light unless given\n"
-    L"  --script FILE    script to run after the start, may be repeated\n"
-    L"  -h, --help       show this text\n"
-    L"  --version        show the version\n\n"
-    L"On a machine without a display use quorc.\n"};
-inline constexpr Text kWrongOption{L"quor: 无法识别的选项 %s；请参见 quor --help\n",
-                                   L"quor: unknown option %s; see quor --help\n"};
-inline constexpr Text kMissingValue{L"quor: 选项 %s 需要一个值；请参见 quor --help\n",
-                                    L"quor: option %s needs a value; see quor --help\n"};
+inline constexpr Text kUsage{LR"(用法: quor [选项]... [图形]...
+
+在窗口中打开、编辑和保存 DXF 图形；不给出图形时新建一个。
+没有显示器的机器、管道和脚本请使用 quorc。
+
+选项
+  -s, --script 文件       启动后执行脚本(可重复，按命令行上的顺序执行)
+      --lang zh|en        这一次使用的语言；默认为系统变量 LANGUAGE 所设: zh、en，或 auto(依照
+                          LC_ALL、LC_MESSAGES、LANG)；没有设置时为中文
+      --module 文件       加载模块(可重复)；默认加载程序旁的 light
+  -h, --help              显示本帮助
+      --version           显示版本
+
+示例
+  quor 户型.dxf -s 灯光.scr     打开图形，执行脚本
+  quor --lang en                用英文界面打开新图形
+  quor -- -户型.dxf             文件名以 - 开头时，放在 -- 之后
+
+退出状态
+    0  正常结束
+    2  命令行用法错误
+    3  没有可用的显示器
+  128+N  被信号 N 结束；未保存的工作留有副本，下次启动时可以恢复
+)",
+                             LR"(Usage: quor [OPTIONS]... [DRAWING]...
+
+Opens, edits, and saves DXF drawings in a window; without DRAWING, a new one is started.
+On a machine without a display, in pipes, and in scripts, use quorc.
+
+Options
+  -s, --script FILE       run a script after the start (repeatable; runs in command-line order)
+      --lang zh|en        language of this run; default: the system variable LANGUAGE, set to zh, en,
+                          or auto (from LC_ALL, LC_MESSAGES, LANG); Chinese if it is not set
+      --module FILE       load a module (repeatable); default: light, beside the program
+  -h, --help              show this help
+      --version           show the version
+
+Examples
+  quor plan.dxf -s lights.scr   open a drawing, run a script
+  quor --lang en                start a new drawing in English
+  quor -- -plan.dxf             a file name that begins with - stands behind --
+
+Exit status
+    0  normal end
+    2  incorrect usage
+    3  no display can be used
+  128+N  ended by signal N; copies of unsaved work are kept and offered at the next start
+)"};
 inline constexpr Text kNoDisplay{L"quor: 没有可用的显示器 (DISPLAY 和 WAYLAND_DISPLAY 都未设置)；请使用 quorc\n",
                                  L"quor: there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set); use quorc\n"};
+inline constexpr Text kDisplayRefused{L"quor: 无法使用显示器；请使用 quorc。原因:\n%s\n",
+                                      L"quor: the display cannot be used; use quorc. The reason:\n%s\n"};
 
 } // namespace quor::texts::window
