@@ -97,13 +97,7 @@ std::optional<QString> CandidateList::chosen() const {
 
 void CandidateList::applyColors(const LineColors& colors) {
     colors_ = colors;
-    QPalette palette = this->palette();
-    palette.setColor(QPalette::Base, colors.ground);
-    palette.setColor(QPalette::Text, colors.text);
-    palette.setColor(QPalette::Highlight, colors.selection);
-    palette.setColor(QPalette::HighlightedText, colors.selectedText);
-    setPalette(palette);
-    viewport()->setPalette(palette); // which is what is painted; a change of style leaves it behind
+    giveColors(*this, colors);
 }
 
 } // namespace quor::desktop

@@ -2,6 +2,8 @@
 
 #include "host/ui/theme.h"
 
+#include <QAbstractScrollArea>
+
 namespace quor::desktop {
 
 namespace {
@@ -37,6 +39,16 @@ LineColors LineColors::current() {
     colors.selectedText = toColor(GetSysColor(COLOR_HIGHLIGHTTEXT));
     colors.edge = between(colors.ground, ink, 0.28);
     return colors;
+}
+
+void giveColors(QAbstractScrollArea& area, const LineColors& colors) {
+    QPalette palette = area.palette();
+    palette.setColor(QPalette::Base, colors.ground);
+    palette.setColor(QPalette::Text, colors.text);
+    palette.setColor(QPalette::Highlight, colors.selection);
+    palette.setColor(QPalette::HighlightedText, colors.selectedText);
+    area.setPalette(palette);
+    area.viewport()->setPalette(palette); // which is what is painted; a change of style leaves it behind
 }
 
 } // namespace quor::desktop

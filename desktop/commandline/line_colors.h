@@ -3,6 +3,8 @@
 
 #include <QColor>
 
+class QAbstractScrollArea;
+
 namespace quor::desktop {
 
 struct LineColors {
@@ -19,5 +21,8 @@ struct LineColors {
     // Those of the running session.
     [[nodiscard]] static LineColors current();
 };
+
+// Gives a list or a text these colours.
+void giveColors(QAbstractScrollArea& area, const LineColors& colors);
 
 } // namespace quor::desktop

@@ -79,13 +79,7 @@ void TranscriptView::catchUp() {
 
 void TranscriptView::applyColors(const LineColors& colors) {
     colors_ = colors;
-    QPalette palette = this->palette();
-    palette.setColor(QPalette::Base, colors.ground);
-    palette.setColor(QPalette::Text, colors.text);
-    palette.setColor(QPalette::Highlight, colors.selection);
-    palette.setColor(QPalette::HighlightedText, colors.selectedText);
-    setPalette(palette);
-    viewport()->setPalette(palette); // which is what is painted; a change of style leaves it behind
+    giveColors(*this, colors);
     startAnew();
     catchUp();
 }

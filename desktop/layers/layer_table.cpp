@@ -1,5 +1,6 @@
 #include "desktop/layers/layer_table.h"
 
+#include "desktop/keys.h"
 #include "desktop/layers/state_delegate.h"
 #include "desktop/properties/swatch.h"
 #include "desktop/qt_text.h"
@@ -140,29 +141,13 @@ void LayerTable::want(int row, int column) {
 }
 
 void LayerTable::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    const int key = event->key();
+    if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)
         want(currentRow(), currentColumn());
-        return;
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Home:
-    case Qt::Key_End:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-    case Qt::Key_A:
-        if (event->key() != Qt::Key_A || event->modifiers() == Qt::ControlModifier) {
-            QTableWidget::keyPressEvent(event);
-            return;
-        }
-        [[fallthrough]];
-    default: // what is typed is for others
+    else if (isWalking(key) || (key == Qt::Key_A && event->modifiers() == Qt::ControlModifier))
+        QTableWidget::keyPressEvent(event);
+    else // what is typed is for others
         event->ignore();
-    }
 }
 
 // A click changes what it hits; the name and the mark are only selected.

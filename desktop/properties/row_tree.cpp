@@ -1,5 +1,6 @@
 #include "desktop/properties/row_tree.h"
 
+#include "desktop/keys.h"
 #include "desktop/properties/hint.h"
 #include "desktop/properties/row_delegate.h"
 #include "desktop/properties/swatch.h"
@@ -12,6 +13,7 @@
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <array>
 
 namespace quor::desktop {
 
@@ -236,30 +238,17 @@ QTreeWidgetItem* RowTree::nextEditable(QTreeWidgetItem* from, int step) const {
 }
 
 void RowTree::keyPressEvent(QKeyEvent* event) {
+    constexpr std::array kOpening{Qt::Key_Return, Qt::Key_Enter, Qt::Key_F2, Qt::Key_Space};
     QTreeWidgetItem* const item = currentItem();
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_F2:
-    case Qt::Key_Space:
-        if (item != nullptr && item->parent() == nullptr)
-            item->setExpanded(!item->isExpanded());
-        else
-            edit(item, false);
-        return;
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Home:
-    case Qt::Key_End:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
+    const bool opens = std::ranges::find(kOpening, event->key()) != kOpening.end();
+    if (opens && item != nullptr && item->parent() == nullptr)
+        item->setExpanded(!item->isExpanded());
+    else if (opens)
+        edit(item, false);
+    else if (isWalking(event->key()))
         QTreeWidget::keyPressEvent(event);
-        return;
-    default: // what is typed is for others
+    else // what is typed is for others
         event->ignore();
-    }
 }
 
 // Not at the press: a list that it opened would take its release for a choice.

@@ -88,14 +88,15 @@ int changeProperty(Session& session) {
     if (common == nullptr)
         return result;
     const ZrString label = common->property->label.get();
-    return askUntilTaken(fillShown(texts::kAskPropertyValue, label, objects.valueOf(*common)), [&](const ZrString& typed) {
-        if (const props::Refusal refusal = objects.change(*common, typed)) {
-            printText(L"\n" + visibleText(*refusal) + L"\n");
-            return false;
-        }
-        sayShown(texts::kPropertyChanged, label, objects.count());
-        return true;
-    });
+    return askUntilTaken(fillShown(texts::kAskPropertyValue, label, objects.valueOf(*common)),
+                         [&](const ZrString& typed) {
+                             if (const props::Refusal refusal = objects.change(*common, typed)) {
+                                 printText(L"\n" + visibleText(*refusal) + L"\n");
+                                 return false;
+                             }
+                             sayShown(texts::kPropertyChanged, label, objects.count());
+                             return true;
+                         });
 }
 
 } // namespace quor::commands

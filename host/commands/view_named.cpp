@@ -74,14 +74,20 @@ private:
     db::Journal& journal_;
 };
 
-int save(const Call& call) {
-    const auto name = askLine(texts::kAskViewToSave.get());
+// The name of a view of the drawing's own. RTKWORD for one; else how the command ends.
+int askOwnName(const Text& prompt, std::optional<ZrString>& name) {
+    name = askLine(prompt.get());
     if (!name)
         return RTCAN;
     if (name->empty())
         return RTNORM;
-    if (gs::findStandardView(*name) != nullptr)
-        return failWith(texts::kStandardViewName, *name);
+    return gs::findStandardView(*name) != nullptr ? failWith(texts::kStandardViewName, *name) : RTKWORD;
+}
+
+int save(const Call& call) {
+    std::optional<ZrString> name;
+    if (const int result = askOwnName(texts::kAskViewToSave, name); result != RTKWORD)
+        return result;
     if (!isLayerName(*name))
         return failWith(texts::kBadViewName, *name, kNotInLayerNames);
     if (db::findView(call.drawing(), *name)) {
@@ -100,13 +106,9 @@ int save(const Call& call) {
 }
 
 int deleteView(const Call& call) {
-    const auto name = askLine(texts::kAskViewToDelete.get());
-    if (!name)
-        return RTCAN;
-    if (name->empty())
-        return RTNORM;
-    if (gs::findStandardView(*name) != nullptr)
-        return failWith(texts::kStandardViewName, *name);
+    std::optional<ZrString> name;
+    if (const int result = askOwnName(texts::kAskViewToDelete, name); result != RTKWORD)
+        return result;
     const UndoGroup group(call.drawing());
     if (!db::eraseView(call.drawing(), *name))
         return failWith(texts::kNoSuchView, *name);

@@ -16,8 +16,8 @@ namespace quor::props {
 
 // Takes the writing of a checked value and does it, or refuses.
 using Make = std::function<Refusal(const std::function<Refusal()>& write)>;
-// Reads a typed value and has it written to all objects; what was typed without a change writes nothing. A refusal of the
-// writing itself may come after some were changed: `make` takes that back.
+// Reads a typed value and has it written to all objects; what was typed without a change writes nothing. A refusal of
+// the writing itself may come after some were changed: `make` takes that back.
 [[nodiscard]] Refusal changeCommon(const ZrDbObjectIdArray& ids, const Common& common, const ZrString& typed,
                                    const Context& context, const Make& make);
 
