@@ -42,11 +42,7 @@ bool isInvisible(const ZrDbObjectId& id) {
 } // namespace
 
 void closeWindow(Person& person) {
-    (void)person.sees([&] {
-        QMetaObject::invokeMethod(
-            qApp, [&] { person.program().window().close(); }, Qt::QueuedConnection);
-        return true;
-    });
+    person.doesAtLast([&] { person.program().window().close(); });
 }
 
 void closeWindowAndWait(Person& person) {
@@ -77,16 +73,19 @@ QString openPrompt(Person& person) {
     });
 }
 
+void gives(Person& person, std::initializer_list<const wchar_t*> lines) {
+    for (const wchar_t* const line : lines)
+        person.does([&] { person.program().front().giveText(line); });
+}
+
+void changesDrawing(Person& person) { gives(person, {L"LINE 0,0 5,5 "}); }
+
 void chooses(Person& person, Choice choice) {
     person.does([=] { press(choice); });
 }
 
 void choosesAndLeaves(Person& person, Choice choice) {
-    (void)person.sees([=] {
-        QMetaObject::invokeMethod(
-            qApp, [=] { press(choice); }, Qt::QueuedConnection);
-        return true;
-    });
+    person.doesAtLast([=] { press(choice); });
 }
 
 std::string wrongWithDrawing(Person& person) {

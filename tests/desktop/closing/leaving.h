@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <initializer_list>
+
 namespace quor::desktop::test {
 
 // Closes the main window, as its own button does, and does not wait.
@@ -19,6 +21,11 @@ void closeWindowAndWait(Person& person);
 [[nodiscard]] bool isAtCommandPrompt(Person& person);
 // The question that waits, as it is printed; empty when none does.
 [[nodiscard]] QString openPrompt(Person& person);
+
+// Answers the question that waits.
+void gives(Person& person, std::initializer_list<const wchar_t*> lines);
+// Makes unsaved changes in the current drawing.
+void changesDrawing(Person& person);
 
 // In the question what is to become of the changes of a drawing.
 enum class Choice { Save, Discard, Cancel };

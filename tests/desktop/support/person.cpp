@@ -16,6 +16,7 @@
 #include <QThread>
 #include <QTimer>
 
+#include <memory>
 #include <stdexcept>
 #include <thread>
 
@@ -59,6 +60,18 @@ void Person::waits() {
         if (!waiting)
             QThread::msleep(1);
     }
+}
+
+// What is left for later may leave something for later itself.
+void Person::settles() {
+    constexpr int kRounds = 5;
+    for (int round = 0; round < kRounds && !ended_; ++round) {
+        auto isDone = std::make_shared<std::atomic<bool>>(false);
+        post([isDone] { QTimer::singleShot(0, qApp, [isDone] { *isDone = true; }); });
+        while (!*isDone && !ended_)
+            QThread::msleep(1);
+    }
+    waits();
 }
 
 bool Person::sawItEnd() const {

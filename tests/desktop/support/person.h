@@ -24,6 +24,8 @@ public:
     void presses(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     // Does something to widgets, in the program's thread; a dialog that it opens is not waited for.
     void does(const std::function<void()>& action);
+    // The same without waiting: the program may end with it.
+    void doesAtLast(const std::function<void()>& action) { post(action); }
     // Looks at something, in the program's thread.
     template <class Look>
     auto sees(Look&& look) {
@@ -33,6 +35,8 @@ public:
     }
     // Until the program waits for the person again: at a question or in a dialog.
     void waits();
+    // Until what the windows have left for later is done, too.
+    void settles();
     // Whether it has ended, now or within the seconds of a person's patience. Then nothing is done any more.
     [[nodiscard]] bool hasEnded() const { return ended_; }
     [[nodiscard]] bool sawItEnd() const;
