@@ -80,8 +80,9 @@ void Viewport::setDocument(Document* document) {
         std::unique_ptr<DocumentView>& view = views_[document];
         if (view == nullptr)
             view = std::make_unique<DocumentView>(*document, size(), [this] { update(); });
+        // Meanwhile windows are painted: what is half made is not shown yet.
+        view->update([this](double share) { front_.progress(texts::kViewportMakingPicture.get(), share); });
         view_ = view.get();
-        view_->update([this](double share) { front_.progress(texts::kViewportMakingPicture.get(), share); });
         view_->resize(size());
         followSelection();
     }

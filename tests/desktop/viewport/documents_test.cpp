@@ -1,4 +1,5 @@
 // Several drawings, the theme, and that nothing is rendered for nothing.
+#include "host/db/database.h"
 #include "host/document.h"
 #include "host/sys/system_variables.h"
 #include "tests/desktop/viewport/screen.h"
@@ -27,6 +28,22 @@ TEST(DocumentsTest, EachDrawingKeepsItsCamera) {
         EXPECT_NE(screen.camera(), camera);
         screen.person().does([&] { screen.person().program().session().documents().setCurrent(first); });
         EXPECT_EQ(screen.camera(), camera);
+    });
+}
+
+// Windows are painted while its picture is prepared.
+TEST(DocumentsTest, ALargeDrawingIsShownWholeFromTheStart) {
+    std::string lines;
+    for (int y = 0; y < 20'000; ++y)
+        lines += "0\nLINE\n8\n0\n10\n0\n20\n" + std::to_string(y) + "\n11\n9\n21\n" + std::to_string(y) + "\n";
+    withScreen([&](Screen& screen) {
+        screen.person().does([&] {
+            auto drawing = db::Database::fromBytes("0\nSECTION\n2\nENTITIES\n" + lines + "0\nENDSEC\n0\nEOF\n");
+            screen.person().program().session().documents().adopt(std::move(drawing).value(), "/large.dxf");
+        });
+        screen.waitsUntilStill();
+        EXPECT_NEAR(screen.camera().target.y, 10'000, 1);
+        EXPECT_GT(screen.camera().height, 20'000);
     });
 }
 
