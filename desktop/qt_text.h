@@ -14,6 +14,10 @@ namespace quor::desktop {
     return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
 }
 [[nodiscard]] inline QString toQt(const Text& text) { return toQt(std::wstring_view(text.get())); }
+// A tool tip that shows a text of a person or a file as it stands: Qt would take some for rich text.
+[[nodiscard]] inline QString asTip(const QString& text) {
+    return QStringLiteral("<p style='white-space:pre-wrap'>") + text.toHtmlEscaped() + QStringLiteral("</p>");
+}
 [[nodiscard]] inline ZrString fromQt(const QString& text) { return text.toStdWString(); }
 
 } // namespace quor::desktop

@@ -288,6 +288,8 @@ void CommandLine::takeKey(QKeyEvent* event) {
     const bool isCharacter = !text.isEmpty() && text.front().isPrint() && text != " ";
     const bool pastes = event->matches(QKeySequence::Paste);
     if (isCharacter || pastes) {
+        if (!isVisible())
+            Q_EMIT neededWhileHidden();
         window()->activateWindow();
         input_->setFocus();
     }

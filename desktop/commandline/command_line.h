@@ -66,6 +66,8 @@ public:
 Q_SIGNALS:
     // Esc in an empty line: what else the person has begun is taken back too.
     void escaped();
+    // Something is typed, and it cannot be seen.
+    void neededWhileHidden();
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -68,7 +68,7 @@ void RecoveryDialog::fillList(const std::vector<autosave::LeftCopy>& copies) {
     for (const autosave::LeftCopy& copy : copies) {
         auto* const row = new QTreeWidgetItem(list_, wordsOf(copy));
         row->setCheckState(0, Qt::Checked);
-        row->setToolTip(1, row->text(1));
+        row->setToolTip(1, asTip(row->text(1)));
         row->setTextAlignment(3, Qt::AlignRight | Qt::AlignVCenter);
     }
     list_->header()->setStretchLastSection(false);

@@ -104,7 +104,7 @@ void LayerTable::fill(int row) {
     font.setBold(layer.isCurrent);
     item(row, Name)->setFont(font);
     item(row, Name)->setText(toQt(visibleText(layer.name)));
-    item(row, Name)->setToolTip(item(row, Name)->text());
+    item(row, Name)->setToolTip(asTip(item(row, Name)->text()));
     item(row, Color)->setText(toQt(colorText(layer.color)));
     item(row, Color)->setIcon(swatch(toQt(layer.color), *this));
 }

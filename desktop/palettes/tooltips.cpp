@@ -19,9 +19,6 @@ ZrString tipAmong(const CWnd& parent, CWnd& window) {
 }
 
 // A name is a name, whatever signs stand in it; long ones are broken.
-QString asPlainText(const ZrString& text) {
-    return QStringLiteral("<p style='white-space:pre-wrap'>") + toQt(text).toHtmlEscaped() + QStringLiteral("</p>");
-}
 
 } // namespace
 
@@ -37,7 +34,7 @@ void showTip(QWidget& widget, const ui::WindowRef& window, const QHelpEvent& eve
     if (tip.empty())
         QToolTip::hideText();
     else
-        QToolTip::showText(event.globalPos(), asPlainText(tip), &widget);
+        QToolTip::showText(event.globalPos(), asTip(toQt(tip)), &widget);
 }
 
 void TooltipPeer::changed(CWnd& window, Change change) {

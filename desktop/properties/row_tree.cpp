@@ -98,7 +98,7 @@ void RowTree::fill(QTreeWidgetItem& item, const props::Row& row) const {
     item.setText(kLabel, toQt(row.label));
     item.setText(kValue, toQt(row.text));
     item.setToolTip(kLabel, toQt(row.label));
-    item.setToolTip(kValue, toQt(row.text));
+    item.setToolTip(kValue, asTip(toQt(row.text)));
     item.setData(kValue, RowDelegate::IsEditable, isEditable_ && row.editor != props::Editor::ReadOnly);
     item.setData(kValue, RowDelegate::Color, row.color ? QVariant(toQt(*row.color)) : QVariant());
 }

@@ -4,6 +4,7 @@
 
 #include "desktop/viewport/aiming.h"
 #include "desktop/viewport/document_view.h"
+#include "desktop/viewport/font_letters.h"
 #include "desktop/viewport/hover_sketch.h"
 #include "desktop/viewport/overlay.h"
 #include "desktop/viewport/picked.h"
@@ -138,6 +139,7 @@ private:
     [[nodiscard]] QStringList readOut() const;
     [[nodiscard]] CursorShape cursorShape() const;
 
+    FontLetters letters_;
     Session& session_;
     DesktopFrontEnd& front_;
     std::unique_ptr<Listeners> listeners_;

@@ -81,7 +81,13 @@ void Viewport::leftPress(QPointF place, Qt::KeyboardModifiers modifiers) {
     }
 }
 
+// The button may have been let go where nobody heard of it: over a dialog, or while the host worked.
 void Viewport::mouseMoveEvent(QMouseEvent* event) {
+    if (held_ != Held::Nothing && event->buttons() == Qt::NoButton) {
+        held_ = Held::Nothing;
+        setCursor(Qt::BlankCursor);
+        update();
+    }
     if (held_ == Held::Nothing) {
         point(event->position());
         return;

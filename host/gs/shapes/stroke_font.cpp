@@ -138,6 +138,8 @@ Strokes strokesOf(char32_t character) {
     }
 }
 
+bool isBox(Strokes strokes) { return strokes.data() == kBox.data() || strokes.data() == kWideBox.data(); }
+
 int advanceOf(Strokes strokes) {
     if (strokes.empty())
         return kBlank;

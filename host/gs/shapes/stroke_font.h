@@ -14,6 +14,8 @@ inline constexpr int kCapitalHeight = 6;
 // The letters of ASCII and the signs of degrees, plus-minus and diameter; of any other character a box, a wider one for
 // the scripts of East Asia.
 [[nodiscard]] Strokes strokesOf(char32_t character);
+// Whether they stand for a character that is not known.
+[[nodiscard]] bool isBox(Strokes strokes);
 // How far the next letter stands to the right.
 [[nodiscard]] int advanceOf(Strokes strokes);
 

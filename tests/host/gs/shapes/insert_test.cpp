@@ -1,6 +1,5 @@
 #include "tests/host/gs/shapes/shape_testing.h"
 
-#include <chrono>
 
 namespace quor::gs {
 namespace {
@@ -112,10 +111,8 @@ TEST_F(Shapes, NestingEndsAtTheMostPrimitives) {
 }
 
 TEST_F(Shapes, NestingOfNothingEndsToo) {
-    const auto start = std::chrono::steady_clock::now();
     EXPECT_TRUE(shapeOf(insert("B20", at(0, 0, 0)), nestedBlocks(20, "")).isEmpty());
     EXPECT_TRUE(snapPoints(*database, entityAt(0)).empty());
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
 
 TEST_F(Shapes, AChainOfBlocksEnds) {

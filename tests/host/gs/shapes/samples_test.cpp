@@ -1,6 +1,5 @@
 #include "tests/host/gs/shapes/shape_testing.h"
 
-#include <chrono>
 #include <cmath>
 
 namespace quor::gs {
@@ -47,7 +46,6 @@ struct ShapesOfSamples : testing::TestWithParam<std::string> {
 };
 
 TEST_P(ShapesOfSamples, AreSound) {
-    const auto start = std::chrono::steady_clock::now();
     for (const auto& block : database->structure().blocks())
         for (const db::ObjectEntry* entity : block->entities) {
             Shape shape;
@@ -55,7 +53,6 @@ TEST_P(ShapesOfSamples, AreSound) {
             expectSound(shape);
             (void)snapPoints(*database, *entity);
         }
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
 INSTANTIATE_TEST_SUITE_P(Drawings, ShapesOfSamples, testing::ValuesIn(sampleNames()), nameOf);

@@ -1,3 +1,4 @@
+#include "host/gs/letters.h"
 #include "host/gs/shapes/lettering.h"
 #include "host/gs/shapes/stroke_font.h"
 #include "host/gs/shapes/text_lines.h"
@@ -43,6 +44,21 @@ TEST_F(Shapes, ATextIsStrokesOnItsBaseLine) {
 }
 
 TEST_F(Shapes, LettersFollowEachOther) { expectExtent(shapeOf(text("HH", "")), {0, 0, 0}, {7.5, 6, 0}); }
+
+// A program with fonts draws what the strokes cannot: here a triangle, as wide as a capital is high.
+TEST_F(Shapes, ALetterWithoutStrokesIsDrawnAsItsOutline) {
+    const LetterOutline triangle{{{{0, 0}, {1, 0}, {0.5, 1}, {0, 0}}}, 1.5};
+    setLetterSource([&](char32_t character) { return character == U'\u706F' ? &triangle : nullptr; });
+    const Shape shape = shapeOf(text("\\U+706FH", ""));
+    setLetterSource({});
+    expectNear({shape.lines.begin(), shape.lines.begin() + 6},
+               {{0, 0, 0}, {6, 0, 0}, {6, 0, 0}, {3, 6, 0}, {3, 6, 0}, {0, 0, 0}});
+    expectNear({shape.lines[6]}, {{9, 0, 0}});
+}
+
+TEST_F(Shapes, ALetterThatNobodyKnowsIsABox) {
+    expectExtent(shapeOf(text("\\U+706F", "")), {0, 0, 0}, {4.5, 6, 0});
+}
 
 TEST_F(Shapes, ATextIsTurnedAndStretched) {
     expectExtent(shapeOf(text("H", "50\n90.0\n")), {-6, 0, 0}, {0, 3, 0});
