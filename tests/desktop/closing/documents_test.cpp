@@ -6,7 +6,7 @@
 #include "desktop/window/main_window.h"
 #include "host/commands/drawing_files.h"
 #include "host/document.h"
-#include "tests/desktop/closing/leaving.h"
+#include "tests/desktop/support/leaving.h"
 
 #include <gtest/gtest.h>
 

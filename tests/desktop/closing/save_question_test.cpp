@@ -1,7 +1,7 @@
 // What becomes of changes when the person leaves: the question, its answers, and what follows.
 #include "desktop/window/main_window.h"
 #include "host/document.h"
-#include "tests/desktop/closing/leaving.h"
+#include "tests/desktop/support/leaving.h"
 #include "tests/support/test_session.h"
 
 #include <gtest/gtest.h>

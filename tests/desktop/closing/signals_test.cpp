@@ -4,7 +4,7 @@
 #include "desktop/window/main_window.h"
 #include "host/autosave/recovery.h"
 #include "host/document.h"
-#include "tests/desktop/closing/leaving.h"
+#include "tests/desktop/support/leaving.h"
 #include "tests/support/test_session.h"
 
 #include <gtest/gtest.h>

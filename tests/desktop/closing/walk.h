@@ -1,7 +1,7 @@
 // Goes through every question of a command, each way that its answers lead, and leaves the program at each.
 #pragma once
 
-#include "tests/desktop/closing/leaving.h"
+#include "tests/desktop/support/leaving.h"
 
 #include <QStringList>
 

@@ -9,7 +9,7 @@
 #include "host/document.h"
 #include "host/ed/input_stack.h"
 #include "host/ed/script_source.h"
-#include "tests/desktop/closing/leaving.h"
+#include "tests/desktop/support/leaving.h"
 
 #include <gtest/gtest.h>
 

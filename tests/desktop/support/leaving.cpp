@@ -1,4 +1,4 @@
-#include "tests/desktop/closing/leaving.h"
+#include "tests/desktop/support/leaving.h"
 
 #include "desktop/front/desktop_front_end.h"
 #include "desktop/qt_text.h"
