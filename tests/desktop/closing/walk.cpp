@@ -3,6 +3,7 @@
 #include "desktop/dialogs/task_dialog.h"
 #include "desktop/front/desktop_front_end.h"
 #include "desktop/qt_text.h"
+#include "desktop/window/main_window.h"
 #include "host/document.h"
 #include "host/ed/command_table.h"
 
@@ -53,6 +54,10 @@ QString withoutValues(QString prompt) {
 }
 
 } // namespace
+
+Walk::Walk(Person& person) : person_(person) {
+    person.does([&] { person.program().window().resize(500, 400); });
+}
 
 void Walk::startAnew() {
     person_.does([&] {

@@ -28,7 +28,8 @@ struct Stop {
 
 class Walk {
 public:
-    explicit Walk(Person& person) : person_(person) {}
+    // In a small window, which is painted fast.
+    explicit Walk(Person& person);
 
     // Starts the command in a new drawing with one line in it and unsaved changes, and answers.
     Place go(const QString& command, const Path& path);
