@@ -49,8 +49,8 @@ Program::Program(ProgramOptions options) : options_(std::move(options)), front_(
     });
 }
 
-// Copies go while there are drawings to know them by. The windows of modules go next, while the widgets that show them are still there; the widgets go while the session
-// that they listen to is there.
+// Copies go while there are drawings to know them by. The windows of modules go next, while the widgets that show them
+// are still there; the widgets go while the session that they listen to is there.
 Program::~Program() {
     autosave_.reset();
     session_->modules().unloadAll();

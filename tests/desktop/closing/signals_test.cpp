@@ -56,7 +56,9 @@ TEST_F(SignalsTest, EveryDrawingWithChangesIsKept) {
 
 TEST_F(SignalsTest, TheCommandThatRunsIsGivenUp) {
     EXPECT_EQ(endedBy(SIGTERM,
-                      [](Person& person) { gives(person, {L"DEFAULTLIGHTING 0", L"POINTLIGHT", L"1,1", L"I"}); }),
+                      [](Person& person) {
+                          gives(person, {L"DEFAULTLIGHTING 0", L"POINTLIGHT", L"1,1", L"I"});
+                      }),
               128 + SIGTERM);
 }
 

@@ -110,8 +110,7 @@ TEST(WhileOpenTest, TheMenuOfAPalette) {
         ListView& list = lights(person);
         person.settles();
         person.does([&] {
-            QTest::mouseClick(list.viewport(), Qt::RightButton, {},
-                              list.rowRect(0).center() - list.viewport()->pos());
+            QTest::mouseClick(list.viewport(), Qt::RightButton, {}, list.rowRect(0).center() - list.viewport()->pos());
         });
         EXPECT_NE(openMenu(person), "");
     });
@@ -180,9 +179,8 @@ TEST(WhileOpenTest, ABlockThatIsEdited) {
     leavesWithoutSaving(
         [](Person& person) {
             gives(person, {L"REFEDIT", L"#60", L"", L"LINE 100,0 101,1 "});
-            EXPECT_TRUE(person.sees([&] {
-                return person.program().session().documents().current()->drawing().refEdit().isActive();
-            }));
+            EXPECT_TRUE(person.sees(
+                [&] { return person.program().session().documents().current()->drawing().refEdit().isActive(); }));
         },
         withDrawing(kLuminaires));
 }
