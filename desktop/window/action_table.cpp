@@ -22,7 +22,7 @@ constexpr ActionRow kRows[] = {
     {File, "saveas",     {L"另存为(&A)…", L"Save &As…"},         L"_SAVEAS",  "Ctrl+Shift+S"},
     {File, "recover",    {L"修复(&V)…", L"Reco&ver…"},           L"_RECOVER", "", Bar::None, kGroup, false, kAnytime},
     {File, "script",     {L"运行脚本(&T)…", L"Run Scrip&t…"},     L"_SCRIPT",  "", Bar::None, false, false, kAnytime},
-    {File, "close",      {L"关闭(&C)", L"&Close"},               L"_CLOSE",   "Ctrl+W", Bar::None, kGroup},
+    {File, "close",      {L"关闭(&C)", L"&Close"},               L"_CLOSE",   "Ctrl+W; Ctrl+F4", Bar::None, kGroup},
     {File, "quit",       {L"退出(&X)", L"E&xit"},                nullptr,     "Ctrl+Q", Bar::None, false, false, kAnytime},
 
     {Edit, "undo",       {L"放弃(&U)", L"&Undo"},                L"_U",       "Ctrl+Z", Bar::File, kGroup},
@@ -39,6 +39,8 @@ constexpr ActionRow kRows[] = {
     {View, "regen",      {L"重生成(&G)", L"Re&generate"},         L"_REGEN",   "F5"},
     {View, "perspective", {L"透视投影(&T)", L"Perspec&tive"},     nullptr,     "Ctrl+5", Bar::View, kGroup, kCheck},
     {View, "glyphs",     {L"显示光源图标(&I)", L"Light Gl&yphs"}, nullptr,     "", Bar::None, false, kCheck},
+    {View, "nextdrawing",     {L"下一个图形(&D)", L"Next &Drawing"},     nullptr, "Ctrl+Tab", Bar::None, kGroup},
+    {View, "previousdrawing", {L"上一个图形(&R)", L"P&revious Drawing"}, nullptr, "Ctrl+Shift+Tab"},
     {View, "textwindow", {L"文本窗口(&X)", L"Te&xt Window"},      nullptr,     "F2", Bar::None, kGroup, kCheck, kAnytime},
 
     {NamedViews, "viewtop",    {L"俯视(&T)", L"&Top"},            L"'_VIEW _TOP",    "Ctrl+Alt+1", Bar::View, kGroup},
@@ -75,9 +77,9 @@ constexpr ActionRow kRows[] = {
     {Light, "lighttable",   {L"光源表(&A)", L"Light T&able"},             L"_LIGHTTABLE",   ""},
     {Light, "iesinfo",      {L"光域网文件信息(&I)…", L"Photometric Web &Info…"}, L"_IESINFO", "", Bar::None, false, false, kAnytime},
 
-    {Units, "unitsgeneric",  words::kUnitsGeneric,       L"'LIGHTINGUNITS 0", "", Bar::None, false, kCheck},
-    {Units, "unitsamerican", words::kUnitsAmerican,      L"'LIGHTINGUNITS 1", "", Bar::None, false, kCheck},
-    {Units, "unitssi",       words::kUnitsInternational, L"'LIGHTINGUNITS 2", "", Bar::None, false, kCheck},
+    {Units, "unitsgeneric",  {L"常规(&G)", L"&Generic"}, L"'LIGHTINGUNITS 0", "", Bar::None, false, kCheck},
+    {Units, "unitsamerican", {L"美制(&A)", L"&American"}, L"'LIGHTINGUNITS 1", "", Bar::None, false, kCheck},
+    {Units, "unitssi",       {L"国际(&I)", L"&International"}, L"'LIGHTINGUNITS 2", "", Bar::None, false, kCheck},
 
     {Panels, "layers",      {L"图层(&L)", L"&Layers"},          nullptr, "", Bar::None, false, kCheck, kAnytime},
     {Panels, "commandline", {L"命令行(&C)", L"&Command Line"},  nullptr, "Ctrl+9", Bar::None, false, kCheck, kAnytime},

@@ -16,7 +16,7 @@ struct ActionRow {
     const char* name; // of the action and of its icon
     Text text;
     const wchar_t* line = nullptr; // typed; null: done by the window
-    const char* shortcut = "";
+    const char* shortcuts = ""; // several are parted by "; "
     ToolBarPlace toolBar = ToolBarPlace::None;
     bool startsGroup = false;       // a separator stands before it
     bool isCheckable = false;       // shows a state of the program

@@ -62,7 +62,7 @@ void Actions::addActions(QMainWindow& window, const std::function<void(const Act
     for (const ActionRow& row : actionRows()) {
         auto* const action = new QAction(iconOf(row.name), toQt(row.text), &window);
         action->setObjectName(row.name);
-        action->setShortcut(QKeySequence(row.shortcut));
+        action->setShortcuts(QKeySequence::listFromString(row.shortcuts));
         action->setCheckable(row.isCheckable);
         action->setToolTip(tipOf(row, *action));
         action->setStatusTip(action->toolTip());
@@ -72,7 +72,6 @@ void Actions::addActions(QMainWindow& window, const std::function<void(const Act
             menus_[row.menu]->addSeparator();
         menus_[row.menu]->addAction(action);
         entries_[row.name] = {&row, action, {}};
-        order_.emplace_back(row.name);
     }
     // Submenus stand behind the actions of their parent.
     for (const MenuRow& row : menuRows())
@@ -87,13 +86,12 @@ void Actions::addToolBars(QMainWindow& window) {
         QToolBar* const bar = window.addToolBar(toQt(row.title));
         bar->setObjectName(row.name);
         bar->setIconSize(QSize(20, 20));
-        for (const std::string_view name : order_) {
-            const Entry& entry = entries_.at(name);
-            if (entry.row->toolBar != row.place)
+        for (const ActionRow& shown : actionRows()) {
+            if (shown.toolBar != row.place)
                 continue;
-            if (entry.row->startsGroup && !bar->actions().isEmpty())
+            if (shown.startsGroup && !bar->actions().isEmpty())
                 bar->addSeparator();
-            bar->addAction(entry.action);
+            bar->addAction(&action(shown.name));
         }
         toolBars_.push_back(bar);
     }
@@ -103,8 +101,11 @@ void Actions::bind(std::string_view name, std::function<void()> action) {
     connect(entries_.at(name).action, &QAction::triggered, this, std::move(action));
 }
 
+// Choosing an action switches its mark, whatever comes of it.
 void Actions::showState(std::string_view name, std::function<bool()> isChecked) {
-    entries_.at(name).isChecked = std::move(isChecked);
+    Entry& entry = entries_.at(name);
+    entry.isChecked = std::move(isChecked);
+    connect(entry.action, &QAction::triggered, this, [&entry] { entry.action->setChecked(entry.isChecked()); });
 }
 
 void Actions::refresh(bool hasDrawing) {

@@ -33,7 +33,7 @@ public:
     [[nodiscard]] QAction& action(std::string_view name) const;
     [[nodiscard]] QMenu& menu(MenuPlace place) const;
     [[nodiscard]] const std::vector<QToolBar*>& toolBars() const { return toolBars_; }
-    // Icons and texts anew: the theme has changed.
+    // Icons anew: the theme has changed.
     void refreshIcons();
 
 private:
@@ -48,7 +48,6 @@ private:
     void addToolBars(QMainWindow& window);
 
     std::map<std::string_view, Entry> entries_;
-    std::vector<std::string_view> order_;
     std::map<MenuPlace, QMenu*> menus_;
     std::vector<QToolBar*> toolBars_;
 };

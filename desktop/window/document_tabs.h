@@ -17,6 +17,8 @@ public:
     explicit DocumentTabs(DocumentManager& documents, QWidget* parent = nullptr);
     // As many tabs as drawings, with their names and marks, the current one in front.
     void refresh();
+    // Chooses the drawing that stands so many places on; behind the last one comes the first.
+    void step(int places);
 
 Q_SIGNALS:
     // A person wants that drawing; its place among the open ones.
@@ -27,8 +29,10 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    void addDrawing();
+    [[nodiscard]] int tabWith(const QWidget* button) const;
+
     DocumentManager& documents_;
-    bool isRefreshing_ = false;
 };
 
 } // namespace quor::desktop

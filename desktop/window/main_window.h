@@ -1,8 +1,9 @@
-// The main window: the drawing in the middle, the command line below, palettes around, menus and tool bars above. It puts
-// the widgets together and keeps what they show up to date; what they do is their own.
+// The main window: the drawing in the middle, the command line below, palettes around, menus and tool bars above. It
+// puts the widgets together and keeps what they show up to date; what they do is their own.
 #pragma once
 
 #include "desktop/front/parts.h"
+#include "desktop/window/layout.h"
 #include "desktop/window/recent_files.h"
 #include "host/texts/text.h"
 #include "sdk/ed/documents.h"
@@ -20,7 +21,6 @@ class Session;
 
 namespace quor::desktop {
 
-struct ActionRow;
 class Actions;
 class CommandLine;
 class DesktopFrontEnd;
@@ -28,6 +28,7 @@ class Dialogs;
 class DocumentTabs;
 class PaletteHost;
 class StatusBar;
+class Typing;
 class Viewport;
 
 class MainWindow final : public QMainWindow, public PanelPart, public ZrApDocumentReactor {
@@ -41,10 +42,9 @@ public:
     [[nodiscard]] CommandLine& commandLine() { return *commandLine_; }
     [[nodiscard]] Actions& actions() { return *actions_; }
     // Where docks and tool bars stand, as the person left them.
-    void restoreLayout();
-    void saveLayout();
-    // The palettes of modules that were shown then; once modules are loaded and drawings open.
-    void restorePalettes();
+    void restoreLayout() { layout_.restore(); }
+    void restorePalettes() { layout_.restorePalettes(); }
+    void saveLayout() { layout_.save(); }
 
     void showProperties() override;
     void showLayers() override;
@@ -66,21 +66,13 @@ private:
     void makeDocks();
     void connectViewport();
     void connectQuestions();
+    void addRecentMenu();
     void bindActions();
-    void bindViewActions();
-    void bindVariableActions();
     QDockWidget* addDock(const char* name, const Text& title, QWidget* content, Qt::DockWidgetArea area);
-    // What a menu does: a transparent command runs within the one that waits, any other one after Esc.
-    void type(const ActionRow& row);
-    void typeOpen(const ZrString& file);
-    void switchVariable(const wchar_t* name);
-    [[nodiscard]] bool isOn(const wchar_t* variable) const;
-    void chooseDocument(int index, bool close);
     // Once, after all that happens now.
     void refreshSoon() { refresh_.start(); }
     void refresh();
     void refreshTheme();
-    void refreshRecentFiles();
     void showContextMenu(const QPoint& at);
     // Whether the person is being asked about changes on the way out.
     [[nodiscard]] bool isQuitting() const;
@@ -90,6 +82,8 @@ private:
     RecentFiles recent_;
     std::unique_ptr<Dialogs> dialogs_;
     std::unique_ptr<PaletteHost> palettes_;
+    Layout layout_;
+    Typing* typing_;
     Actions* actions_;
     DocumentTabs* tabs_;
     Viewport* viewport_;

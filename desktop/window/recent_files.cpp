@@ -1,5 +1,6 @@
 #include "desktop/window/recent_files.h"
 
+#include "host/document.h"
 #include "host/sys/settings_store.h"
 #include "host/sys/utf8.h"
 
@@ -21,6 +22,17 @@ std::vector<ZrString> RecentFiles::all() const {
         if (const std::optional<std::wstring> file = settings_.get(kSection, keyOf(i)); file && !file->empty())
             files.push_back(*file);
     return files;
+}
+
+void RecentFiles::follow(const DocumentManager& documents) {
+    std::vector<std::filesystem::path> open;
+    for (const auto& document : documents.all())
+        if (!document->path().empty())
+            open.push_back(document->path());
+    for (const std::filesystem::path& file : open)
+        if (std::ranges::find(open_, file) == open_.end())
+            add(file);
+    open_ = std::move(open);
 }
 
 void RecentFiles::add(const std::filesystem::path& file) {

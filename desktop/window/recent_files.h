@@ -7,8 +7,9 @@
 #include <vector>
 
 namespace quor {
+class DocumentManager;
 class SettingsStore;
-}
+} // namespace quor
 
 namespace quor::desktop {
 
@@ -20,6 +21,8 @@ public:
 
     // The last one first.
     [[nodiscard]] std::vector<ZrString> all() const;
+    // Adds the files of drawings that were opened, or saved under another name, since the last look.
+    void follow(const DocumentManager& documents);
     // Puts a file in front; a file that was there already moves.
     void add(const std::filesystem::path& file);
     void clear();
@@ -28,6 +31,7 @@ private:
     void keep(const std::vector<ZrString>& files);
 
     SettingsStore& settings_;
+    std::vector<std::filesystem::path> open_; // at the last look
 };
 
 } // namespace quor::desktop

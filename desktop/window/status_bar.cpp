@@ -99,8 +99,8 @@ void StatusBar::refresh() {
     }
     units_->setCurrentIndex(session_.variables().number(L"LIGHTINGUNITS"));
     const db::Ucs ucs = document->drawing().ucs();
-    const bool isWorld = ucs.origin == ZrGePoint3d() && ucs.xAxis == ZrGeVector3d::kXAxis &&
-                         ucs.yAxis == ZrGeVector3d::kYAxis;
+    const bool isWorld =
+        ucs.origin == ZrGePoint3d() && ucs.xAxis == ZrGeVector3d::kXAxis && ucs.yAxis == ZrGeVector3d::kYAxis;
     const ZrString name = isWorld ? words::kUcsWorld.get() : ucs.name.empty() ? words::kUcsUnnamed.get() : ucs.name;
     ucs_->setText(" " + toQt(fill(words::kUcs, name)) + " ");
 }

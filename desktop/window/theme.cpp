@@ -1,8 +1,10 @@
 #include "desktop/window/theme.h"
 
+#include "desktop/window/style.h"
 #include "sdk/ui/theme.h"
 
 #include <QApplication>
+#include <QPointer>
 
 namespace quor::desktop {
 
@@ -12,17 +14,38 @@ QColor qtColor(COLORREF color) {
     return {static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF), static_cast<int>(color >> 16 & 0xFF)};
 }
 
+// %1: lines; %2, %3: sheet and ink; %4: ink of what is switched off; %5, %6: ground and edge of what is on; %7: the
+// keyboard is here.
+constexpr const char* kRules = R"(
+QToolTip { color: %3; background: %2; border: 1px solid %1; padding: 3px; }
+QMainWindow::separator { background: %1; width: 3px; height: 3px; }
+QMainWindow::separator:hover { background: palette(highlight); }
+QStatusBar::item { border: none; }
+QStatusBar QToolButton { color: %4; border: 1px solid transparent; border-radius: 3px; padding: 2px 7px; }
+QStatusBar QToolButton:hover { border-color: %1; }
+QStatusBar QToolButton:checked { color: %3; background: %5; border-color: %6; }
+QStatusBar QToolButton:focus { border-color: %7; }
+QToolBar { border: none; spacing: 2px; padding: 2px; }
+QToolBar::separator { background: %1; width: 1px; margin: 4px 3px; }
+QDockWidget::title { background: palette(window); padding: 5px; }
+)";
+
 QString ruleSheet(const QPalette& palette) {
-    const QString line = mixed(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.18).name();
-    const QString base = palette.color(QPalette::Base).name();
-    const QString text = palette.color(QPalette::WindowText).name();
-    return QStringLiteral("QToolTip { color: %3; background: %2; border: 1px solid %1; padding: 3px; }"
-                          "QMainWindow::separator { background: %1; width: 3px; height: 3px; }"
-                          "QMainWindow::separator:hover { background: palette(highlight); }"
-                          "QStatusBar::item { border: none; }"
-                          "QToolBar { border: none; spacing: 2px; padding: 2px; }"
-                          "QDockWidget::title { background: palette(window); padding: 5px; }")
-        .arg(line, base, text);
+    const QColor ground = palette.color(QPalette::Window);
+    const QColor ink = palette.color(QPalette::WindowText);
+    const QColor accent = palette.color(QPalette::Link);
+    return QString(kRules).arg(mixed(ground, ink, 0.18).name(), palette.color(QPalette::Base).name(), ink.name(),
+                               mixed(ground, ink, 0.65).name(), mixed(ground, accent, 0.25).name(),
+                               mixed(ground, accent, 0.7).name(), accent.name());
+}
+
+// The application takes it, and takes it along when it goes.
+void useProgramStyle() {
+    static QPointer<QStyle> style;
+    if (style != nullptr)
+        return;
+    style = new ProgramStyle;
+    QApplication::setStyle(style);
 }
 
 } // namespace
@@ -63,6 +86,7 @@ QPalette paletteOf(const ZwTheme& theme) {
 }
 
 void applyTheme(const ZwTheme& theme) {
+    useProgramStyle();
     const QPalette palette = paletteOf(theme);
     QApplication::setPalette(palette);
     qApp->setStyleSheet(ruleSheet(palette));
