@@ -1,25 +1,15 @@
 #include "desktop/render/face_places.h"
 
 #include "desktop/render/scene_faces.h"
+#include "desktop/render/tone_mapping.h"
 
 #include <cmath>
 
 namespace quor::desktop {
-namespace {
-
-std::array<float, 256> linearBytes() {
-    std::array<float, 256> values{};
-    for (std::size_t i = 0; i < values.size(); ++i)
-        values[i] = std::pow(static_cast<float>(i) / 255, 2.2F);
-    return values;
-}
-
-} // namespace
 
 Vector3 linearColor(std::uint32_t color) {
-    static const std::array<float, 256> values = linearBytes();
     constexpr float most = 0.9F;
-    return Vector3(values[(color >> 16) & 0xFFU], values[(color >> 8) & 0xFFU], values[color & 0xFFU]) * most;
+    return linearLight(color) * most;
 }
 
 FacePlace FacePlaces::at(std::uint32_t number, int x, int y) {

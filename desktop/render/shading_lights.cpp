@@ -1,5 +1,6 @@
 #include "desktop/render/shading_lights.h"
 
+#include "desktop/render/tone_mapping.h"
 #include "host/gs/light_distribution.h"
 
 #include <algorithm>
@@ -7,8 +8,6 @@
 
 namespace quor::desktop {
 namespace {
-
-float linear(std::uint32_t rgb, int shift) { return std::pow(static_cast<float>((rgb >> shift) & 0xFFU) / 255, 2.2F); }
 
 // Half the diagonal of what is there; of a scene of nothing 1.
 float sceneRadius(const gs::SceneData& scene) {
@@ -27,36 +26,48 @@ float sceneRadius(const gs::SceneData& scene) {
     return radius > 0 && std::isfinite(radius) ? radius : 1;
 }
 
-// False when the light sends nothing that can be computed with.
-bool makeLight(const gs::LightMark& mark, const ViewTransform& view, float radius, ShadingLight& light) {
+// Its distance counts where it has a place; a distant light shines as from the distance of the scene's size.
+float strengthOf(const gs::LightMark& mark, float radius) {
     constexpr double strongest = 1e18;
     if (!mark.isOn || !(mark.candela > 0))
-        return false;
-    auto strength = static_cast<float>(std::min(mark.candela, strongest));
+        return 0;
+    const auto strength = static_cast<float>(std::min(mark.candela, strongest));
+    return mark.kind == gs::GlyphKind::Distant ? strength / (radius * radius) : strength;
+}
+
+float strengthAt(const gs::LightMark& mark, Vector3 position, Vector3 target, float radius) {
+    const Vector3 color = linearLight(mark.rgb);
+    const float strength = (color.x + color.y + color.z) * strengthOf(mark, radius);
     if (mark.kind == gs::GlyphKind::Distant)
-        strength /= radius * radius;
+        return strength;
+    const Vector3 way = position - target;
+    return strength / (dot(way, way) + radius * radius * 1e-4F);
+}
+
+ShadingLight makeLight(const gs::LightMark& mark, const ViewTransform& view, float radius) {
     const auto cosOfHalf = [](double angle) {
         return static_cast<float>(std::cos(std::clamp(angle, 0.0, 2 * std::numbers::pi) / 2));
     };
+    ShadingLight light;
     light.kind = mark.kind;
     light.position = Vector3(view.relative(mark.position));
     light.direction = normalized(Vector3(mark.direction));
-    light.color = Vector3(linear(mark.rgb, 16), linear(mark.rgb, 8), linear(mark.rgb, 0)) * strength;
+    light.color = linearLight(mark.rgb) * strengthOf(mark, radius);
     light.cosFalloff = cosOfHalf(std::isfinite(mark.falloff) ? mark.falloff : 0);
     light.cosHotspot = cosOfHalf(std::isfinite(mark.hotspot) ? std::min(mark.hotspot, mark.falloff) : 0);
     light.web = mark.distribution.get();
     std::transform(mark.axes.begin(), mark.axes.end(), light.axes.begin(),
                    [](const ZrGeVector3d& axis) { return Vector3(axis); });
-    return isFinite(light.position) && isFinite(light.color) && isFinite(light.direction);
+    return light;
 }
 
-float strengthAt(const ShadingLight& light, Vector3 target, float radius) {
-    const float strength = light.color.x + light.color.y + light.color.z;
-    if (light.kind == gs::GlyphKind::Distant)
-        return strength;
-    const Vector3 way = light.position - target;
-    return strength / (dot(way, way) + radius * radius * 1e-4F);
-}
+struct Candidate {
+    float strength = 0; // at the target
+    std::uint32_t mark = 0;
+    [[nodiscard]] bool matters(const Candidate& than) const {
+        return strength != than.strength ? strength > than.strength : mark < than.mark;
+    }
+};
 
 } // namespace
 
@@ -64,17 +75,23 @@ std::vector<ShadingLight> shadingLights(const gs::SceneData& scene, const gs::Ca
                                         const ViewTransform& view) {
     const float radius = sceneRadius(scene);
     const Vector3 target(view.relative(camera.target));
-    std::vector<ShadingLight> lights;
-    for (const gs::LightMark& mark : scene.lights) {
-        ShadingLight light;
-        if (makeLight(mark, view, radius, light))
-            lights.push_back(light);
+    std::vector<Candidate> candidates;
+    candidates.reserve(scene.lights.size());
+    for (std::size_t i = 0; i < scene.lights.size(); ++i) {
+        const gs::LightMark& mark = scene.lights[i];
+        const Vector3 position(view.relative(mark.position));
+        const float strength = strengthAt(mark, position, target, radius);
+        if (strength > 0 && isFinite(position) && isFinite(Vector3(mark.direction)))
+            candidates.push_back({strength, static_cast<std::uint32_t>(i)});
     }
-    std::stable_sort(lights.begin(), lights.end(), [&](const ShadingLight& a, const ShadingLight& b) {
-        return strengthAt(a, target, radius) > strengthAt(b, target, radius);
-    });
-    if (lights.size() > kMostShadingLights)
-        lights.resize(kMostShadingLights);
+    const std::size_t count = std::min(candidates.size(), kMostShadingLights);
+    std::partial_sort(candidates.begin(), candidates.begin() + static_cast<std::ptrdiff_t>(count), candidates.end(),
+                      [](const Candidate& a, const Candidate& b) { return a.matters(b); });
+    candidates.resize(count);
+    std::vector<ShadingLight> lights;
+    lights.reserve(count);
+    for (const Candidate& candidate : candidates)
+        lights.push_back(makeLight(scene.lights[candidate.mark], view, radius));
     return lights;
 }
 

@@ -11,7 +11,35 @@ constexpr float kMiddle = 0.26F;   // what the mean of a picture becomes before 
 constexpr float kBrightest = 3.0F; // what its bright places become at most
 constexpr double kBrightShare = 0.97;
 
+// Of light from 0 to 1, in sixteenths of the screen's steps.
+using ScreenValues = std::array<std::uint16_t, 4097>;
+
+ScreenValues makeScreenValues() {
+    ScreenValues values{};
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const float light = static_cast<float>(i) / static_cast<float>(values.size() - 1);
+        const float shown = light <= 0.0031308F ? 12.92F * light : 1.055F * std::pow(light, 1 / 2.4F) - 0.055F;
+        values[i] = static_cast<std::uint16_t>(toWhole(shown * 255 * kDitherSteps + 0.5F, 0, 255 * kDitherSteps));
+    }
+    return values;
+}
+
+const ScreenValues kScreenValues = makeScreenValues();
+
+std::array<float, 256> makeLinearBytes() {
+    std::array<float, 256> values{};
+    for (std::size_t i = 0; i < values.size(); ++i)
+        values[i] = std::pow(static_cast<float>(i) / 255, 2.2F);
+    return values;
+}
+
+const std::array<float, 256> kLinearBytes = makeLinearBytes();
+
 } // namespace
+
+Vector3 linearLight(std::uint32_t rgb) {
+    return {kLinearBytes[(rgb >> 16) & 0xFFU], kLinearBytes[(rgb >> 8) & 0xFFU], kLinearBytes[rgb & 0xFFU]};
+}
 
 void BrightnessCounts::add(float luminance, std::uint32_t pixels) {
     if (!(luminance > 0))
@@ -57,19 +85,14 @@ ToneCurve::ToneCurve(const BrightnessCounts& counts) {
         const float white = std::max(1.5F, bright * exposure_ * 1.5F);
         perWhite_ = 1 / (white * white);
     }
-    for (std::size_t i = 0; i < values_.size(); ++i) {
-        const float light = static_cast<float>(i) / static_cast<float>(values_.size() - 1);
-        const float shown = light <= 0.0031308F ? 12.92F * light : 1.055F * std::pow(light, 1 / 2.4F) - 0.055F;
-        values_[i] = static_cast<std::uint16_t>(toWhole(shown * 255 * kDitherSteps + 0.5F, 0, 255 * kDitherSteps));
-    }
 }
 
 std::uint32_t ToneCurve::color(Vector3 exposed, std::uint32_t dither) const {
     const auto byte = [this, dither](float light) {
         const float curved = light * (1 + light * perWhite_) / (1 + light);
-        constexpr int last = static_cast<int>(std::tuple_size_v<decltype(values_)>) - 1;
+        constexpr int last = static_cast<int>(std::tuple_size_v<ScreenValues>) - 1;
         const int index = toWhole(curved * last + 0.5F, 0, last);
-        return (values_[static_cast<std::size_t>(index)] + dither) / kDitherSteps;
+        return (kScreenValues[static_cast<std::size_t>(index)] + dither) / kDitherSteps;
     };
     return 0xFF000000U | byte(exposed.x) << 16 | byte(exposed.y) << 8 | byte(exposed.z);
 }

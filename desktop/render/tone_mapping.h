@@ -32,6 +32,9 @@ private:
     return 0.2126F * light.x + 0.7152F * light.y + 0.0722F * light.z;
 }
 
+// The light that a colour of the screen stands for, each part from 0 to 1.
+[[nodiscard]] Vector3 linearLight(std::uint32_t rgb);
+
 class ToneCurve {
 public:
     // Of the brightness of a picture; one that is dark everywhere stays dark.
@@ -43,8 +46,7 @@ public:
 
 private:
     float exposure_ = 1;
-    float perWhite_ = 0;                       // 1 over the square of what becomes white
-    std::array<std::uint16_t, 4097> values_{}; // of light from 0 to 1, in sixteenths of the screen's steps
+    float perWhite_ = 0; // 1 over the square of what becomes white
 };
 
 } // namespace quor::desktop
