@@ -14,10 +14,11 @@ double Stopwatch::milliseconds() const {
 void Stopwatch::report(const char* what) const { std::printf("%9.1f ms  %s\n", milliseconds(), what); }
 
 void Stopwatch::reportMedian(const char* what) {
+    const double processor = 1000.0 * static_cast<double>(std::clock() - processorStart_) / CLOCKS_PER_SEC;
     std::sort(times_.begin(), times_.end());
     const double median = times_[times_.size() / 2];
-    std::printf("%9.1f ms  %s (%.1f to %.1f; %.0f a second)\n", median, what, times_.front(), times_.back(),
-                1000 / median);
+    std::printf("%9.1f ms  %s (%.1f to %.1f; %.0f a second; %.1f ms of processor time)\n", median, what, times_.front(),
+                times_.back(), 1000 / median, processor / static_cast<double>(times_.size()));
 }
 
 void reportMemory(const char* what) {

@@ -1,7 +1,7 @@
 // The symbols of lights as simple shapes: discs, rings, strokes and filled outlines.
 #pragma once
 
-#include "host/gs/scene.h"
+#include "host/gs/picking.h"
 
 #include <vector>
 
@@ -22,7 +22,7 @@ struct GlyphShape {
     std::vector<ShapePoint> points; // of a convex outline, clockwise as seen
 };
 
-inline constexpr float kGlyphRadius = 11;
+inline constexpr auto kGlyphRadius = static_cast<float>(gs::kGlyphRadius);
 
 // Symbols that point somewhere point along (`cos`, `sin`); the others stand upright.
 [[nodiscard]] std::vector<GlyphShape> glyphShapes(gs::GlyphKind kind, ShapePoint direction);
