@@ -58,6 +58,14 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
     std::_Exit(kNoDisplay);
 }
 
+// Without a display that answers, the toolkit may take one of its own that nobody sees, unless it was told which.
+bool isSeen(std::span<char* const> arguments) {
+    const auto isChoice = [](std::string_view word) { return word.find("-platform") != std::string_view::npos; };
+    const QString platform = QApplication::platformName();
+    return platform == "xcb" || platform.startsWith("wayland") || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") ||
+           std::any_of(arguments.begin(), arguments.end(), isChoice);
+}
+
 Language usualLanguage() {
     SettingsStore settings;
     return sys::languageOf(settings) == L"en" ? Language::English : Language::Chinese;
@@ -91,10 +99,15 @@ int main(int count, char** arguments) {
         return kNoDisplay;
     }
     // The toolkit takes away what was meant for it.
+    const std::vector<char*> given(arguments + 1, arguments + before);
     int left = before;
     qInstallMessageHandler(endWithoutDisplay);
     const QApplication application(left, arguments);
     qInstallMessageHandler(nullptr);
+    if (!isSeen(given)) {
+        print(stderr, fill(texts::window::kDisplayRefused, desktop::fromQt(QApplication::platformName())));
+        return kNoDisplay;
+    }
     QApplication::setApplicationName("quor");
     QApplication::setDesktopFileName("quor");
     words.assign(arguments + 1, arguments + left);
