@@ -61,7 +61,7 @@ void Typing::selectAll() {
     if (open->kind == Question::Kind::Selection)
         front_.giveText(L"_ALL");
     else if (open->kind == Question::Kind::Command)
-        zredSetImpliedSelection(ed::entitiesOfCurrentSpace(*document));
+        zredSetImpliedSelection(ed::selectableEntities(*document));
 }
 
 void Typing::open(const std::vector<ZrString>& files) {

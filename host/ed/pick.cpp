@@ -2,6 +2,7 @@
 
 #include "host/db/block_reference.h"
 #include "host/db/ref_edit.h"
+#include "host/ed/in_sight.h"
 #include "sdk/db/database.h"
 #include "sdk/db/face.h"
 #include "sdk/db/light.h"
@@ -11,8 +12,29 @@
 
 namespace quor::ed {
 
+namespace {
+
+void leaveOutUnseen(const Document& document, ZrDbObjectIdArray& ids) {
+    InSight inSight(document.drawing());
+    std::erase_if(ids, [&](ZrDbObjectId id) { return !inSight.holds(*id.entry()); });
+}
+
+} // namespace
+
 ZrDbObjectIdArray entitiesOfCurrentSpace(const Document& document) {
     return document.drawing().entities(document.database()->currentSpaceId());
+}
+
+ZrDbObjectIdArray entitiesInSight(const Document& document) {
+    ZrDbObjectIdArray ids = entitiesOfCurrentSpace(document);
+    leaveOutUnseen(document, ids);
+    return ids;
+}
+
+ZrDbObjectIdArray selectableEntities(const Document& document) {
+    ZrDbObjectIdArray ids = entitiesInSight(document);
+    (void)leaveOutStrangers(document, ids);
+    return ids;
 }
 
 std::vector<ZrGePoint3d> knownPoints(ZrDbObjectId id) {
@@ -58,6 +80,7 @@ ZrDbObjectIdArray entitiesAt(const Document& document, const ZrGePoint3d& point)
         if (std::any_of(points.begin(), points.end(), [&](const ZrGePoint3d& p) { return p.isEqualTo(point); }))
             found.push_back(id);
     }
+    leaveOutUnseen(document, found);
     return found;
 }
 
@@ -75,6 +98,7 @@ ZrDbObjectIdArray entitiesInWindow(const Document& document, const ZrGePoint3d& 
         if (!points.empty() && std::all_of(points.begin(), points.end(), inside))
             found.push_back(id);
     }
+    leaveOutUnseen(document, found);
     return found;
 }
 

@@ -184,7 +184,7 @@ private:
                 found.push_back(id);
         return take(found);
     }
-    bool pickAll() { return take(entitiesOfCurrentSpace(document_)); }
+    bool pickAll() { return take(entitiesInSight(document_)); }
     bool startAdding() {
         removing_ = false;
         return true;

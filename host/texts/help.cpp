@@ -86,9 +86,11 @@ constexpr HelpPage kPages[] = {
      {L"选择对象，供下一个命令使用。",
       L"Selects objects for the next command."},
      {L"选择对象: 点取，或 ALL 全部、L 上一个、P 前一个选择、#1F 句柄、R 删除、A 添加；Enter 结束。\n"
+      L"ALL 选中看得见的全部对象: 关闭或冻结图层上的对象和不可见的对象不选。\n"
       L"不选任何对象而按 Enter，即取消选择。",
-      L"Select objects: pick, or enter ALL, Last, Previous, #1F for a handle, Remove, or Add; Enter ends.\nEnter with nothing "
-      L"selected clears the selection."},
+      L"Select objects: pick, or enter ALL, Last, Previous, #1F for a handle, Remove, or Add; Enter ends.\nALL selects all "
+      L"that can be seen: not invisible objects, nor those on layers that are off or frozen.\nEnter with nothing selected "
+      L"clears the selection."},
      L"SELECT ALL "},
     {L"ERASE", kObjects,
      {L"删除对象。",

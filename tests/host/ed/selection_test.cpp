@@ -23,6 +23,10 @@ protected:
         test_.front().type(lines);
         return zredSelect(nullptr, ids_);
     }
+    static void hide(ZrDbObjectId id) {
+        const ZrDbObjectPointer<ZrDbEntity> entity(id, ZrDb::kForWrite);
+        EXPECT_EQ(entity->setVisibility(ZrDb::kInvisible), Quor::eOk);
+    }
     static ZrString handleOf(ZrDbObjectId id) { return zrFormat(L"%x", {id.handle().value()}); }
 
     TestSession test_;
@@ -78,6 +82,24 @@ TEST_F(Selection, AllLeavesOutWhatIsErased) {
     erase(second_);
     EXPECT_EQ(select({L"all", L""}), RTNORM);
     EXPECT_EQ(ids_, (ZrDbObjectIdArray{first_, third_}));
+}
+
+TEST_F(Selection, AllLeavesOutWhatIsInvisible) {
+    hide(second_);
+    EXPECT_EQ(select({L"all", L""}), RTNORM);
+    EXPECT_EQ(ids_, (ZrDbObjectIdArray{first_, third_}));
+}
+
+TEST_F(Selection, WindowAndPointLeaveOutWhatIsInvisible) {
+    hide(second_);
+    EXPECT_EQ(select({L"W", L"10,1", L"0,0", L"10,0", L"11,1", L""}), RTNORM);
+    EXPECT_EQ(ids_, ZrDbObjectIdArray{first_});
+}
+
+TEST_F(Selection, HandleTakesWhatIsInvisible) {
+    hide(second_);
+    EXPECT_EQ(select({L"#" + handleOf(second_), L""}), RTNORM);
+    EXPECT_EQ(ids_, ZrDbObjectIdArray{second_});
 }
 
 TEST_F(Selection, PreviousIsTheLastSelectionMade) {
