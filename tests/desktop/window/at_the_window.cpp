@@ -33,8 +33,8 @@ void AtTheWindow::types(std::initializer_list<const char*> lines) {
         person_.types(line);
 }
 
-void AtTheWindow::opens(const QString& file) {
-    person_.does([=, this] { person_.program().front().run(fromQt("_OPEN " + file)); });
+void AtTheWindow::runs(const QString& line) {
+    person_.does([=, this] { person_.program().front().run(fromQt(line)); });
 }
 
 void AtTheWindow::writes(const QString& text) {

@@ -26,8 +26,9 @@ public:
 
     void types(const QString& line) { person_.types(line); }
     void types(std::initializer_list<const char*> lines);
-    // A file of any name; keys are characters of the keyboard only.
-    void opens(const QString& file);
+    // A line with characters that no keyboard has.
+    void runs(const QString& line);
+    void opens(const QString& file) { runs("OPEN " + file); }
     void presses(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) { person_.presses(key, modifiers); }
     // Keys in the input line, Enter not included.
     void writes(const QString& text);

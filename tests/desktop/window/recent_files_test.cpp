@@ -141,7 +141,7 @@ TEST_F(RecentFilesTest, ClearedMenuSaysThatThereAreNoneAlsoWhileADrawingIsOpen) 
 TEST_F(RecentFilesTest, SavingUnderAnotherNameAddsIt) {
     const QString file = folder_.filePath("saved.dxf");
     atTheWindow(options(), [&](AtTheWindow& at) {
-        at.types("SAVEAS " + file);
+        at.runs("SAVEAS " + file);
         EXPECT_EQ(textsOf(at), QStringList(file)) << at.screen().toStdString();
     });
 }
