@@ -26,7 +26,7 @@ constexpr ActionRow kRows[] = {
     {File, "quit",       {L"退出(&X)", L"E&xit"},                nullptr,     "Ctrl+Q", Bar::None, false, false, kAnytime},
 
     {Edit, "undo",       {L"放弃(&U)", L"&Undo"},                L"_U",       "Ctrl+Z", Bar::File, kGroup},
-    {Edit, "redo",       {L"重做(&R)", L"&Redo"},                L"_REDO",    "Ctrl+Y", Bar::File},
+    {Edit, "redo",       {L"重做(&R)", L"&Redo"},                L"_REDO 1",  "Ctrl+Y", Bar::File},
     {Edit, "erase",      {L"删除(&E)", L"&Erase"},               L"_ERASE",   "", Bar::File, kGroup},
     {Edit, "selectall",  {L"全部选择(&A)", L"Select &All"},       nullptr,     "Ctrl+A", Bar::None, kGroup},
     {Edit, "deselect",   {L"取消选择(&D)", L"&Deselect All"},     nullptr,     "Ctrl+Shift+A"},

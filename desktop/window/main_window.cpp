@@ -1,6 +1,7 @@
 #include "desktop/window/main_window.h"
 
 #include "desktop/commandline/command_line.h"
+#include "desktop/commandline/text_window.h"
 #include "desktop/dialogs/dialogs.h"
 #include "desktop/dialogs/help_dialogs.h"
 #include "desktop/front/desktop_front_end.h"
@@ -143,6 +144,7 @@ void MainWindow::connectViewport() {
     connect(commandLine_, &CommandLine::escaped, viewport_, &Viewport::escape);
     connect(commandLine_, &CommandLine::neededWhileHidden, commandDock_, &QDockWidget::show);
     connect(viewport_, &Viewport::contextMenuRequested, this, &MainWindow::showContextMenu);
+    connect(&commandLine_->textWindow(), &TextWindow::shownChanged, this, &MainWindow::refreshSoon);
     palettes_->setFocusDrawing([this] { commandLine_->setFocus(); });
 }
 
