@@ -26,6 +26,8 @@ Q_SIGNALS:
     void closeWanted(int index);
 
 protected:
+    // Names stay readable, however many there are: the bar is scrolled.
+    [[nodiscard]] QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:

@@ -19,6 +19,7 @@ constexpr IconRow kIcons[] = {
     {QStyle::SP_DockWidgetCloseButton, "close"},
     {QStyle::SP_TabCloseButton, "close"},
     {QStyle::SP_TitleBarNormalButton, "float"},
+    {QStyle::SP_ToolBarHorizontalExtensionButton, "more"},
 };
 
 // Qt's style draws the frame of a box this much darker than the window, which a dark window swallows.

@@ -110,6 +110,15 @@ TEST(DocumentTabsTest, ArrowsStepWhileTheTabsHaveTheKeyboard) {
     });
 }
 
+TEST(DocumentTabsTest, NamesStayReadableHoweverManyThereAre) {
+    atTheWindow([](AtTheWindow& at) {
+        const int usual = at.person().sees([&] { return at.tabs().tabRect(0).width(); });
+        for (int i = 0; i < 20; ++i)
+            at.types("NEW");
+        EXPECT_GE(at.person().sees([&] { return at.tabs().tabRect(20).width(); }), usual);
+    });
+}
+
 TEST(DocumentTabsTest, BothKeysForClosingClose) {
     atTheWindow([](AtTheWindow& at) {
         at.types({"NEW", "NEW"});

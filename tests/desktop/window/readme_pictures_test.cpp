@@ -69,6 +69,7 @@ TEST_F(ReadmePicturesTest, MainWindowWithALitRoomAndItsPalettes) {
         PaletteDock& palette = paletteOf(at);
         at.person().does([&] {
             palette.setFloating(false);
+            at.window().addDockWidget(Qt::LeftDockWidgetArea, &palette);
             at.window().resize(1280, 800);
         });
         at.chooses("viewswiso");
