@@ -115,6 +115,7 @@ private:
     [[nodiscard]] WorkPlane plane() const;
     [[nodiscard]] Aim aimAt(QPointF place) const;
     [[nodiscard]] ZrDbObjectId objectAt(QPointF place) const;
+    [[nodiscard]] ZrDbObjectIdArray selectable(ZrDbObjectIdArray picked) const;
     void point(QPointF place);
     void pressToPick(QPointF place, Qt::KeyboardModifiers modifiers);
     void finishRectangle(QPointF place, Qt::KeyboardModifiers modifiers);

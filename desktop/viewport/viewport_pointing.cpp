@@ -2,6 +2,7 @@
 
 #include "desktop/front/desktop_front_end.h"
 #include "desktop/viewport/viewport.h"
+#include "host/ed/pick.h"
 #include "host/session.h"
 #include "host/sys/system_variables.h"
 
@@ -112,10 +113,17 @@ void Viewport::finishRectangle(QPointF place, Qt::KeyboardModifiers modifiers) {
         take(picked, modifiers);
 }
 
+// While a block is edited in place, nothing else is selected. At a question the host says so.
+ZrDbObjectIdArray Viewport::selectable(ZrDbObjectIdArray picked) const {
+    std::erase(picked, ZrDbObjectId());
+    (void)ed::leaveOutStrangers(view_->document(), picked);
+    return picked;
+}
+
 void Viewport::take(const ZrDbObjectIdArray& picked, Qt::KeyboardModifiers modifiers) {
     PickMode mode = modeOf(modifiers);
     if (isAtCommandPrompt()) {
-        zredSetImpliedSelection(selectionAfter(zredImpliedSelection(), picked, mode));
+        zredSetImpliedSelection(selectionAfter(zredImpliedSelection(), selectable(picked), mode));
         return;
     }
     // An answer adds or takes away: a single object is toggled by what it is, several of them are added.
@@ -160,7 +168,8 @@ void Viewport::showHovered() {
     bool isAnother = std::exchange(hoverVersion_, view_->version()) != view_->version();
     if (std::exchange(isHoverDue_, false)) {
         const bool looks = cursor_ && asksForObjects() && !rectangle_ && held_ == Held::Nothing && !isMoving_;
-        const ZrDbObjectId hovered = looks ? objectAt(*cursor_) : ZrDbObjectId();
+        const ZrDbObjectIdArray meant = looks ? selectable({objectAt(*cursor_)}) : ZrDbObjectIdArray();
+        const ZrDbObjectId hovered = meant.empty() ? ZrDbObjectId() : meant.front();
         isAnother = std::exchange(hovered_, hovered) != hovered || isAnother;
     }
     if (isAnother)

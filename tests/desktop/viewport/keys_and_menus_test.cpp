@@ -28,13 +28,32 @@ TEST(RightButtonTest, IsEnterWhereThereAreNoKeywords) {
     });
 }
 
-TEST(RightButtonTest, ShowsTheKeywordsOfAQuestion) {
+TEST(RightButtonTest, ShowsTheOptionsThatThePromptOffers) {
     withScreen([](Screen& screen) {
         screen.types({L"LINE", L"0,0"});
         screen.clicks({100, 100}, Qt::RightButton);
         const QStringList entries = screen.person().sees([&] { return entriesOf(*openMenu(screen)); });
-        EXPECT_EQ(entries.mid(2), (QStringList{"", "Undo"}));
+        EXPECT_EQ(entries.mid(2), (QStringList{"", "放弃(U)"}));
         EXPECT_EQ(entries.size(), 4);
+    });
+}
+
+TEST(RightButtonTest, HidesTheWordsThatAPromptTakesAndDoesNotOffer) {
+    withScreen([](Screen& screen) {
+        screen.types({L"POINTLIGHT", L"0,0,0"});
+        screen.clicks({100, 100}, Qt::RightButton);
+        const QStringList entries = screen.person().sees([&] { return entriesOf(*openMenu(screen)); });
+        EXPECT_EQ(entries.filter("(N)").size(), 1);
+        EXPECT_TRUE(entries.filter("Hotspot").isEmpty());
+    });
+}
+
+TEST(RightButtonTest, ShowsAllWordsWhereThePromptOffersNone) {
+    withScreen([](Screen& screen) {
+        screen.types({L"SELECT"});
+        screen.clicks({100, 100}, Qt::RightButton);
+        const QStringList entries = screen.person().sees([&] { return entriesOf(*openMenu(screen)); });
+        EXPECT_TRUE(entries.contains("Previous"));
     });
 }
 

@@ -1,8 +1,13 @@
 // Selecting with the mouse, at the command prompt and where a command asks for objects.
 #include "desktop/front/desktop_front_end.h"
+#include "desktop/qt_text.h"
+#include "host/db/ref_edit.h"
+#include "host/document.h"
 #include "tests/desktop/viewport/screen.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace quor::desktop::test {
 namespace {
@@ -187,6 +192,23 @@ TEST_F(SelectionTest, NothingIsSelectedWhereACommandAsksForSomethingElse) {
         screen.types({L"POINTLIGHT", L"0,0,5"});
         screen.clicks(screen.at(kLeft));
         EXPECT_TRUE(screen.selected().empty());
+    });
+}
+
+TEST_F(SelectionTest, WhileABlockIsEditedInPlaceNothingElseIsSelected) {
+    withScreen([](Screen& screen) {
+        screen.types({L"OPEN " + fromQt(QUOR_TEST_DATA "/dxf/own/luminaires.dxf"), L"REFEDIT", L"#60", L"", L"'ZOOM E"});
+        screen.waitsUntilStill();
+        screen.drags({2, 2}, {795, 595});
+
+        const ZrDbObjectIdArray selected = screen.selected();
+
+        EXPECT_EQ(selected.size(), 4U);
+        EXPECT_TRUE(screen.person().sees([&] {
+            const db::RefEdit& editing =
+                screen.person().program().session().documents().current()->drawing().refEdit();
+            return std::ranges::all_of(selected, [&](ZrDbObjectId id) { return editing.holds(*id.entry()); });
+        }));
     });
 }
 
