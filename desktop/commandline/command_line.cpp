@@ -118,6 +118,7 @@ void CommandLine::connectFront() {
         showQuestion();
         answerNext();
     });
+    connect(&front_, &DesktopFrontEnd::brokenOff, this, [this] { ahead_.clear(); });
     connect(&front_, &DesktopFrontEnd::commandGiven, this, &CommandLine::noteCommand);
     connect(&front_, &DesktopFrontEnd::progressed, this, [this](const QString& what, double fraction) {
         const int percent = static_cast<int>(std::floor(fraction * 100));
@@ -217,7 +218,7 @@ void CommandLine::answer() {
 
 void CommandLine::answerWith(const QString& typed) {
     completer_->dismiss();
-    input_->clear();
+    input_->empty();
     ahead_.push_back(typed);
     answerNext();
 }
@@ -236,7 +237,7 @@ void CommandLine::cancel() {
         Q_EMIT escaped();
         front_.escape();
     } else {
-        input_->clear();
+        input_->empty();
     }
 }
 

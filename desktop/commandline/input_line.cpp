@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 namespace quor::desktop {
 
 namespace {
@@ -58,12 +60,22 @@ bool InputLine::actsOn(const QKeyEvent& event, Act& act) const {
     return false;
 }
 
+bool InputLine::leavesToWindow(const QKeyEvent& event) const {
+    constexpr QKeySequence::StandardKey kOfTheDrawing[] = {QKeySequence::Undo, QKeySequence::Redo,
+                                                           QKeySequence::SelectAll, QKeySequence::Delete};
+    return text().isEmpty() && std::ranges::any_of(kOfTheDrawing, [&](auto key) { return event.matches(key); });
+}
+
 // Tab would leave the line, and shortcuts of the window would take other keys, before they are key presses.
 bool InputLine::event(QEvent* event) {
     const bool isPress = event->type() == QEvent::KeyPress;
     if (!isPress && event->type() != QEvent::ShortcutOverride)
         return QLineEdit::event(event);
     auto& key = *static_cast<QKeyEvent*>(event);
+    if (leavesToWindow(key)) {
+        event->ignore();
+        return true;
+    }
     Act act{};
     if (!actsOn(key, act))
         return QLineEdit::event(event);

@@ -16,6 +16,8 @@ public:
 
     // Whether a blank is an answer's end; else it is a character.
     void setBlankAnswers(bool answers) { blankAnswers_ = answers; }
+    // Empties the line for good: Ctrl+Z does not bring the text back.
+    void empty() { setText({}); }
     // Puts a text where the caret is; line breaks become blanks.
     void insertText(const QString& text);
 
@@ -34,6 +36,8 @@ protected:
 
 private:
     [[nodiscard]] bool actsOn(const QKeyEvent& event, Act& act) const;
+    // Whether an empty line leaves a key to the window: undoing, selecting and erasing are about the drawing then.
+    [[nodiscard]] bool leavesToWindow(const QKeyEvent& event) const;
 
     bool blankAnswers_ = true;
 };

@@ -85,6 +85,7 @@ void DesktopFrontEnd::giveText(const ZrString& typed) {
 void DesktopFrontEnd::givePoint(const ZrGePoint3d& world) { give({Answer::Kind::Point, {}, world}); }
 
 void DesktopFrontEnd::run(const ZrString& line) {
+    Q_EMIT brokenOff();
     line_ = line;
     if (const Question* const open = question())
         if (std::optional<Answer> answer = readyAnswer(*open))
@@ -155,9 +156,14 @@ Answer DesktopFrontEnd::wait(const Question& question, const Sample* sample) {
         // A loop that ends by itself ends with the program.
         answer = here.answer ? std::move(*here.answer) : Answer{Answer::Kind::End, {}, {}};
     }
-    if (question.kind == Question::Kind::Command && answer->kind == Answer::Kind::Text)
+    const bool isAtPrompt = question.kind == Question::Kind::Command;
+    const bool isEscape = answer->kind == Answer::Kind::Cancel;
+    if (isEscape)
+        Q_EMIT brokenOff();
+    if (isAtPrompt && answer->kind == Answer::Kind::Text)
         Q_EMIT commandGiven(toQt(answer->text));
-    Q_EMIT questionAnswered(toQt(question.prompt), toQt(shown(*answer)));
+    if (!isAtPrompt || !isEscape)
+        Q_EMIT questionAnswered(toQt(question.prompt), toQt(shown(*answer)));
     if (this->question() != nullptr)
         Q_EMIT questionOpened();
     return std::move(*answer);
@@ -175,8 +181,12 @@ void DesktopFrontEnd::echo(const Question& question, std::wstring_view answer) {
 TaskDialogAnswer DesktopFrontEnd::showTaskDialog(const CZrUiTaskDialog& dialog) {
     if (isLeaving())
         return {std::nullopt, false, isEnding_ || !dialog.isCancellable()};
-    if (dialogs_ != nullptr)
-        return dialogs_->showTaskDialog(dialog);
+    if (dialogs_ != nullptr) {
+        TaskDialogAnswer answer = dialogs_->showTaskDialog(dialog);
+        if (!answer.command)
+            Q_EMIT brokenOff();
+        return answer;
+    }
     return ui::askTaskDialog(
         dialog, [this](std::wstring_view text) { print(text); },
         [](const Question& question) { return ui::askPersonOrScript(Session::current().input(), question); });
@@ -185,15 +195,24 @@ TaskDialogAnswer DesktopFrontEnd::showTaskDialog(const CZrUiTaskDialog& dialog) 
 FileAnswer DesktopFrontEnd::chooseFile(const FileQuestion& file) {
     if (isLeaving())
         return {std::nullopt, isEnding_};
-    if (dialogs_ != nullptr)
-        return dialogs_->chooseFile(file);
+    if (dialogs_ != nullptr) {
+        FileAnswer answer = dialogs_->chooseFile(file);
+        if (!answer.file)
+            Q_EMIT brokenOff();
+        return answer;
+    }
     return ui::askFile(file, [](const Question& question) { return Session::current().input().ask(question); });
 }
 
 std::optional<SaveChoice> DesktopFrontEnd::askToSave(std::wstring_view drawing) {
     if (isLeaving())
         return SaveChoice::Cancel;
-    return dialogs_ != nullptr ? std::optional(dialogs_->askToSave(drawing)) : std::nullopt;
+    if (dialogs_ == nullptr)
+        return std::nullopt;
+    const SaveChoice choice = dialogs_->askToSave(drawing);
+    if (choice == SaveChoice::Cancel)
+        Q_EMIT brokenOff();
+    return choice;
 }
 
 void DesktopFrontEnd::realise(CWnd& window) {

@@ -79,8 +79,11 @@ Q_SIGNALS:
     void printed(const QString& text);
     // A question waits: question() tells which. Also when an inner one was answered and the outer one waits again.
     void questionOpened();
-    // It was answered, by a person or a script; as a command line shows it.
+    // It was answered, by a person or a script; as a command line shows it. Esc at the command prompt shows nothing.
     void questionAnswered(const QString& prompt, const QString& answer);
+    // The person took back what they had begun, or begins something else: lines that wait for its questions are no
+    // longer meant.
+    void brokenOff();
     // The person gave a line at the command prompt, typed or by a button.
     void commandGiven(const QString& line);
     // How far something long has come; 1 ends it.

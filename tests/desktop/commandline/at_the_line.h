@@ -9,6 +9,9 @@
 #include "desktop/front/desktop_front_end.h"
 #include "desktop/qt_text.h"
 #include "desktop/window/main_window.h"
+#include "host/document.h"
+#include "host/ed/pick.h"
+#include "host/session.h"
 #include "tests/desktop/support/person.h"
 
 #include <QTest>
@@ -55,6 +58,16 @@ public:
             for (const CandidateList::Row& row : line_->completer().list().rows())
                 texts.push_back(row.text);
             return texts;
+        });
+    }
+    // What the history says.
+    [[nodiscard]] QString transcript() {
+        return person_.sees([&] { return line_->transcript().text(); });
+    }
+    // How many the drawing has.
+    [[nodiscard]] std::size_t objects() {
+        return person_.sees([&] {
+            return ed::entitiesOfCurrentSpace(*person_.program().session().documents().current()).size();
         });
     }
     [[nodiscard]] CommandLine& line() { return *line_; }

@@ -217,6 +217,67 @@ TEST(KeysTest, QuestionInsideAQuestionGivesItsPlaceBack) {
     });
 }
 
+TEST(KeysTest, KeysOfTheDrawingActOnItFromTheEmptyLine) {
+    atTheLine([](AtTheLine& line) {
+        line.types("LINE 0,0 1,1 ");
+        line.presses(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(line.objects(), 0U);
+        EXPECT_EQ(line.text(), "");
+        line.person().settles();
+        line.presses(Qt::Key_Y, Qt::ControlModifier);
+        EXPECT_EQ(line.objects(), 1U);
+        line.presses(Qt::Key_A, Qt::ControlModifier);
+        line.presses(Qt::Key_Delete);
+        EXPECT_EQ(line.objects(), 0U);
+    });
+}
+
+TEST(KeysTest, KeysOfTheDrawingEditTheLineWhereItHoldsText) {
+    atTheLine([](AtTheLine& line) {
+        line.types("LINE 0,0 1,1 ");
+        line.writes("12");
+        line.presses(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(line.text(), "");
+        line.writes("34");
+        line.presses(Qt::Key_A, Qt::ControlModifier);
+        line.presses(Qt::Key_Delete);
+        EXPECT_EQ(line.text(), "");
+        EXPECT_EQ(line.objects(), 1U);
+    });
+}
+
+TEST(KeysTest, EscapeAtTheCommandPromptShowsNothing) {
+    atTheLine([](AtTheLine& line) {
+        line.types("REDO");
+        const QString before = line.transcript();
+        line.presses(Qt::Key_Escape);
+        line.presses(Qt::Key_Escape);
+        EXPECT_EQ(line.transcript(), before);
+        line.types("LINE");
+        line.presses(Qt::Key_Escape);
+        EXPECT_TRUE(line.transcript().contains(QString(kFirstPoint) + "^C"));
+    });
+}
+
+TEST(KeysTest, PastedLinesEndWithADialogThatIsCancelled) {
+    atTheLine([](AtTheLine& line) {
+        line.person().does([] { QApplication::clipboard()->setText("POINTLIGHT\n1,2,3\nLINE\n0,0\n1,1\n\n"); });
+        line.presses(Qt::Key_V, Qt::ControlModifier);
+        line.presses(Qt::Key_Escape);
+        EXPECT_EQ(line.prompt(), kCommandPrompt);
+        EXPECT_EQ(line.objects(), 0U);
+    });
+}
+
+TEST(KeysTest, PastedLinesEndWhereAMenuBeginsSomethingElse) {
+    atTheLine([](AtTheLine& line) {
+        line.person().does([] { QApplication::clipboard()->setText("POINTLIGHT\n1,2,3\n\nLINE\n0,0\n1,1\n\n"); });
+        line.presses(Qt::Key_V, Qt::ControlModifier);
+        line.person().does([&] { line.person().program().front().quit(); });
+        EXPECT_EQ(line.objects(), 0U);
+    });
+}
+
 TEST(KeysTest, SelectionOfObjectsEndsWithABlank) {
     atTheLine([](AtTheLine& line) {
         line.types("LINE 0,0 1,1 ");
