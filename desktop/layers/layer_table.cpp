@@ -140,11 +140,20 @@ void LayerTable::want(int row, int column) {
         Q_EMIT changeWanted(Current, true);
 }
 
+// Before shortcuts of the main window.
+bool LayerTable::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->matches(QKeySequence::SelectAll)) {
+        event->accept();
+        return true;
+    }
+    return QTableWidget::event(event);
+}
+
 void LayerTable::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
     if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)
         want(currentRow(), currentColumn());
-    else if (isWalking(key) || (key == Qt::Key_A && event->modifiers() == Qt::ControlModifier))
+    else if (isWalking(key) || event->matches(QKeySequence::SelectAll))
         QTableWidget::keyPressEvent(event);
     else // what is typed is for others
         event->ignore();

@@ -1,6 +1,7 @@
 #include "desktop/layers/layers_panel.h"
 
 #include "desktop/front/desktop_front_end.h"
+#include "desktop/keys.h"
 #include "desktop/layers/layer_table.h"
 #include "desktop/properties/hint.h"
 #include "desktop/properties/swatch.h"
@@ -86,6 +87,9 @@ void LayersPanel::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     refresh();
 }
+
+// No layer is erased here, and no object of the drawing either.
+void LayersPanel::keyPressEvent(QKeyEvent* event) { event->setAccepted(isErasing(event->key())); }
 
 // Once for all that happens until the program waits.
 void LayersPanel::refreshSoon() {

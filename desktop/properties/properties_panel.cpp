@@ -1,6 +1,7 @@
 #include "desktop/properties/properties_panel.h"
 
 #include "desktop/front/desktop_front_end.h"
+#include "desktop/keys.h"
 #include "desktop/properties/row_tree.h"
 #include "desktop/qt_text.h"
 #include "host/session.h"
@@ -8,6 +9,7 @@
 #include "host/texts/window.h"
 
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -43,6 +45,7 @@ PropertiesPanel::PropertiesPanel(Session& session, QWidget* parent)
     if (auto* const front = dynamic_cast<DesktopFrontEnd*>(&session.front())) {
         connect(front, &DesktopFrontEnd::questionOpened, this, &PropertiesPanel::refreshSoon);
         connect(front, &DesktopFrontEnd::questionAnswered, this, &PropertiesPanel::refreshSoon);
+        connect(front, &DesktopFrontEnd::commandGiven, rows_, &RowTree::finish); // before the command begins
     }
     refresh();
 }
@@ -51,6 +54,9 @@ void PropertiesPanel::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     refresh();
 }
+
+// What is erased here is a value; the window would erase the objects.
+void PropertiesPanel::keyPressEvent(QKeyEvent* event) { event->setAccepted(isErasing(event->key())); }
 
 // Once for all that happens until the program waits.
 void PropertiesPanel::refreshSoon() {

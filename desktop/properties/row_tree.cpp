@@ -9,6 +9,7 @@
 #include "host/sys/settings_store.h"
 #include "host/texts/properties.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 
@@ -34,6 +35,12 @@ std::set<int> readFolded(Session& session) {
     for (const QString& number : kept.split(',', Qt::SkipEmptyParts))
         groups.insert(number.toInt());
     return groups;
+}
+
+bool opensRow(const QKeyEvent& key) {
+    constexpr std::array kOpening{Qt::Key_Return, Qt::Key_Enter, Qt::Key_F2, Qt::Key_Space};
+    const bool isPlain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    return isPlain && std::ranges::find(kOpening, key.key()) != kOpening.end();
 }
 
 } // namespace
@@ -82,7 +89,7 @@ bool RowTree::isSameShape(const std::vector<props::Row>& rows) const {
 
 void RowTree::showRows(const std::vector<props::Row>& rows, bool isWorld, std::size_t showing) {
     if (showing != showing_)
-        closeEditor();
+        endEdit();
     showing_ = showing;
     const bool isSame = isSameShape(rows);
     rows_ = rows;
@@ -97,7 +104,7 @@ void RowTree::showRows(const std::vector<props::Row>& rows, bool isWorld, std::s
 void RowTree::fill(QTreeWidgetItem& item, const props::Row& row) const {
     item.setText(kLabel, toQt(row.label));
     item.setText(kValue, toQt(row.text));
-    item.setToolTip(kLabel, toQt(row.label));
+    item.setToolTip(kLabel, asTip(toQt(row.label)));
     item.setToolTip(kValue, asTip(toQt(row.text)));
     item.setData(kValue, RowDelegate::IsEditable, isEditable_ && row.editor != props::Editor::ReadOnly);
     item.setData(kValue, RowDelegate::Color, row.color ? QVariant(toQt(*row.color)) : QVariant());
@@ -106,7 +113,7 @@ void RowTree::fill(QTreeWidgetItem& item, const props::Row& row) const {
 void RowTree::rebuild(bool isWorld) {
     const props::Row* const before = rowOf(currentItem());
     const std::string_view current = before != nullptr ? before->id : std::string_view();
-    closeEditor();
+    endEdit();
     clear();
     for (std::size_t place = 0; place < rows_.size(); ++place) {
         QTreeWidgetItem* group = groupOf(rows_[place].group);
@@ -169,8 +176,8 @@ void RowTree::setEditable(bool editable) {
             (*at)->setData(kValue, RowDelegate::IsEditable, editable && row->editor != props::Editor::ReadOnly);
 }
 
-void RowTree::edit(QTreeWidgetItem* item, bool byMouse) {
-    closeEditor();
+void RowTree::beginEdit(QTreeWidgetItem* item, bool byMouse) {
+    endEdit();
     const props::Row* const row = rowOf(item);
     if (row == nullptr || !isEditable_ || row->editor == props::Editor::ReadOnly)
         return;
@@ -201,28 +208,36 @@ void RowTree::takeInput(const QString& typed, int step) {
         hint_->say(refusal, editor_);
         return;
     }
-    closeEditor();
+    endEdit();
     if (hadKeyboard || step != 0)
         setFocus();
     if (step != 0)
         if (QTreeWidgetItem* const next = nextEditable(itemOf(id), step))
-            edit(next, false);
+            beginEdit(next, false);
 }
 
 void RowTree::giveUp() {
     const bool hadKeyboard = editor_ != nullptr && editor_->focusProxy()->hasFocus();
-    closeEditor();
+    endEdit();
     if (hadKeyboard)
         setFocus();
 }
 
-// An editor that goes loses the keyboard, which is no input.
-void RowTree::closeEditor() {
+void RowTree::finish() {
+    if (editor_ != nullptr && !editor_->isWrong())
+        takeInput(editor_->text(), 0);
+    giveUp();
+}
+
+// An editor that goes loses the keyboard, which is no input. It is deleted when the program comes to it: while a
+// question waits that may be long after.
+void RowTree::endEdit() {
     hint_->clearMessage();
     QTreeWidgetItem* const item = std::exchange(edited_, nullptr);
     if (editor_ == nullptr)
         return;
     editor_->disconnect(this);
+    editor_->hide();
     editor_ = nullptr;
     if (item != nullptr)
         removeItemWidget(item, kValue);
@@ -237,14 +252,32 @@ QTreeWidgetItem* RowTree::nextEditable(QTreeWidgetItem* from, int step) const {
     return nullptr;
 }
 
+// Before shortcuts of the main window.
+bool RowTree::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && opensRow(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    return QTreeWidget::event(event);
+}
+
+void RowTree::editEmptied(QKeyEvent& key) {
+    if (editor_ != nullptr)
+        return;
+    beginEdit(currentItem(), false);
+    if (editor_ != nullptr)
+        QApplication::sendEvent(editor_->focusProxy(), &key);
+}
+
 void RowTree::keyPressEvent(QKeyEvent* event) {
-    constexpr std::array kOpening{Qt::Key_Return, Qt::Key_Enter, Qt::Key_F2, Qt::Key_Space};
     QTreeWidgetItem* const item = currentItem();
-    const bool opens = std::ranges::find(kOpening, event->key()) != kOpening.end();
-    if (opens && item != nullptr && item->parent() == nullptr)
+    const bool opens = opensRow(*event);
+    if (isErasing(event->key()))
+        editEmptied(*event);
+    else if (opens && item != nullptr && item->parent() == nullptr)
         item->setExpanded(!item->isExpanded());
     else if (opens)
-        edit(item, false);
+        beginEdit(item, false);
     else if (isWalking(event->key()))
         QTreeWidget::keyPressEvent(event);
     else // what is typed is for others
@@ -258,7 +291,7 @@ void RowTree::mouseReleaseEvent(QMouseEvent* event) {
     QTreeWidgetItem* const item = itemAt(place);
     const bool isOnItsRow = item != nullptr && item == currentItem() && item->parent() != nullptr;
     if (event->button() == Qt::LeftButton && isOnItsRow && columnAt(place.x()) == kValue)
-        edit(item, true);
+        beginEdit(item, true);
 }
 
 void RowTree::scrollContentsBy(int dx, int dy) {

@@ -35,13 +35,16 @@ public:
     void setEditable(bool editable);
 
     // Opens the editor of a row; nothing happens for one that cannot be changed.
-    void edit(QTreeWidgetItem* item, bool byMouse);
+    void beginEdit(QTreeWidgetItem* item, bool byMouse);
     [[nodiscard]] ValueEditor* editor() const { return editor_; }
     // Of a row; null where there is none.
     [[nodiscard]] QTreeWidgetItem* itemOf(std::string_view id) const;
     void giveUp();
+    // Takes what an open editor holds, as when the keyboard leaves it; what cannot be taken is given up.
+    void finish();
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
@@ -57,7 +60,9 @@ private:
     // The next row that can be changed, before or behind one.
     [[nodiscard]] QTreeWidgetItem* nextEditable(QTreeWidgetItem* from, int step) const;
     void takeInput(const QString& typed, int step);
-    void closeEditor();
+    void endEdit();
+    // Opens the editor of the current row for another value.
+    void editEmptied(QKeyEvent& key);
     void rememberFolded(const QTreeWidgetItem& group, bool folded);
 
     Session& session_;

@@ -11,6 +11,19 @@
 
 namespace quor::desktop {
 
+namespace {
+
+bool isPlain(const QKeyEvent& key) {
+    const auto usual = key.key() == Qt::Key_Backtab ? Qt::ShiftModifier | Qt::KeypadModifier : Qt::KeypadModifier;
+    return (key.modifiers() & ~Qt::KeyboardModifiers(usual)) == Qt::NoModifier;
+}
+
+bool isOwnKey(const QKeyEvent& key) {
+    return isPlain(key) && (key.key() == Qt::Key_Escape || key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
+}
+
+} // namespace
+
 ValueEditor* ValueEditor::make(const props::Row& row, Session& session, QWidget* parent) {
     ValueEditor* editor = nullptr;
     switch (row.editor) {
@@ -47,7 +60,10 @@ void ValueEditor::setWrong(bool wrong) {
     update();
 }
 
+// With other modifiers a key may be a shortcut, such as Ctrl+Tab.
 bool ValueEditor::takeKey(QKeyEvent& key) {
+    if (!isPlain(key))
+        return useKey(key);
     switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -79,15 +95,8 @@ void ValueEditor::leave() {
 bool ValueEditor::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::ShortcutOverride: // keys of the editor are no shortcuts of the window
-        switch (static_cast<QKeyEvent*>(event)->key()) {
-        case Qt::Key_Escape:
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
+        if (isOwnKey(*static_cast<QKeyEvent*>(event)))
             event->accept();
-            break;
-        default:
-            break;
-        }
         return false;
     case QEvent::KeyPress:
         return takeKey(*static_cast<QKeyEvent*>(event));

@@ -203,6 +203,7 @@ void MainWindow::documentBecameCurrent(ZrApDocument*) {
 void MainWindow::documentToBeDestroyed(ZrApDocument&) { refreshSoon(); }
 void MainWindow::commandEnded(const ZrString&) { refreshSoon(); }
 void MainWindow::commandCancelled(const ZrString&) { refreshSoon(); }
+void MainWindow::modelessOperationEnded(const ZrString&) { refreshSoon(); }
 
 void MainWindow::refresh() {
     const Document* const document = session_.documents().current();

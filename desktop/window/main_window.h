@@ -55,6 +55,7 @@ public:
     void documentToBeDestroyed(ZrApDocument& document) override;
     void commandEnded(const ZrString& name) override;
     void commandCancelled(const ZrString& name) override;
+    void modelessOperationEnded(const ZrString& name) override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

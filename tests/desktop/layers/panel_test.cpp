@@ -2,11 +2,17 @@
 
 #include "desktop/layers/layer_table.h"
 #include "desktop/qt_text.h"
+#include "desktop/window/main_window.h"
 #include "desktop/window/theme.h"
 #include "host/db/database.h"
+#include "host/document.h"
+#include "host/ed/pick.h"
+#include "host/session.h"
 #include "host/sys/system_variables.h"
 #include "host/ui/user_interface.h"
 #include "sdk/db/symbol_table.h"
+#include "sdk/ed/selection.h"
+#include "tests/desktop/support/person.h"
 #include "tests/support/test_session.h"
 
 #include <gtest/gtest.h>
@@ -70,7 +76,7 @@ protected:
         panel->grab().save(folder.filePath(name + ".png"));
     }
 
-    test::TestSession host;
+    quor::test::TestSession host;
     ZrDbObjectId walls;
     ZrDbObjectId wires;
     std::unique_ptr<LayersPanel> panel;
@@ -280,7 +286,7 @@ TEST_F(Layers, AreThoseOfTheCurrentDrawing) {
 }
 
 TEST(LayersWithoutASession, GoQuietly) {
-    auto host = std::make_unique<test::TestSession>(test::TestSessionOptions{.language = L"en"});
+    auto host = std::make_unique<quor::test::TestSession>(quor::test::TestSessionOptions{.language = L"en"});
     auto panel = std::make_unique<LayersPanel>(host->session(), nullptr);
     panel->show();
 
@@ -338,6 +344,28 @@ INSTANTIATE_TEST_SUITE_P(Looks, PicturesOfLayers,
                          testing::Values(Look{"dark_zh", L"zh", true}, Look{"light_zh", L"zh", false},
                                          Look{"dark_en", L"en", true}, Look{"light_en", L"en", false}),
                          [](const auto& info) { return std::string(info.param.name); });
+
+TEST(LayersInTheWindow, SelectAllIsAboutTheRowsAndDeleteErasesNoObject) {
+    test::withProgram(test::usualOptions(), [](test::Person& person) {
+        person.types("LINE 0,0 1,1 ");
+        person.types("LAYERS");
+        auto* const table = person.sees([&] { return person.program().window().findChild<LayerTable*>("layers"); });
+        person.does([&] {
+            zredSetImpliedSelection(ed::entitiesOfCurrentSpace(*person.program().session().documents().current()));
+            table->setFocus();
+        });
+        person.presses(Qt::Key_Delete);
+        person.does([] { zredSetImpliedSelection({}); });
+        person.presses(Qt::Key_A, Qt::ControlModifier);
+
+        EXPECT_EQ(person.sees([&] { return table->selectionModel()->selectedRows().size(); }), table->rowCount());
+        EXPECT_TRUE(person.sees([] { return zredImpliedSelection().empty(); }));
+        EXPECT_EQ(person.sees([&] {
+            return ed::entitiesOfCurrentSpace(*person.program().session().documents().current()).size();
+        }),
+                  1U);
+    });
+}
 
 } // namespace
 } // namespace quor::desktop

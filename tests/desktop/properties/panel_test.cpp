@@ -49,6 +49,48 @@ TEST_F(Panel, IntensityOfThreeLightsIsChangedWithTheKeyboardAndUndoneAtOnce) {
     EXPECT_EQ(shown("light.intensity"), "1");
 }
 
+TEST_F(Panel, DeleteOnARowOpensItEmptied) {
+    select({lights[0]});
+    tree().setFocus();
+    tree().setCurrentItem(tree().itemOf("light.name"));
+    press(Qt::Key_Delete);
+
+    ASSERT_NE(editor(), nullptr);
+    EXPECT_EQ(editor()->text(), "");
+    EXPECT_EQ(read(lights[0])->name(), L"A");
+}
+
+TEST_F(Panel, DeleteOnAListOpensItAsItIs) {
+    select({lights[0]});
+    tree().setFocus();
+    tree().setCurrentItem(tree().itemOf("light.on"));
+    press(Qt::Key_Delete);
+    press(Qt::Key_Delete);
+
+    ASSERT_NE(editor(), nullptr);
+    EXPECT_EQ(editor()->text(), "on");
+}
+
+TEST_F(Panel, TabWithCtrlIsNotForTheEditor) {
+    select({lights[0]});
+    open("light.name");
+    type("Desk");
+    press(Qt::Key_Tab, Qt::ControlModifier);
+
+    EXPECT_EQ(tree().currentItem(), tree().itemOf("light.name"));
+    EXPECT_EQ(read(lights[0])->name(), L"A");
+}
+
+TEST_F(Panel, ClosedEditorIsNotSeenUntilItIsDeleted) {
+    select({lights[0]});
+    open("light.intensity");
+    const QPointer<ValueEditor> closed = editor();
+    tree().giveUp();
+
+    ASSERT_NE(closed, nullptr);
+    EXPECT_FALSE(closed->isVisible());
+}
+
 TEST_F(Panel, EscapeGivesUp) {
     select(lights);
     open("light.intensity");
