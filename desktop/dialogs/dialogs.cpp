@@ -38,7 +38,7 @@ FileAnswer Dialogs::chooseFile(const FileQuestion& question) {
     if (file.isEmpty())
         return {};
     rememberFolder(session_, question, file);
-    return {fromQt(file), false, dialog.isReadOnly()};
+    return {fromQt(file), false, dialog.mayReplace()};
 }
 
 SaveChoice Dialogs::askToSave(std::wstring_view drawing) { return askSaveChoice(drawing, parent()); }

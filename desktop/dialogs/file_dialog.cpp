@@ -11,6 +11,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QSplitter>
 #include <QTreeView>
 #include <QUrl>
@@ -31,7 +33,7 @@ FileDialog::FileDialog(const FileQuestion& question, const QString& folder, std:
     setObjectName("file");
     setModal(true);
     setOption(DontUseNativeDialog);
-    setOption(DontConfirmOverwrite); // who asks for the file asks about that, too
+    setOption(DontConfirmOverwrite); // asked in the program's own words
     setOption(DontUseCustomDirectoryIcons);
     setAcceptMode(question.forSaving ? AcceptSave : AcceptOpen);
     setFileMode(question.forSaving ? AnyFile : ExistingFile);
@@ -46,8 +48,11 @@ FileDialog::FileDialog(const FileQuestion& question, const QString& folder, std:
     addComplaint();
     if (question.offersReadOnly && !question.forSaving)
         addReadOnlyBox();
-    if (!question.initialName.empty())
-        selectFile(toQt(question.initialName));
+    const QString initial = toQt(question.initialName);
+    if (!initial.isEmpty())
+        selectFile(initial);
+    if (QDir::isAbsolutePath(initial))
+        ownFile_ = QDir::cleanPath(initial);
     resize(question.previews ? kSizeWithPreview : kSize);
 }
 
@@ -112,6 +117,7 @@ void FileDialog::addPreview() {
 void FileDialog::addComplaint() {
     complaint_ = new QLabel(this);
     complaint_->setObjectName("complaint");
+    complaint_->setTextFormat(Qt::PlainText); // names of files are in it
     complaint_->setWordWrap(true);
     complaint_->hide();
     if (auto* const grid = qobject_cast<QGridLayout*>(layout()))
@@ -151,22 +157,60 @@ QString FileDialog::chosenFile() const {
     return files.isEmpty() ? QString() : files.front();
 }
 
+void FileDialog::complain(const Text& about, const QString& name) {
+    complaint_->setText(toQt(fill(about, fromQt(name))));
+    complaint_->show();
+}
+
 void FileDialog::accept() {
     const QString name = typedName();
-    if (name.isEmpty()) {
-        QFileDialog::accept();
-        return;
-    }
-    const QString file = meantFile(name);
-    if (!forSaving_ && !QFileInfo::exists(file)) {
-        complaint_->setText(toQt(fill(texts::kFileNotThere, fromQt(name))));
-        complaint_->show();
-        return;
-    }
     complaint_->hide();
-    if (auto* const edit = findChild<QLineEdit*>(kNameEdit); edit != nullptr && !forSaving_)
+    if (forSaving_)
+        acceptToSave();
+    else if (name.isEmpty())
+        QFileDialog::accept();
+    else
+        acceptToOpen(name);
+}
+
+void FileDialog::acceptToOpen(const QString& name) {
+    const QString file = meantFile(name);
+    if (!QFileInfo::exists(file))
+        return complain(texts::kFileNotThere, name);
+    if (auto* const edit = findChild<QLineEdit*>(kNameEdit))
         edit->setText(file);
     QFileDialog::accept();
+}
+
+// A folder is only gone into.
+void FileDialog::acceptToSave() {
+    const QStringList files = selectedFiles();
+    if (files.isEmpty() || QFileInfo(files.front()).isDir())
+        return QFileDialog::accept();
+    const QFileInfo file(files.front());
+    if (!file.absoluteDir().exists())
+        return complain(texts::kFileFolderNotThere, file.absolutePath());
+    const bool replaces = file.exists() && file.absoluteFilePath() != ownFile_;
+    if (replaces && !isToBeReplaced(file.absoluteFilePath()))
+        return;
+    mayReplace_ = replaces;
+    QFileDialog::accept();
+}
+
+bool FileDialog::isToBeReplaced(const QString& file) {
+    QMessageBox box(this);
+    box.setObjectName("replace");
+    box.setIcon(QMessageBox::Warning);
+    box.setTextFormat(Qt::PlainText);
+    box.setWindowTitle(windowTitle());
+    box.setText(toQt(fill(texts::kReplaceQuestion, fromQt(QFileInfo(file).fileName()))));
+    box.setInformativeText(toQt(texts::kReplaceConsequence));
+    const QPushButton* const replace = box.addButton(toQt(texts::kReplaceButton), QMessageBox::DestructiveRole);
+    QPushButton* const cancel = box.addButton(toQt(texts::kButtonCancel), QMessageBox::RejectRole);
+    box.setDefaultButton(cancel);
+    box.setEscapeButton(cancel);
+    box.exec();
+    return box.clickedButton() == replace;
 }
 
 } // namespace quor::desktop

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/dialogs/file_places.h"
+#include "host/texts/text.h"
 
 #include <QFileDialog>
 
@@ -27,7 +28,11 @@ public:
     // What is said about a name that cannot be taken; empty otherwise.
     [[nodiscard]] QString complaint() const;
 
-    // A name without a file behind it is complained about in the dialog, not in another one on top.
+    // Whether the person has said that a file which exists is to be replaced.
+    [[nodiscard]] bool mayReplace() const { return mayReplace_; }
+
+    // A name that cannot be taken is complained about in the dialog, not in another one on top. Another file than the
+    // one that is named at the start is replaced only after a question.
     void accept() override;
 
 private:
@@ -38,6 +43,10 @@ private:
     void addPreview();
     void addComplaint();
     void addReadOnlyBox();
+    void complain(const Text& about, const QString& name);
+    void acceptToOpen(const QString& name);
+    void acceptToSave();
+    [[nodiscard]] bool isToBeReplaced(const QString& file);
     [[nodiscard]] QString typedName() const;
     // The file that the name means: with the filter's ending where it has none and only so there is one.
     [[nodiscard]] QString meantFile(const QString& name) const;
@@ -46,7 +55,9 @@ private:
     PreviewPane* preview_ = nullptr;
     QLabel* complaint_ = nullptr;
     QCheckBox* readOnly_ = nullptr;
+    QString ownFile_; // whole path; saving into it needs no question
     bool forSaving_;
+    bool mayReplace_ = false;
 };
 
 } // namespace quor::desktop

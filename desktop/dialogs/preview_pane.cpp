@@ -19,6 +19,7 @@ PreviewPane::PreviewPane(QWidget* parent)
     : QWidget(parent), pages_(new QStackedLayout(this)), words_(new QLabel(this)), web_(new WebPreview(this)) {
     setObjectName("preview");
     setAccessibleName(toQt(texts::kPreview));
+    words_->setTextFormat(Qt::RichText);
     words_->setWordWrap(true);
     words_->setAlignment(Qt::AlignCenter);
     words_->setMargin(12);

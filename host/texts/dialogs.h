@@ -49,6 +49,13 @@ inline constexpr Text kFilePlaceWebs{L"随附的光域网", L"Supplied webs"};
 inline constexpr Text kFilePlaceHome{L"主文件夹", L"Home"};
 inline constexpr Text kFileNotThere{L"找不到文件“%s”。请检查名称，或在列表中选择。",
                                     L"The file \"%s\" was not found. Check the name, or choose one from the list."};
+inline constexpr Text kFileFolderNotThere{L"文件夹“%s”不存在。请先创建该文件夹，或换一个位置。",
+                                          L"The folder \"%s\" does not exist. Create it first or choose another "
+                                          L"location."};
+inline constexpr Text kReplaceQuestion{L"文件 %s 已存在。是否替换?", L"The file %s already exists. Replace it?"};
+inline constexpr Text kReplaceConsequence{L"替换后，文件现有的内容将丢失。",
+                                          L"What the file holds now is lost when it is replaced."};
+inline constexpr Text kReplaceButton{L"替换(&R)", L"&Replace"};
 
 // What a file holds.
 inline constexpr Text kPreview{L"预览", L"Preview"};

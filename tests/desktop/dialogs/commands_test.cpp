@@ -2,13 +2,20 @@
 #include "desktop/dialogs/command_link.h"
 #include "desktop/dialogs/file_dialog.h"
 #include "desktop/dialogs/task_dialog.h"
+#include "desktop/front/desktop_front_end.h"
 #include "host/document.h"
+#include "host/session.h"
 #include "host/sys/system_variables.h"
 #include "tests/desktop/support/person.h"
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTemporaryDir>
 
 namespace quor::desktop::test {
 namespace {
@@ -73,6 +80,36 @@ TEST(DialogsOfCommandsTest, AWebFileIsChosenByKeyboard) {
         person.types(QString(QUOR_BUILD_DIR) + "/share/quor/webs/street.ies");
         EXPECT_FALSE(isOpen<FileDialog>(person));
         EXPECT_TRUE(person.screen().contains("Quor samples"));
+    });
+}
+
+TEST(DialogsOfCommandsTest, SaveAsAsksOnceWhetherAFileIsReplaced) {
+    const QTemporaryDir folder;
+    const QString plan = folder.filePath("plan.dxf");
+    withProgram(usualOptions(), [&](Person& person) {
+        person.types("SAVEAS");
+        person.types(plan);
+        person.types("NEW");
+        person.types("SAVEAS");
+        person.types(folder.filePath("nowhere/plan.dxf"));
+        EXPECT_TRUE(isOpen<FileDialog>(person));
+        person.does([] { QApplication::activeModalWidget()->findChild<QLineEdit*>("fileNameEdit")->clear(); });
+        person.types(folder.filePath("other.dxf"));
+        EXPECT_TRUE(QFile::exists(folder.filePath("other.dxf")));
+        QFile::copy(plan, folder.filePath("third.dxf"));
+        person.types("SAVEAS");
+        person.types(folder.filePath("third.dxf"));
+        ASSERT_TRUE(isOpen<QMessageBox>(person));
+        person.does([] {
+            for (QAbstractButton* const button : QApplication::activeModalWidget()->findChildren<QAbstractButton*>())
+                if (button->text().contains("替换"))
+                    return button->click();
+        });
+
+        ASSERT_FALSE(isOpen<QDialog>(person));
+        EXPECT_EQ(person.sees([&] { return person.program().front().question()->kind; }), Question::Kind::Command);
+        EXPECT_EQ(person.sees([&] { return person.program().session().documents().current()->path(); }),
+                  folder.filePath("third.dxf").toStdString());
     });
 }
 

@@ -16,7 +16,9 @@
 
 #include <QAbstractItemView>
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QTemporaryDir>
 
 namespace quor::desktop::test {
@@ -120,11 +122,62 @@ TEST_F(FileDialogTest, SavingTakesANewNameWithTheEndingOfTheFilter) {
     EXPECT_EQ(chosen(question, {type("plan"), press(Qt::Key_Return)}), path("plan.dxf"));
 }
 
-TEST_F(FileDialogTest, SavingLeavesTheQuestionAboutReplacingToWhoAsked) {
+FileQuestion saveQuestion() {
     FileQuestion question;
     question.filters = {{L"IES", L"*.ies"}};
     question.forSaving = true;
-    EXPECT_EQ(chosen(question, {type("street.ies"), press(Qt::Key_Return)}), path("street.ies"));
+    return question;
+}
+
+TEST_F(FileDialogTest, SavingAsksBeforeAFileIsReplaced) {
+    FileDialog saving(saveQuestion(), folder_.path(), {}, nullptr);
+    QString asked;
+    later({type("street"), press(Qt::Key_Return), [&] { asked = qobject_cast<QMessageBox*>(openDialog())->text(); },
+           press(Qt::Key_R, Qt::AltModifier)});
+    saving.exec();
+    EXPECT_EQ(asked, "文件 street.ies 已存在。是否替换?");
+    EXPECT_EQ(saving.chosenFile(), path("street.ies"));
+    EXPECT_TRUE(saving.mayReplace());
+}
+
+TEST_F(FileDialogTest, EscAtTheQuestionGoesBackToTheDialog) {
+    bool isBack = false;
+    const QString file = chosen(saveQuestion(), {type("street"), press(Qt::Key_Return), press(Qt::Key_Escape),
+                                                 [&] { isBack = qobject_cast<FileDialog*>(openDialog()) != nullptr; },
+                                                 [] { openDialog()->close(); }});
+    EXPECT_TRUE(isBack);
+    EXPECT_EQ(file, "");
+}
+
+TEST_F(FileDialogTest, EnterAtTheQuestionReplacesNothing) {
+    EXPECT_EQ(chosen(saveQuestion(),
+                     {type("street"), press(Qt::Key_Return), press(Qt::Key_Return), [] { dialog().reject(); }}),
+              "");
+}
+
+TEST_F(FileDialogTest, SavingIntoTheFileNamedAtTheStartNeedsNoQuestion) {
+    FileQuestion question = saveQuestion();
+    question.initialName = fromQt(path("street.ies"));
+    FileDialog saving(question, folder_.path(), {}, nullptr);
+    later({press(Qt::Key_Return)});
+    saving.exec();
+    EXPECT_EQ(saving.chosenFile(), path("street.ies"));
+    EXPECT_FALSE(saving.mayReplace());
+}
+
+TEST_F(FileDialogTest, AFolderThatIsNotThereIsComplainedAboutAsItStands) {
+    QString complaint;
+    bool isPlain = false;
+    const QString file =
+        chosen(saveQuestion(), {type("<b>no</b>/plan.ies"), press(Qt::Key_Return),
+                                [&] {
+                                    complaint = dialog().complaint();
+                                    isPlain = dialog().findChild<QLabel*>("complaint")->textFormat() == Qt::PlainText;
+                                },
+                                [] { dialog().reject(); }});
+    EXPECT_TRUE(complaint.contains(path("<b>no</b>").section('/', 0, -2)));
+    EXPECT_TRUE(isPlain);
+    EXPECT_EQ(file, "");
 }
 
 TEST_F(FileDialogTest, TheInitialNameStandsThere) {
