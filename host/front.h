@@ -111,6 +111,8 @@ public:
     [[nodiscard]] virtual bool hasDialogs() const { return false; }
     // What is to become of the changes of a drawing that is about to be closed; nothing: ask on the command line.
     virtual std::optional<SaveChoice> askToSave(std::wstring_view /*drawing*/) { return std::nullopt; }
+    // What a person asked for cannot be done, in their words; it stands on the command line already.
+    virtual void showProblem(std::wstring_view /*message*/) {}
     // A window at the top was made: a program with a screen attaches its peers here.
     virtual void realise(CWnd& /*window*/) {}
     // A palette was brought to view by the command that has just ended, or in between: what it shows is up to date.

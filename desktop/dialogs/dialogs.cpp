@@ -1,6 +1,7 @@
 #include "desktop/dialogs/dialogs.h"
 
 #include "desktop/dialogs/file_dialog.h"
+#include "desktop/dialogs/problem_box.h"
 #include "desktop/dialogs/save_question.h"
 #include "desktop/dialogs/task_dialog.h"
 #include "desktop/qt_text.h"
@@ -42,6 +43,8 @@ FileAnswer Dialogs::chooseFile(const FileQuestion& question) {
 }
 
 SaveChoice Dialogs::askToSave(std::wstring_view drawing) { return askSaveChoice(drawing, parent()); }
+
+void Dialogs::showProblem(std::wstring_view message) { desktop::showProblem(message, parent()); }
 
 void Dialogs::escape() {
     while (QWidget* const popup = QApplication::activePopupWidget())

@@ -19,6 +19,7 @@ public:
     TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) override;
     FileAnswer chooseFile(const FileQuestion& question) override;
     SaveChoice askToSave(std::wstring_view drawing) override;
+    void showProblem(std::wstring_view message) override;
     // Menus, too. One dialog may have opened another: all of them go. One that a person could not cancel answers that
     // there is no more input.
     void escape() override;

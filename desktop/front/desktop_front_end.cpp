@@ -215,6 +215,11 @@ std::optional<SaveChoice> DesktopFrontEnd::askToSave(std::wstring_view drawing) 
     return choice;
 }
 
+void DesktopFrontEnd::showProblem(std::wstring_view message) {
+    if (dialogs_ != nullptr && !isLeaving())
+        dialogs_->showProblem(message);
+}
+
 void DesktopFrontEnd::realise(CWnd& window) {
     if (windows_ != nullptr)
         windows_->realise(window);

@@ -64,6 +64,7 @@ public:
     [[nodiscard]] bool hasDialogs() const override { return dialogs_ != nullptr; }
     [[nodiscard]] bool desktopIsDark() const override { return desktopIsDark_; }
     std::optional<SaveChoice> askToSave(std::wstring_view drawing) override;
+    void showProblem(std::wstring_view message) override;
     void realise(CWnd& window) override;
     void paletteShown(const CZkUiPaletteSet& palette) override;
     unsigned trackMenu(const CMenu& menu, CPoint screen) override;

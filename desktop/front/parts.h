@@ -13,6 +13,8 @@ public:
     virtual TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog& dialog) = 0;
     virtual FileAnswer chooseFile(const FileQuestion& question) = 0;
     virtual SaveChoice askToSave(std::wstring_view drawing) = 0;
+    // What cannot be done, until the person has read it.
+    virtual void showProblem(std::wstring_view message) = 0;
     // Answers whatever dialog is open with Esc.
     virtual void escape() = 0;
 };

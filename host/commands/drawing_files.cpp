@@ -2,6 +2,7 @@
 
 #include "host/commands/ask.h"
 #include "host/commands/ask_file.h"
+#include "host/commands/problem.h"
 #include "host/commands/save_place.h"
 #include "host/db/ref_edit.h"
 #include "host/db/versions.h"
@@ -43,22 +44,14 @@ void sayProblems(const std::vector<ZrString>& problems) {
         sayShown(texts::kMoreProblems, problems.size() - shown);
 }
 
-// Says why a path cannot be read; true when it can.
-bool isReadableFile(const fs::path& path) {
+// Says why a path cannot be read. RTNORM when it can.
+int checkReadable(const fs::path& path) {
     std::error_code error;
-    if (fs::is_directory(path, error)) {
-        sayShown(texts::kIsFolder, textOf(path));
-        return false;
-    }
-    if (!fs::exists(path, error)) {
-        sayShown(texts::kNoSuchFile, textOf(path));
-        return false;
-    }
-    if (!fs::is_regular_file(path, error)) {
-        sayShown(texts::kNoRegularFile, textOf(path));
-        return false;
-    }
-    return true;
+    if (fs::is_directory(path, error))
+        return failBeforePerson(texts::kIsFolder, textOf(path));
+    if (!fs::exists(path, error))
+        return failBeforePerson(texts::kNoSuchFile, textOf(path));
+    return fs::is_regular_file(path, error) ? RTNORM : failBeforePerson(texts::kNoRegularFile, textOf(path));
 }
 
 constexpr PlaceTexts kPlaceOfADrawing{.isFolder = texts::kIsFolder,
@@ -82,8 +75,8 @@ FileAnswer typeSavePath() { return {askLine(texts::kAskSavePath.get())}; }
 
 int openPath(Session& session, const fs::path& file, bool recover) {
     const fs::path path = absolutePath(file);
-    if (!isReadableFile(path))
-        return RTERROR;
+    if (const int result = checkReadable(path); result != RTNORM)
+        return result;
     if (Document* open = openDocument(session, path)) {
         session.documents().setCurrent(open);
         sayShown(texts::kOpenAlready, textOf(path));
@@ -95,10 +88,8 @@ int openPath(Session& session, const fs::path& file, bool recover) {
     options.progress = [&](double fraction) { session.front().progress(what, fraction); };
     auto read = db::Database::open(path, options);
     session.front().progress(what, 1.0);
-    if (!read) {
-        printText(L"\n" + visibleText(read.error().message) + L"\n");
-        return RTERROR;
-    }
+    if (!read)
+        return failBeforePerson(L"\n" + visibleText(read.error().message) + L"\n");
     const Document& document = session.documents().adopt(std::move(read).value(), path);
     const db::Database& drawing = document.drawing();
     sayShown(texts::kOpened, textOf(path), versionText(drawing.version()), entityCount(drawing, *document.database()));
@@ -117,10 +108,8 @@ fs::path withExtension(fs::path path, const char* extension) {
 }
 
 int askSavePath(Session& session, const Document& document, fs::path& path) {
-    if (const db::RefEdit& editing = document.drawing().refEdit(); editing.isActive()) {
-        printText(L"\n" + fillShown(texts::kNotSavedWhileEditing, editing.blockName()) + L"\n");
-        return RTERROR;
-    }
+    if (const db::RefEdit& editing = document.drawing().refEdit(); editing.isActive())
+        return failBeforePerson(L"\n" + fillShown(texts::kNotSavedWhileEditing, editing.blockName()) + L"\n");
     const FileAnswer answer = asksInDialog(session) ? chooseSavePath(session, document) : typeSavePath();
     if (!answer.file || answer.file->empty())
         return RTCAN;
@@ -131,10 +120,8 @@ int askSavePath(Session& session, const Document& document, fs::path& path) {
 
 int saveTo(Document& document, const fs::path& path) {
     document.drawing().mendOnSave();
-    if (const auto saved = document.drawing().save(path); !saved) {
-        printText(L"\n" + visibleText(saved.error().message) + L"\n");
-        return RTERROR;
-    }
+    if (const auto saved = document.drawing().save(path); !saved)
+        return failBeforePerson(L"\n" + visibleText(saved.error().message) + L"\n");
     document.setPath(path);
     document.drawing().journal().markSaved();
     sayShown(texts::kSavedTo, textOf(path));

@@ -2,6 +2,7 @@
 
 #include "host/commands/ask.h"
 #include "host/commands/drawing_files.h"
+#include "host/commands/problem.h"
 #include "host/session.h"
 #include "host/texts/files.h"
 
@@ -13,15 +14,15 @@ int checkPlace(Session& session, const fs::path& path, const Document* own, cons
                bool mayReplace) {
     std::error_code error;
     if (fs::is_directory(path, error))
-        return failWith(place.isFolder, textOf(path));
+        return failBeforePerson(place.isFolder, textOf(path));
     if (fs::exists(path, error) && !fs::is_regular_file(path, error))
-        return failWith(place.noRegularFile, textOf(path));
+        return failBeforePerson(place.noRegularFile, textOf(path));
     const fs::path folder = path.parent_path();
     if (!folder.empty() && !fs::is_directory(folder, error))
-        return failWith(place.noSuchFolder, textOf(folder));
+        return failBeforePerson(place.noSuchFolder, textOf(folder));
     const Document* open = openDocument(session, path);
     if (open != nullptr && open != own)
-        return failWith(place.isOpenDrawing, textOf(path));
+        return failBeforePerson(place.isOpenDrawing, textOf(path));
     if (open != nullptr || mayReplace || !fs::exists(path, error))
         return RTNORM;
     const std::optional<bool> replace = askYesNo(fillShown(texts::kAskReplace, textOf(path)), false);

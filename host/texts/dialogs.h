@@ -19,6 +19,9 @@ inline constexpr Text kSaveConsequence{L"不保存则更改将丢失。", L"If y
 inline constexpr Text kSaveButton{L"保存(&S)", L"&Save"};
 inline constexpr Text kDiscardButton{L"不保存(&N)", L"Do&n't Save"};
 
+// Something that cannot be done.
+inline constexpr Text kProblemTitle{L"无法完成", L"Cannot be done"};
+
 // Choosing a file.
 inline constexpr Text kFileLookIn{L"查找范围(&I):", L"Look &in:"};
 inline constexpr Text kFileSaveIn{L"保存位置(&I):", L"Save &in:"};

@@ -38,7 +38,8 @@ std::vector<double> heightsOf(std::span<const Edge> edges) {
     for (const Edge& edge : edges)
         heights.insert(heights.end(), {edge.low.y, edge.high.y});
     std::ranges::sort(heights);
-    heights.erase(std::unique(heights.begin(), heights.end()), heights.end());
+    const auto again = std::ranges::unique(heights);
+    heights.erase(again.begin(), again.end());
     return heights;
 }
 

@@ -81,7 +81,8 @@ void showSubdivisionMesh(const Source& source, Pen& pen) {
     }
     // Faces that stand side by side share theirs.
     std::ranges::sort(edges);
-    edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
+    const auto again = std::ranges::unique(edges);
+    edges.erase(again.begin(), again.end());
     for (const auto& [from, to] : edges)
         pen.edge(mesh.points[static_cast<std::size_t>(from)], mesh.points[static_cast<std::size_t>(to)]);
 }

@@ -165,10 +165,12 @@ TEST_F(DesktopFrontEndTest, LinesOfThePersonAtTheCommandPromptAreToldApart) {
 class Dialog final : public DialogPart {
 public:
     int escapes = 0;
+    ZrString problems;
 
     TaskDialogAnswer showTaskDialog(const CZrUiTaskDialog&) override { return {7, false, false}; }
     FileAnswer chooseFile(const FileQuestion&) override { return {L"/lamp.ies", false}; }
     SaveChoice askToSave(std::wstring_view) override { return SaveChoice::Discard; }
+    void showProblem(std::wstring_view message) override { problems += message; }
     void escape() override { ++escapes; }
 };
 
@@ -187,6 +189,16 @@ TEST_F(DesktopFrontEndTest, DialogsAreThoseOfTheWindow) {
     EXPECT_EQ(front_.showTaskDialog(CZrUiTaskDialog()).command, 7);
     EXPECT_EQ(front_.chooseFile({}).file, L"/lamp.ies");
     EXPECT_EQ(front_.askToSave(L"plan"), SaveChoice::Discard);
+    front_.showProblem(L"no such file");
+    EXPECT_EQ(dialog.problems, L"no such file");
+}
+
+TEST_F(DesktopFrontEndTest, NobodyIsShownAProblemWhileTheProgramEnds) {
+    Dialog dialog;
+    front_.setDialogs(&dialog);
+    front_.end();
+    front_.showProblem(L"no such file");
+    EXPECT_EQ(dialog.problems, L"");
 }
 
 TEST_F(DesktopFrontEndTest, WithoutPartsItAnswersAsAProgramWithoutWindows) {
