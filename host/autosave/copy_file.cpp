@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr dxf::SaveOptions kWithoutBackup{.keepBackup = false};
+const dxf::SaveOptions kWithoutBackup{.keepBackup = false};
 constexpr std::size_t kLongestInfo = 1 << 20;
 
 CopyInfo infoOf(const Document& document) {

@@ -75,11 +75,12 @@ Result<std::unique_ptr<Database>, FileProblem> Database::fromBytes(std::string_v
     return make(dxf::Image::fromBytes(bytes), options, L"-");
 }
 
-Result<void, FileProblem> Database::save(const std::filesystem::path& path) {
+Result<void, FileProblem> Database::save(const std::filesystem::path& path, std::function<void(double)> progress) {
     Result<dxf::PatchList, FileProblem> patches = collectPatches(*this, pathText(path));
     if (!patches.ok())
         return fail(patches.error());
-    const Result<void, dxf::SaveError> saved = dxf::saveAtomically(path, patches.value().segments(file_.bytes()));
+    const Result<void, dxf::SaveError> saved =
+        dxf::saveAtomically(path, patches.value().segments(file_.bytes()), {.progress = std::move(progress)});
     if (!saved.ok())
         return fail(FileProblem{describe(saved.error(), pathText(path))});
     journal_.markSaved();

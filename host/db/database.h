@@ -64,8 +64,8 @@ public:
     // without changes is saved as it came.
     void mendOnSave() { mendsOnSave_ = true; }
     [[nodiscard]] bool mendsOnSave() const { return mendsOnSave_; }
-    // Writes the drawing to `path`, keeping the previous version as .bak.
-    Result<void, FileProblem> save(const std::filesystem::path& path);
+    // Writes the drawing to `path`, keeping the previous version as .bak; `progress` is told a share from 0 to 1.
+    Result<void, FileProblem> save(const std::filesystem::path& path, std::function<void(double)> progress = {});
     // The bytes that save() would write.
     Result<std::string, FileProblem> toBytes();
     // What was wrong with a recovered drawing, a line each.

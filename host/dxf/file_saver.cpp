@@ -115,16 +115,20 @@ std::optional<fs::path> resolved(fs::path path) {
 
 fs::path folderOf(const fs::path& path) { return path.has_parent_path() ? path.parent_path() : fs::path("."); }
 
-bool writeAll(int fd, const Segments& segments) {
+// `told` hears after each write how many bytes it wrote; so much at once that nobody waits long for that.
+bool writeAll(int fd, const Segments& segments, const std::function<void(std::size_t)>& told = {}) {
     constexpr std::size_t kBatch = std::min(IOV_MAX, 1024);
+    constexpr std::size_t kMostBytes = std::size_t{16} << 20;
     std::array<iovec, kBatch> batch{};
     std::size_t next = 0;
     std::size_t skip = 0; // bytes of segments[next] that are written
     while (next < segments.size()) {
         std::size_t count = 0;
-        for (std::size_t i = next; i < segments.size() && count < kBatch; ++i, ++count) {
-            const std::string_view rest = segments[i].substr(i == next ? skip : 0);
+        std::size_t bytes = 0;
+        for (std::size_t i = next; i < segments.size() && count < kBatch && bytes < kMostBytes; ++i, ++count) {
+            const std::string_view rest = segments[i].substr(i == next ? skip : 0, kMostBytes - bytes);
             batch[count] = {const_cast<char*>(rest.data()), rest.size()};
+            bytes += rest.size();
         }
         const ssize_t written = ::writev(fd, batch.data(), static_cast<int>(count));
         if (written < 0 && errno == EINTR) {
@@ -132,6 +136,9 @@ bool writeAll(int fd, const Segments& segments) {
         }
         if (written < 0) {
             return false;
+        }
+        if (told) {
+            told(static_cast<std::size_t>(written));
         }
         skip += static_cast<std::size_t>(written);
         while (next < segments.size() && skip >= segments[next].size()) {
@@ -291,7 +298,15 @@ fs::path backupPath(const fs::path& path) {
 }
 
 Outcome saveAtomically(const fs::path& path, const Segments& segments, const SaveOptions& options) {
-    const auto write = [&](int fd) { return reserve(fd, totalSize(segments)) && writeAll(fd, segments); };
+    const std::size_t size = totalSize(segments);
+    std::size_t done = 0;
+    const auto told = [&](std::size_t written) {
+        done += written;
+        if (options.progress) {
+            options.progress(static_cast<double>(done) / static_cast<double>(size));
+        }
+    };
+    const auto write = [&](int fd) { return reserve(fd, size) && writeAll(fd, segments, told); };
     return save(path, write, options);
 }
 

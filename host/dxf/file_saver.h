@@ -28,6 +28,8 @@ struct SaveError {
 
 struct SaveOptions {
     bool keepBackup = true; // the previous version becomes <stem>.bak
+    // Told a share from 0 to 1, now and then: of what is known to be written.
+    std::function<void(double)> progress = {};
 };
 
 // Writes beside the target, syncs, keeps the old version, renames, syncs the folder. Follows symbolic links. A save

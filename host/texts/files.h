@@ -26,6 +26,7 @@ inline constexpr Text kChooseSave{L"图形另存为", L"Save drawing as"};
 inline constexpr Text kDxfFiles{L"DXF 图形", L"DXF drawings"};
 
 // Progress.
+inline constexpr Text kSaving{L"正在保存 %s", L"Saving %s"};
 inline constexpr Text kOpening{L"正在打开 %s", L"Opening %s"};
 
 // What was done.

@@ -3,6 +3,7 @@
 #include "host/dxf/image.h"
 #include "tests/host/dxf/scratch_folder.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <functional>
 #include <gtest/gtest.h>
@@ -90,6 +91,18 @@ TEST(SaveAtomically, TheFileThatWasReadMayBeTheTarget) {
     patches.insert(5, "x");
     EXPECT_TRUE(saveAtomically(folder / "plan.dxf", patches.segments(image->bytes())).ok());
     EXPECT_EQ(contentOf(folder / "plan.dxf"), "01234x56789");
+}
+
+TEST(SaveAtomically, TellsHowFarALongFileHasCome) {
+    const ScratchFolder folder;
+    const std::string large(std::size_t{40} << 20, 'x');
+    std::vector<double> told;
+    const SaveOptions options{.progress = [&](double share) { told.push_back(share); }};
+    EXPECT_TRUE(saveAtomically(folder / "plan.dxf", {"a", large, "b"}, options).ok());
+    EXPECT_EQ(fs::file_size(folder / "plan.dxf"), large.size() + 2);
+    EXPECT_GE(told.size(), 3U);
+    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+    EXPECT_EQ(told.back(), 1);
 }
 
 TEST(SaveAtomically, KeepsPermissions) {
