@@ -38,8 +38,7 @@ std::vector<double> heightsOf(std::span<const Edge> edges) {
     for (const Edge& edge : edges)
         heights.insert(heights.end(), {edge.low.y, edge.high.y});
     std::ranges::sort(heights);
-    const auto again = std::ranges::unique(heights);
-    heights.erase(again.begin(), again.end());
+    heights.erase(std::unique(heights.begin(), heights.end()), heights.end());
     return heights;
 }
 

@@ -81,8 +81,7 @@ void showSubdivisionMesh(const Source& source, Pen& pen) {
     }
     // Faces that stand side by side share theirs.
     std::ranges::sort(edges);
-    const auto again = std::ranges::unique(edges);
-    edges.erase(again.begin(), again.end());
+    edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
     for (const auto& [from, to] : edges)
         pen.edge(mesh.points[static_cast<std::size_t>(from)], mesh.points[static_cast<std::size_t>(to)]);
 }
