@@ -11,8 +11,11 @@
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMainWindow>
 #include <QScopedValueRollback>
+#include <QScreen>
 
+#include <algorithm>
 #include <utility>
 
 namespace quor::desktop {
@@ -61,7 +64,7 @@ void PaletteDock::followVisibility(bool shown) {
 
 void PaletteDock::tellPlace() {
     CZkUiPaletteSet* const shown = shownPalette();
-    if (shown == nullptr || !area_->isVisible())
+    if (shown == nullptr || !area_->isVisible() || isFloating() != isKnownToFloat_)
         return;
     const QScopedValueRollback following(isFollowing_, true);
     const CRect place = fromQt(QRect(area_->mapToGlobal(QPoint()), area_->size()));
@@ -69,6 +72,11 @@ void PaletteDock::tellPlace() {
         shown->SetFloatingRect(place);
     else
         shown->SetDockedRect(place);
+}
+
+bool PaletteDock::restorePlace(QMainWindow& window) {
+    const QScopedValueRollback following(isFollowing_, true);
+    return window.restoreDockWidget(this);
 }
 
 // A docked palette goes where its dock goes.
@@ -134,14 +142,36 @@ void PaletteDock::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void PaletteDock::tellOfDocking(bool floats) {
+    isKnownToFloat_ = floats;
     CZkUiPaletteSet* const shown = shownPalette();
     if (shown == nullptr)
         return;
+    if (floats && !isFollowing_)
+        floatAsBefore(toQt(shown->GetFloatingRect()).size());
     tellPlace();
     if (floats)
         shown->onFloated();
     else
         shown->onDocked();
+}
+
+// A dock that is dragged away keeps the size of the place that it leaves: the whole height of the window. Where it is
+// dragged to is up to the person.
+void PaletteDock::floatAsBefore(QSize inside) {
+    const QScopedValueRollback following(isFollowing_, true);
+    const QSize frame = isVisible() ? size() - area_->size() : sizeHint() - area_->sizeHint();
+    const QRect space = screen()->availableGeometry();
+    resize((inside.expandedTo(area_->minimumSizeHint()) + frame).boundedTo(space.size()));
+    QMetaObject::invokeMethod(this, &PaletteDock::moveIntoSight, Qt::QueuedConnection); // Qt places it after this
+}
+
+void PaletteDock::moveIntoSight() {
+    if (!isFloating() || QGuiApplication::mouseButtons() != Qt::NoButton)
+        return;
+    const QRect space = screen()->availableGeometry();
+    const QSize outside = frameGeometry().size();
+    move(std::clamp(x(), space.left(), std::max(space.left(), space.right() + 1 - outside.width())),
+         std::clamp(y(), space.top(), std::max(space.top(), space.bottom() + 1 - outside.height())));
 }
 
 void PaletteDock::tellOfKeyboard(QWidget* now) {

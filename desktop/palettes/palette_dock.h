@@ -9,6 +9,8 @@
 
 #include <QDockWidget>
 
+class QMainWindow;
+
 namespace quor::desktop {
 
 class PaletteArea;
@@ -25,6 +27,8 @@ public:
     [[nodiscard]] PaletteArea& area() const { return *area_; }
     // Tells the palette where its inside is on the screen, docked or floating.
     void tellPlace();
+    // Takes the place that the window's layout has for it, if there is one.
+    [[nodiscard]] bool restorePlace(QMainWindow& window);
     // Moves a floating dock so that its inside is there, on the screen.
     void placeInside(const CRect& place);
     void windowChanged(CWnd& window, ui::WindowPeer::Change change) override;
@@ -46,10 +50,13 @@ private:
     void settleVisibility();
     void tellOfKeyboard(QWidget* now);
     void tellOfDocking(bool floats);
+    void floatAsBefore(QSize inside);
+    void moveIntoSight();
 
     ui::WindowRef window_;
     PaletteArea* area_;
     bool isFollowing_ = false;
+    bool isKnownToFloat_ = false; // by the palette; a dock that is on its way has neither place yet
     bool hasKeyboard_ = false;
 };
 

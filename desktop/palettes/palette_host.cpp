@@ -45,43 +45,83 @@ void PaletteHost::showPalette(CZkUiPaletteSet& palette) {
         if (CZkUiPaletteSet* const shown = dock->shownPalette())
             showAgain(*shown);
     });
+    connect(dock, &QDockWidget::visibilityChanged, this, &PaletteHost::seenChanged);
     place(*dock, palette);
     dock->windowChanged(palette, Change::Visibility);
 }
 
-// Where it was when the layout was saved; else it floats where it wants to.
+// Where it was when the layout was saved; else it floats where it wants to. Docked by a double click it is a tab of the
+// docks on the right, which beside it would have no room.
 void PaletteHost::place(PaletteDock& dock, const CZkUiPaletteSet& palette) {
-    if (main_.restoreDockWidget(&dock))
+    if (dock.restorePlace(main_))
         return;
-    main_.addDockWidget(Qt::LeftDockWidgetArea, &dock);
+    QDockWidget* const neighbour = dockOnTheRight();
+    main_.addDockWidget(Qt::RightDockWidgetArea, &dock);
+    if (neighbour != nullptr)
+        main_.tabifyDockWidget(neighbour, &dock);
     dock.setFloating(true);
     dock.placeInside(palette.GetFloatingRect());
 }
 
-// While a palette was hidden, its drawing may have changed, or gone.
+QDockWidget* PaletteHost::dockOnTheRight() const {
+    for (QDockWidget* const dock : main_.findChildren<QDockWidget*>(Qt::FindDirectChildrenOnly))
+        if (!dock->isFloating() && main_.dockWidgetArea(dock) == Qt::RightDockWidgetArea)
+            return dock;
+    return nullptr;
+}
+
+template <class Action>
+void PaletteHost::forEachPalette(Action&& action) {
+    if (CZrRxPaletteSetManager* const palettes = session_.ui().palettes(false))
+        palettes->forEach(action);
+}
+
+// While a palette was hidden, or not made yet, its drawing may have changed, or gone. It may go itself while it is shown.
 void PaletteHost::showAgain(CZkUiPaletteSet& palette) {
-    const ui::WindowRef window(&palette);
+    const CZkUiPaletteSet* const shown = &palette;
     session_.ui().frame().ShowControlBar(&palette, true, false);
-    if (auto* const shown = dynamic_cast<CZrRxPaletteSet*>(window.get()))
-        shown->documentBecameCurrent(session_.documents().current());
+    forEachPalette([&](CZrRxPaletteSet& present) {
+        if (&present == shown)
+            present.documentBecameCurrent(session_.documents().current());
+    });
 }
 
 QStringList PaletteHost::shownPalettes() {
     QStringList shown;
-    if (CZrRxPaletteSetManager* const palettes = session_.ui().palettes(false))
-        palettes->forEach([&](const CZrRxPaletteSet& palette) {
-            if (palette.IsVisible())
-                shown += toQt(palette.GetToolID());
-        });
+    forEachPalette([&](const CZrRxPaletteSet& palette) {
+        if (palette.IsVisible())
+            shown += toQt(palette.GetToolID());
+    });
     return shown;
 }
 
 void PaletteHost::showPalettes(const QStringList& toolIds) {
-    if (CZrRxPaletteSetManager* const palettes = session_.ui().palettes(false))
-        palettes->forEach([&](CZrRxPaletteSet& palette) {
-            if (toolIds.contains(toQt(palette.GetToolID())) && !palette.IsVisible())
-                showAgain(palette);
-        });
+    forEachPalette([&](CZrRxPaletteSet& palette) {
+        if (toolIds.contains(toQt(palette.GetToolID())) && !palette.IsVisible())
+            showAgain(palette);
+    });
+}
+
+bool PaletteHost::arePalettesSeen() {
+    bool isSeen = false;
+    forEachPalette([&](const CZrRxPaletteSet& palette) {
+        const QWidget* const dock = widgetOf(palette);
+        isSeen = isSeen || (palette.IsVisible() && dock != nullptr && !dock->visibleRegion().isEmpty());
+    });
+    return isSeen;
+}
+
+void PaletteHost::togglePalettes() {
+    const bool hides = arePalettesSeen();
+    forEachPalette([&](CZrRxPaletteSet& palette) {
+        if (hides) {
+            palette.SendMessage(WM_COMMAND, ui::kCloseCommand);
+            return;
+        }
+        if (!palette.IsVisible())
+            showAgain(palette);
+        paletteShown(palette);
+    });
 }
 
 unsigned PaletteHost::trackMenu(const CMenu& menu, CPoint screen) { return popUp(menu, screen, main_); }

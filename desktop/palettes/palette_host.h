@@ -9,6 +9,7 @@
 
 #include <functional>
 
+class QDockWidget;
 class QMainWindow;
 
 namespace quor {
@@ -33,14 +34,27 @@ public:
     [[nodiscard]] QStringList shownPalettes();
     void showPalettes(const QStringList& toolIds);
 
+    // Whether a person sees one of them, not only its tab.
+    [[nodiscard]] bool arePalettesSeen();
+    // As the docks' own menu does, in the middle of a command too: hides them when they are seen, else shows them before
+    // other tabs.
+    void togglePalettes();
+
     void realise(CWnd& window) override;
     unsigned trackMenu(const CMenu& menu, CPoint screen) override;
     // Before other tabs and other windows.
     void paletteShown(const CZkUiPaletteSet& palette) override;
 
+Q_SIGNALS:
+    // What arePalettesSeen() tells.
+    void seenChanged();
+
 private:
+    template <class Action>
+    void forEachPalette(Action&& action);
     void showPalette(CZkUiPaletteSet& palette);
     void place(PaletteDock& dock, const CZkUiPaletteSet& palette);
+    [[nodiscard]] QDockWidget* dockOnTheRight() const;
     void showAgain(CZkUiPaletteSet& palette);
 
     Session& session_;

@@ -73,7 +73,7 @@ constexpr ActionRow kRows[] = {
     {Light, "freespot",     {L"自由聚光灯(&F)", L"&Free Spotlight"},       L"_FREESPOT",     "", Bar::Light},
     {Light, "freeweb",      {L"自由光域网灯光(&B)", L"Free We&blight"},     L"_FREEWEB",      "", Bar::Light},
     {Light, "light",        {L"光源…(&L)", L"&Light…"},                   L"_LIGHT",        "", Bar::None, kGroup},
-    {Light, "lightlist",    {L"模型中的光源(&M)", L"Lights in &Model"},     L"_LIGHTLIST",    "Ctrl+2", Bar::Light, kGroup},
+    {Light, "lightlist",    {L"模型中的光源(&M)", L"Lights in &Model"},     nullptr,          "Ctrl+2", Bar::Light, kGroup, kCheck},
     {Light, "lighttable",   {L"光源表(&A)", L"Light T&able"},             L"_LIGHTTABLE",   ""},
     {Light, "iesinfo",      {L"光域网文件信息(&I)…", L"Photometric Web &Info…"}, L"_IESINFO", "", Bar::None, false, false, kAnytime},
 

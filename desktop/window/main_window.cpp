@@ -144,6 +144,7 @@ void MainWindow::connectViewport() {
     connect(commandLine_, &CommandLine::escaped, viewport_, &Viewport::escape);
     connect(commandLine_, &CommandLine::neededWhileHidden, commandDock_, &QDockWidget::show);
     connect(viewport_, &Viewport::contextMenuRequested, this, &MainWindow::showContextMenu);
+    connect(palettes_.get(), &PaletteHost::seenChanged, this, &MainWindow::refreshSoon);
     connect(&commandLine_->textWindow(), &TextWindow::shownChanged, this, &MainWindow::refreshSoon);
     palettes_->setFocusDrawing([this] { commandLine_->setFocus(); });
 }
@@ -175,6 +176,8 @@ void MainWindow::bindActions() {
     actions_->bind("about", [this] { showAbout(*this); });
     actions_->bind("nextdrawing", [this] { tabs_->step(1); });
     actions_->bind("previousdrawing", [this] { tabs_->step(-1); });
+    actions_->bind("lightlist", [this] { palettes_->togglePalettes(); });
+    actions_->showState("lightlist", [this] { return palettes_->arePalettesSeen(); });
     actions_->bind("textwindow", [this] { commandLine_->showTextWindow(!commandLine_->isTextWindowShown()); });
     actions_->showState("textwindow", [this] { return commandLine_->isTextWindowShown(); });
 }

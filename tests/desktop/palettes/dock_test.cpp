@@ -2,7 +2,10 @@
 #include "sdk/sys/ads.h"
 #include "tests/desktop/palettes/shown_palette.h"
 
+#include <QApplication>
 #include <QDockWidget>
+#include <QMouseEvent>
+#include <QScreen>
 #include <QTest>
 
 namespace quor::desktop::test {
@@ -69,6 +72,87 @@ TEST_F(TheDock, StaysDockedWhenThePaletteIsShownAgain) {
     EXPECT_FALSE(dock().isFloating());
     EXPECT_EQ(dock().geometry(), before);
     EXPECT_EQ(palette().GetClientRect().Height(), dock().area().height());
+}
+
+// Presses on the title and moves the mouse far, with what a window system tells of it.
+void dragByTitle(QWidget& dock, QPoint way) {
+    const QPoint from(dock.width() / 2, 5);
+    const auto send = [&](QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
+        QMouseEvent event(type, at, dock.mapToGlobal(at), button, held, Qt::NoModifier);
+        QApplication::sendEvent(&dock, &event);
+    };
+    send(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    send(QEvent::MouseMove, from + way / 2, Qt::NoButton, Qt::LeftButton);
+    send(QEvent::MouseMove, from + way, Qt::NoButton, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, from + way, Qt::LeftButton, Qt::NoButton);
+}
+
+TEST_F(TheDock, HasItsFormerSizeWhenItIsDraggedAway) {
+    dock().setFloating(false);
+    settle();
+    ASSERT_GT(dock().area().height(), 500);
+
+    dragByTitle(dock(), {-400, 100});
+    settle();
+
+    ASSERT_TRUE(dock().isFloating());
+    EXPECT_EQ(dock().area().size(), QSize(208, 438));
+    EXPECT_EQ(palette().GetFloatingRect().Size(), (CSize{208, 438}));
+    EXPECT_FALSE(palette().IsDocked());
+}
+
+TEST_F(TheDock, IsSeenOnTheScreenWhenItFloatsAgain) {
+    palette().SetFloatingRect({5000, 4000, 5300, 4400});
+    dock().setFloating(false);
+    settle();
+    dock().setFloating(true);
+    settle();
+
+    EXPECT_TRUE(dock().screen()->availableGeometry().contains(dock().frameGeometry()));
+    EXPECT_EQ(dock().area().size(), QSize(300, 400));
+}
+
+TEST_F(TheDock, ShowsThePaletteAndHidesItInTheMiddleOfACommand) {
+    host_->togglePalettes();
+    EXPECT_FALSE(host_->arePalettesSeen());
+    EXPECT_EQ(lightListState(), 0);
+
+    host_->togglePalettes();
+    settle();
+
+    EXPECT_TRUE(host_->arePalettesSeen());
+    EXPECT_EQ(lightListState(), 1);
+    EXPECT_EQ(names(), L"a b");
+}
+
+TEST_F(TheDock, ComesForwardBeforeItIsHiddenWhenAnotherTabCoversIt) {
+    QDockWidget other(main_.get());
+    main_->addDockWidget(Qt::RightDockWidgetArea, &other);
+    dock().setFloating(false);
+    main_->tabifyDockWidget(&dock(), &other);
+    other.show();
+    other.raise();
+    settle();
+    ASSERT_FALSE(host_->arePalettesSeen());
+
+    host_->togglePalettes();
+    settle();
+
+    EXPECT_TRUE(host_->arePalettesSeen());
+    EXPECT_EQ(lightListState(), 1);
+}
+
+TEST_F(ShownPalette, IsATabOfTheDocksOnTheRightWhenItIsDockedForTheFirstTime) {
+    QDockWidget properties(main_.get());
+    main_->addDockWidget(Qt::RightDockWidgetArea, &properties);
+    properties.show();
+    showLights({L"a"});
+    ASSERT_TRUE(dock().isFloating());
+
+    dock().setFloating(false);
+    settle();
+
+    EXPECT_EQ(main_->tabifiedDockWidgets(&dock()), QList<QDockWidget*>{&properties});
 }
 
 TEST_F(TheDock, IsHiddenByTheCommand) {
