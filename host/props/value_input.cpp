@@ -27,7 +27,7 @@ ZrString numberInput(const Property& property, double value) {
     case Quantity::Whole:
         return std::to_wstring(std::lround(value));
     default:
-        return numberText(value);
+        return plainNumberText(value);
     }
 }
 

@@ -14,7 +14,8 @@ namespace quor {
 
 namespace {
 
-constexpr double kMostInFull = 1e15; // beyond it the digits of a length are no longer its own
+constexpr double kMostInFull = 1e15;              // beyond it the digits of a length are no longer its own
+constexpr double kLeastWithExponent = 99999999.5; // with eight digits
 constexpr int kOfTheDrawing = -1;
 constexpr int kScientific = 1; // as in LUNITS
 constexpr int kDecimal = 2;
@@ -78,6 +79,11 @@ ZrString directionText(const ZrGeVector3d& world) {
 
 // "%.8g" may give "-0", which is no number that people write.
 ZrString numberText(double value) { return zrFormat(L"%.8g", {value == 0 ? 0.0 : value}); }
+
+ZrString plainNumberText(double value) {
+    const double size = std::abs(value);
+    return size >= kLeastWithExponent && size < kMostInFull ? zrFormat(L"%.0f", {value}) : numberText(value);
+}
 
 double inDegrees(double radians) { return radians / db::kDegree; }
 ZrString degreesText(double radians) { return numberText(inDegrees(radians)) + L"°"; }

@@ -26,6 +26,8 @@ namespace quor {
 [[nodiscard]] ZrString decimalText(double value);
 // As few digits as tell it, at most eight.
 [[nodiscard]] ZrString numberText(double value);
+// The same, a large whole number with all its digits where another one would have an exponent.
+[[nodiscard]] ZrString plainNumberText(double value);
 [[nodiscard]] double inDegrees(double radians);
 [[nodiscard]] ZrString degreesText(double radians);
 [[nodiscard]] ZrString colorText(const ZrCmColor& color);

@@ -375,6 +375,19 @@ TEST_F(RowsOfSelected, WithoutADrawingThereAreNone) {
     EXPECT_TRUE(set("light.on", L"on").has_value());
 }
 
+TEST_F(RowsOfSelected, LargeNumbersAreWrittenOut) {
+    const ZrDbObjectId light = addLight();
+    select({light});
+    EXPECT_EQ(text("photometric.illuminance"), L"1500000000 lx");
+
+    EXPECT_EQ(set("photometric.candela", L"123456789"), std::nullopt);
+    EXPECT_EQ(text("photometric.candela"), L"123456789 cd");
+    EXPECT_EQ(set("photometric.candela", L"99999999.9"), std::nullopt);
+    EXPECT_EQ(text("photometric.candela"), L"100000000 cd");
+    EXPECT_EQ(set("photometric.candela", L"2e15"), std::nullopt);
+    EXPECT_EQ(text("photometric.candela"), L"2e+15 cd");
+}
+
 TEST_F(RowsOfSelected, ChineseAndEnglishTellTheSame) {
     const test::TestSessionOptions options;
     select({addLight()});
