@@ -126,7 +126,7 @@ TEST(PropertiesInTheWindow, DeleteErasesNoObject) {
         person.types("LINE 0,0 1,1 ");
         person.presses(Qt::Key_A, Qt::ControlModifier);
         person.settles();
-        for (const std::string_view row : {"general.layer", "general.handle"}) {
+        for (const std::string_view row : {"layer", "handle"}) {
             palette.goesTo(row);
             person.presses(Qt::Key_Delete);
             person.presses(Qt::Key_Escape);
