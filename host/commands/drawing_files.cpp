@@ -120,7 +120,11 @@ int askSavePath(Session& session, const Document& document, fs::path& path) {
 
 int saveTo(Document& document, const fs::path& path) {
     document.drawing().mendOnSave();
-    if (const auto saved = document.drawing().save(path); !saved)
+    FrontEnd& front = Session::current().front();
+    const ZrString what = fillShown(texts::kSaving, textOf(path.filename()));
+    const auto saved = document.drawing().save(path, [&](double fraction) { front.progress(what, fraction); });
+    front.progress(what, 1);
+    if (!saved)
         return failBeforePerson(L"\n" + visibleText(saved.error().message) + L"\n");
     document.setPath(path);
     document.drawing().journal().markSaved();
