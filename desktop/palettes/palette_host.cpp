@@ -76,7 +76,8 @@ void PaletteHost::forEachPalette(Action&& action) {
         palettes->forEach(action);
 }
 
-// While a palette was hidden, or not made yet, its drawing may have changed, or gone. It may go itself while it is shown.
+// While a palette was hidden, or not made yet, its drawing may have changed, or gone. It may go itself while it is
+// shown.
 void PaletteHost::showAgain(CZkUiPaletteSet& palette) {
     const CZkUiPaletteSet* const shown = &palette;
     session_.ui().frame().ShowControlBar(&palette, true, false);

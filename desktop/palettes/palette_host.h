@@ -36,8 +36,8 @@ public:
 
     // Whether a person sees one of them, not only its tab.
     [[nodiscard]] bool arePalettesSeen();
-    // As the docks' own menu does, in the middle of a command too: hides them when they are seen, else shows them before
-    // other tabs.
+    // As the docks' own menu does, in the middle of a command too: hides them when they are seen, else shows them
+    // before other tabs.
     void togglePalettes();
 
     void realise(CWnd& window) override;

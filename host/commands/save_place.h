@@ -22,7 +22,8 @@ struct PlaceTexts {
 };
 
 // Says why nothing can be written there, and asks before it replaces a file. `own`: the open drawing that may be
-// written to its file again, unasked; null: none. `mayReplace`: the person has said so already. RTNORM, RTCAN for Esc, RTERROR after a message.
+// written to its file again, unasked; null: none. `mayReplace`: the person has said so already. RTNORM, RTCAN for Esc,
+// RTERROR after a message, which a person is shown in a box of its own.
 [[nodiscard]] int checkPlace(Session& session, const std::filesystem::path& path, const Document* own,
                              const PlaceTexts& place, bool mayReplace = false);
 

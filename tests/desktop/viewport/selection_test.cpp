@@ -197,7 +197,8 @@ TEST_F(SelectionTest, NothingIsSelectedWhereACommandAsksForSomethingElse) {
 
 TEST_F(SelectionTest, WhileABlockIsEditedInPlaceNothingElseIsSelected) {
     withScreen([](Screen& screen) {
-        screen.types({L"OPEN " + fromQt(QUOR_TEST_DATA "/dxf/own/luminaires.dxf"), L"REFEDIT", L"#60", L"", L"'ZOOM E"});
+        screen.types(
+            {L"OPEN " + fromQt(QUOR_TEST_DATA "/dxf/own/luminaires.dxf"), L"REFEDIT", L"#60", L"", L"'ZOOM E"});
         screen.waitsUntilStill();
         screen.drags({2, 2}, {795, 595});
 
@@ -205,8 +206,7 @@ TEST_F(SelectionTest, WhileABlockIsEditedInPlaceNothingElseIsSelected) {
 
         EXPECT_EQ(selected.size(), 4U);
         EXPECT_TRUE(screen.person().sees([&] {
-            const db::RefEdit& editing =
-                screen.person().program().session().documents().current()->drawing().refEdit();
+            const db::RefEdit& editing = screen.person().program().session().documents().current()->drawing().refEdit();
             return std::ranges::all_of(selected, [&](ZrDbObjectId id) { return editing.holds(*id.entry()); });
         }));
     });
