@@ -53,6 +53,8 @@ FileDialog::FileDialog(const FileQuestion& question, const QString& folder, std:
         selectFile(initial);
     if (QDir::isAbsolutePath(initial))
         ownFile_ = QDir::cleanPath(initial);
+    if (preview_ != nullptr && !initial.isEmpty())
+        preview_->showFile(directory().absoluteFilePath(initial));
     resize(question.previews ? kSizeWithPreview : kSize);
 }
 

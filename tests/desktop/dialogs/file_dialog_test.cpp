@@ -305,6 +305,14 @@ TEST_F(PreviewTest, AFolderShowsNothing) {
     EXPECT_TRUE(pane.text().contains("选择一个文件"));
 }
 
+TEST_F(PreviewTest, ShowsTheFileThatIsNamedAtTheStart) {
+    FileQuestion question = webQuestion();
+    question.initialName = fromQt(path("street.ies"));
+    const FileDialog dialog(question, folder_.path(), {}, nullptr);
+    dialog.preview()->showNow();
+    EXPECT_TRUE(dialog.preview()->text().contains("64 W"));
+}
+
 TEST_F(PreviewTest, FollowsTheCursorInTheList) {
     QString text;
     (void)chosen(webQuestion(),
