@@ -46,8 +46,8 @@ Viewport::Aim Viewport::aimAt(QPointF place) const {
     // Faces that are filled are meant where they are seen; of others, only the edges are.
     const int modes = snapModes() | (isShaded ? gs::kSnapFace : 0);
     if (asksForPoint() && areSnapsOn())
-        if (std::optional<gs::Snap> snap = gs::snapAt(view_->scene().data(), projector, place.x(), place.y(), modes,
-                                                      gs::kSnapRadius, isOpen))
+        if (std::optional<gs::Snap> snap =
+                gs::snapAt(view_->scene().data(), projector, place.x(), place.y(), modes, gs::kSnapRadius, isOpen))
             return {snap->at, snap};
     const WorkPlane plane = this->plane();
     const ZrGePoint3d meant = meantPoint(projector, place.x(), place.y(), plane);

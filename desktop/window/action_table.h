@@ -1,5 +1,5 @@
-// Everything that menus and tool bars offer, a row each: to add one thing is to add one row. A row either types a line at
-// the command prompt or is done by the window itself, under its name.
+// Everything that menus and tool bars offer, a row each: to add one thing is to add one row. A row either types a line
+// at the command prompt or is done by the window itself, under its name.
 #pragma once
 
 #include "host/texts/text.h"
@@ -16,10 +16,10 @@ struct ActionRow {
     const char* name; // of the action and of its icon
     Text text;
     const wchar_t* line = nullptr; // typed; null: done by the window
-    const char* shortcuts = ""; // several are parted by "; "
+    const char* shortcuts = "";    // several are parted by "; "
     ToolBarPlace toolBar = ToolBarPlace::None;
-    bool startsGroup = false;       // a separator stands before it
-    bool isCheckable = false;       // shows a state of the program
+    bool startsGroup = false; // a separator stands before it
+    bool isCheckable = false; // shows a state of the program
     bool needsDrawing = true;
 };
 

@@ -1,7 +1,7 @@
 // LIST of lights: one table of rows, each with its label, its value and the lights that it says something about.
-#include "host/props/light_facts.h"
 #include "host/commands/list_kinds.h"
 #include "host/commands/web_listing.h"
+#include "host/props/light_facts.h"
 #include "host/session.h"
 #include "host/sys/system_variables.h"
 #include "host/texts/list.h"

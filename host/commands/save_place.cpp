@@ -10,8 +10,7 @@ namespace quor::commands {
 
 namespace fs = std::filesystem;
 
-int checkPlace(Session& session, const fs::path& path, const Document* own, const PlaceTexts& place,
-               bool mayReplace) {
+int checkPlace(Session& session, const fs::path& path, const Document* own, const PlaceTexts& place, bool mayReplace) {
     std::error_code error;
     if (fs::is_directory(path, error))
         return failBeforePerson(place.isFolder, textOf(path));

@@ -41,10 +41,11 @@ ZrEdJig::DragStatus ZrEdJig::drag() {
     rules.flags = acceptsEnter ? 0 : RSG_NONULL;
     const Outcome outcome = Asking(session, rules, prompt_)
                                 .from(base_)
-                                .dragging(entity(), [this, &session](const ZrGePoint3d& sample) {
-                                    take(sample);
-                                    session.front().redraw();
-                                })
+                                .dragging(entity(),
+                                          [this, &session](const ZrGePoint3d& sample) {
+                                              take(sample);
+                                              session.front().redraw();
+                                          })
                                 .run();
     if (std::holds_alternative<Enter>(outcome))
         return kNull;

@@ -45,9 +45,8 @@ std::optional<std::string> superfluous(const CLI::App& app) {
 
 bool hasEmptyDrawing(const CLI::App& app) {
     const std::vector<const CLI::Option*> options = app.get_options();
-    return std::any_of(options.begin(), options.end(), [](const CLI::Option* option) {
-        return option->get_positional() && hasEmptyValue(*option);
-    });
+    return std::any_of(options.begin(), options.end(),
+                       [](const CLI::Option* option) { return option->get_positional() && hasEmptyValue(*option); });
 }
 
 bool isLanguage(const std::string& value) { return value == "zh" || value == "en"; }

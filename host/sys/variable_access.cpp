@@ -82,7 +82,8 @@ SetResult writeLayer(Session& session, const VariableValue& value) {
     table->close();
     if (status != Quor::eOk)
         return SetResult::NoSuchLayer;
-    if (ZrDbObjectPointer<ZrDbLayerTableRecord> layer(id, ZrDb::kForRead); !layer || layer->isHidden() || layer->isFrozen())
+    if (ZrDbObjectPointer<ZrDbLayerTableRecord> layer(id, ZrDb::kForRead);
+        !layer || layer->isHidden() || layer->isFrozen())
         return SetResult::NoSuchLayer;
     drawing(session).setCurrentLayer(id);
     return SetResult::Ok;

@@ -18,7 +18,8 @@ inline constexpr Text kViewportSnapCenter{L"圆心", L"Center"};
 inline constexpr Text kViewportSnapFace{L"面上", L"On face"};
 inline constexpr Text kViewportEnter{L"确认(&E)", L"&Enter"};
 inline constexpr Text kViewportCancel{L"取消(&C)", L"&Cancel"};
-inline constexpr Text kViewportIncomplete{L"图形过大，部分对象未显示", L"The drawing is too large: not all of it is shown"};
+inline constexpr Text kViewportIncomplete{L"图形过大，部分对象未显示",
+                                          L"The drawing is too large: not all of it is shown"};
 inline constexpr Text kViewportMakingPicture{L"正在生成图形", L"Preparing the drawing"};
 
 } // namespace quor::texts

@@ -40,7 +40,8 @@ inline constexpr Text kTitle{L"%s%s - Quor", L"%s%s - Quor"};
 // Status bar.
 inline constexpr Text kCoordinates{L"光标坐标 (UCS)", L"Cursor coordinates (UCS)"};
 inline constexpr Text kSnap{L"捕捉", L"Snap"};
-inline constexpr Text kSnapTip{L"对象捕捉: 端点、中点、圆心、面上 (F3)", L"Object snap: endpoint, midpoint, center, on face (F3)"};
+inline constexpr Text kSnapTip{L"对象捕捉: 端点、中点、圆心、面上 (F3)",
+                               L"Object snap: endpoint, midpoint, center, on face (F3)"};
 inline constexpr Text kOrtho{L"正交", L"Ortho"};
 inline constexpr Text kOrthoTip{L"只沿 UCS 的轴移动 (F8)", L"Only along the axes of the UCS (F8)"};
 inline constexpr Text kShaded{L"着色", L"Shaded"};
@@ -113,8 +114,9 @@ Exit status
     3  no display can be used
   128+N  ended by signal N; copies of unsaved work are kept and offered at the next start
 )"};
-inline constexpr Text kNoDisplay{L"quor: 没有可用的显示器 (DISPLAY 和 WAYLAND_DISPLAY 都未设置)；请使用 quorc\n",
-                                 L"quor: there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set); use quorc\n"};
+inline constexpr Text kNoDisplay{
+    L"quor: 没有可用的显示器 (DISPLAY 和 WAYLAND_DISPLAY 都未设置)；请使用 quorc\n",
+    L"quor: there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set); use quorc\n"};
 inline constexpr Text kDisplayRefused{L"quor: 无法使用显示器；请使用 quorc。原因:\n%s\n",
                                       L"quor: the display cannot be used; use quorc. The reason:\n%s\n"};
 

@@ -6,8 +6,8 @@
 class ZwTheme {
 public:
     virtual ~ZwTheme() = default;
-    // The colour of an element in the theme in use (COLORTHEME: 0 dark, 1 light, 2 as the desktop). Magenta for a number without one, so
-    // that a mistake is seen.
+    // The colour of an element in the theme in use (COLORTHEME: 0 dark, 1 light, 2 as the desktop). Magenta for a
+    // number without one, so that a mistake is seen.
     [[nodiscard]] virtual COLORREF color(int element) const = 0;
     [[nodiscard]] virtual bool isDark() const = 0;
 };

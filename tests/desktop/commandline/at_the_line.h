@@ -66,9 +66,8 @@ public:
     }
     // How many the drawing has.
     [[nodiscard]] std::size_t objects() {
-        return person_.sees([&] {
-            return ed::entitiesOfCurrentSpace(*person_.program().session().documents().current()).size();
-        });
+        return person_.sees(
+            [&] { return ed::entitiesOfCurrentSpace(*person_.program().session().documents().current()).size(); });
     }
     [[nodiscard]] CommandLine& line() { return *line_; }
     [[nodiscard]] Person& person() { return person_; }

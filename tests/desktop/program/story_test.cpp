@@ -1,5 +1,5 @@
-// A working day in one story: lights are placed by typing and clicking, with a drag and with a web file; the palette and
-// the drawing follow each other; three lights become brighter at once; one is erased and comes back; the drawing is
+// A working day in one story: lights are placed by typing and clicking, with a drag and with a web file; the palette
+// and the drawing follow each other; three lights become brighter at once; one is erased and comes back; the drawing is
 // saved - and its file is the one that the same commands make on a console.
 #include "desktop/palettes/list_view.h"
 #include "desktop/properties/properties_panel.h"
@@ -67,8 +67,7 @@ void clickRow(Person& person, int row, Qt::KeyboardModifiers held = Qt::NoModifi
     ListView& view = listOf(person);
     person.does([&, row, held] {
         view.activateWindow();
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, held,
-                          view.rowRect(row).center() - view.viewport()->pos());
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, held, view.rowRect(row).center() - view.viewport()->pos());
     });
 }
 
@@ -84,8 +83,7 @@ void setIntensity(Person& person, const QString& value) {
         person.program().window().activateWindow();
         QTreeWidgetItem* const item = rows.itemOf("light.intensity");
         rows.scrollToItem(item);
-        QTest::mouseClick(rows.viewport(), Qt::LeftButton, {},
-                          rows.visualRect(rows.indexFromItem(item, 1)).center());
+        QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.visualRect(rows.indexFromItem(item, 1)).center());
     });
     person.types(value);
 }
@@ -96,8 +94,8 @@ std::string handleOf(ZrDbObjectId id) { return toUtf8(zrFormat(L"#%X", {id.handl
 void runConsole(const std::string& drawing, const std::string& typed, const std::string& folder) {
     const std::string input = folder + "/typed.txt";
     std::ofstream(input) << typed;
-    const std::string command = "XDG_CONFIG_HOME='" + folder + "' '" QUOR_BUILD_DIR "/bin/quorc' --lang zh '" + drawing +
-                                "' < '" + input + "' > '" + folder + "/said.txt' 2>&1";
+    const std::string command = "XDG_CONFIG_HOME='" + folder + "' '" QUOR_BUILD_DIR "/bin/quorc' --lang zh '" +
+                                drawing + "' < '" + input + "' > '" + folder + "/said.txt' 2>&1";
     ASSERT_EQ(std::system(command.c_str()), 0) << bytesOf(folder + "/said.txt");
 }
 
@@ -177,11 +175,17 @@ TEST(StoryTest, LightsArePlacedListedChangedAndSavedAsOnAConsole) {
         EXPECT_FALSE(person.sees([&] { return person.program().session().documents().current()->isModified(); }));
 
         typed = "POINTLIGHT\n1\n2000,4500,3900\nN\nBench\nI\n1.5\n\n"
-                "SPOTLIGHT\n" + exact(source) + "\n" + exact(target) + "\nH\n30\n\n"
-                "WEBLIGHT\n9000,4500,3900\n9000,4500,0\nB\nF\n" + kWeb + "\nE\n\n"
-                "CHPROP\n" + handleOf(lights[0]) + "\n" + handleOf(lights[1]) + "\n" + handleOf(lights[2]) +
+                "SPOTLIGHT\n" +
+                exact(source) + "\n" + exact(target) +
+                "\nH\n30\n\n"
+                "WEBLIGHT\n9000,4500,3900\n9000,4500,0\nB\nF\n" +
+                kWeb +
+                "\nE\n\n"
+                "CHPROP\n" +
+                handleOf(lights[0]) + "\n" + handleOf(lights[1]) + "\n" + handleOf(lights[2]) +
                 "\n\nlight.intensity\n2.5\n"
-                "ERASE\n" + handleOf(first[0]) + "\n\nU\nSAVE\n";
+                "ERASE\n" +
+                handleOf(first[0]) + "\n\nU\nSAVE\n";
     });
     runConsole(theirs, typed, place);
 

@@ -34,7 +34,8 @@ public:
     KilledProgram(const Home& home, const QString& program, const QStringList& arguments);
     ~KilledProgram();
 
-    // Until it has written a copy of its drawing, or made a file of that name in its home; false when it takes too long.
+    // Until it has written a copy of its drawing, or made a file of that name in its home; false when it takes too
+    // long.
     [[nodiscard]] bool hasCopied();
     [[nodiscard]] bool hasMade(const std::string& file);
     void kill();

@@ -3,16 +3,18 @@
 #include "desktop/qt_text.h"
 #include "host/ed/input_stack.h"
 #include "host/ed/script_source.h"
-#include "tests/desktop/support/leaving.h"
 #include "tests/desktop/recovery/killed_program.h"
+#include "tests/desktop/support/leaving.h"
 #include "tests/desktop/support/person.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
 
+#include <chrono>
 #include <csignal>
 #include <fstream>
+#include <thread>
 
 namespace quor::desktop::test {
 namespace {
@@ -29,8 +31,12 @@ const std::string kWork = "DEFAULTLIGHTING 0\n"
 const std::string kFolderForRole = "QUOR_TEST_KILLED_HOME";
 
 bool comesTrue(Person& person, const std::function<bool()>& condition) {
-    for (int i = 0; i < 2000 && !condition(); ++i)
+    constexpr std::chrono::seconds kPatience(30); // copies are made by a timer
+    const auto start = std::chrono::steady_clock::now();
+    while (!condition() && std::chrono::steady_clock::now() - start < kPatience) {
         person.settles();
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
     return condition();
 }
 

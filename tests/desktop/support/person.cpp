@@ -166,9 +166,7 @@ int withProgram(ProgramOptions options, const std::function<void(Person&)>& stor
                 },
                 Qt::QueuedConnection);
         });
-        QTimer::singleShot(0, qApp, [&] {
-            QApplication::exit(program.run());
-        });
+        QTimer::singleShot(0, qApp, [&] { QApplication::exit(program.run()); });
         status = QApplication::exec();
         person.markEnded();
         while (!isTold)

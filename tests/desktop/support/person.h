@@ -1,5 +1,5 @@
-// A person at the desktop program: what they do is done in the program's own thread, one thing after the other, and each
-// is waited for, so that tests read from top to bottom.
+// A person at the desktop program: what they do is done in the program's own thread, one thing after the other, and
+// each is waited for, so that tests read from top to bottom.
 #pragma once
 
 #include "desktop/program.h"
@@ -58,7 +58,8 @@ private:
 };
 
 // Runs the program with a person at it: `story` is told in a thread of its own; when it ends, the program is closed
-// without saving, unless the person has ended it; it can be looked at as long as the story is told. Settings are those of a new user, in a folder of their own. The status that the program ends with.
+// without saving, unless the person has ended it; it can be looked at as long as the story is told. Settings are those
+// of a new user, in a folder of their own. The status that the program ends with.
 int withProgram(ProgramOptions options, const std::function<void(Person&)>& story);
 // A new user with the light module, in Chinese, with one new drawing.
 [[nodiscard]] ProgramOptions usualOptions();

@@ -1,6 +1,6 @@
-#include "host/props/layer_name.h"
 #include "host/commands/upper_case.h"
 #include "host/commands/wildcard.h"
+#include "host/props/layer_name.h"
 #include "tests/support/test_session.h"
 
 #include <gtest/gtest.h>

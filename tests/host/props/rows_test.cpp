@@ -7,7 +7,6 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
-#include <numbers>
 
 namespace quor::props {
 namespace {
@@ -16,8 +15,6 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::IsSupersetOf;
 using testing::Not;
-
-constexpr double kDegree = std::numbers::pi / 180;
 
 using RowsOfSelected = Selected;
 

@@ -4,7 +4,6 @@
 #include "host/sys/system_variables.h"
 #include "sdk/db/symbol_table.h"
 
-
 namespace quor::props {
 namespace {
 

@@ -1,6 +1,5 @@
 #include "tests/host/gs/shapes/shape_testing.h"
 
-
 namespace quor::gs {
 namespace {
 

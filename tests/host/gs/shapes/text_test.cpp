@@ -56,9 +56,7 @@ TEST_F(Shapes, ALetterWithoutStrokesIsDrawnAsItsOutline) {
     expectNear({shape.lines[6]}, {{9, 0, 0}});
 }
 
-TEST_F(Shapes, ALetterThatNobodyKnowsIsABox) {
-    expectExtent(shapeOf(text("\\U+706F", "")), {0, 0, 0}, {4.5, 6, 0});
-}
+TEST_F(Shapes, ALetterThatNobodyKnowsIsABox) { expectExtent(shapeOf(text("\\U+706F", "")), {0, 0, 0}, {4.5, 6, 0}); }
 
 TEST_F(Shapes, ATextIsTurnedAndStretched) {
     expectExtent(shapeOf(text("H", "50\n90.0\n")), {-6, 0, 0}, {0, 3, 0});
