@@ -164,9 +164,9 @@ TEST_F(SceneTest, FarFromTheOriginLinesAreAsExact) {
 TEST_F(SceneTest, AStrayEntityTakesNoPrecisionFromTheOthers) {
     addLine({0, 0, 0}, {1, 0, 0});
     addLine({1e7, 2e7, 0}, {1e7 + 1, 2e7, 0});
-    const ZrDbObjectId line = addLine({1e7 + 0.125, 2e7, 0}, {1e7 + 1.125, 2e7, 0});
+    const std::uint64_t line = addLine({1e7 + 0.125, 2e7, 0}, {1e7 + 1.125, 2e7, 0}).handle().value();
     use(db::drawings::reopened(*database));
-    EXPECT_THAT(seen()[line.handle().value()].lines, ElementsAre(Line({1e7 + 0.125, 2e7, 0}, {1e7 + 1.125, 2e7, 0})));
+    EXPECT_THAT(seen()[line].lines, ElementsAre(Line({1e7 + 0.125, 2e7, 0}, {1e7 + 1.125, 2e7, 0})));
 }
 
 TEST_F(SceneTest, EntitiesAreKnownByTheirNumber) {
