@@ -1,6 +1,7 @@
 #include "desktop/commandline/command_line.h"
 
 #include "desktop/commandline/completer.h"
+#include "desktop/commandline/line_font.h"
 #include "desktop/commandline/prompt_view.h"
 #include "desktop/commandline/text_window.h"
 #include "desktop/front/desktop_front_end.h"
@@ -14,8 +15,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QFontDatabase>
-#include <QFontInfo>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QMenu>
@@ -44,11 +43,6 @@ constexpr int kMostSteps = 16;
 constexpr const wchar_t* kSection = L"Desktop";
 constexpr const wchar_t* kZoomKey = L"CommandLineZoom";
 constexpr const wchar_t* kThemeVariable = L"COLORTHEME";
-
-// Chinese characters twice as wide as the others, so that tables stand in columns; the first one that is there.
-QStringList wideFamilies() {
-    return {"Noto Sans Mono CJK SC", "Sarasa Mono SC", "WenQuanYi Zen Hei Mono", "Noto Sans CJK SC"};
-}
 
 } // namespace
 
@@ -319,10 +313,7 @@ void CommandLine::zoom(int steps) {
 }
 
 void CommandLine::applyFont() {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setStyleHint(QFont::Monospace);
-    font.setFamilies(QStringList(QFontInfo(font).family()) + wideFamilies());
-    font.setPointSizeF(QApplication::font().pointSizeF() + fontSteps_);
+    const QFont font = lineFont(fontSteps_);
     for (QWidget* const widget : {static_cast<QWidget*>(history_), static_cast<QWidget*>(prompt_),
                                   static_cast<QWidget*>(input_), static_cast<QWidget*>(&textWindow_->view())})
         widget->setFont(font);

@@ -1,5 +1,7 @@
 #include "desktop/render/face_projector.h"
 
+#include "host/gs/polygon_cut.h"
+
 #include <algorithm>
 
 namespace quor::desktop {
@@ -18,33 +20,16 @@ bool isUsable(const Exact& p) {
 
 Exact exact(const Homogeneous& h) { return {h.x, h.y, h.depth, h.w}; }
 
-struct Corners {
-    std::array<Exact, ScreenPolygon::kMost> points;
-    std::size_t count = 0;
-    void add(const Exact& p) {
-        if (count < points.size())
-            points[count++] = p;
-    }
-};
+using Corners = gs::CutPolygon<Exact, ScreenPolygon::kMost>;
 
-// The part of the polygon where the value is not negative.
+Exact between(const Exact& a, const Exact& b, double share) {
+    return {a.x + (b.x - a.x) * share, a.y + (b.y - a.y) * share, a.depth + (b.depth - a.depth) * share,
+            a.w + (b.w - a.w) * share};
+}
+
 template <class Value>
 Corners cutBy(const Corners& polygon, const Value& value) {
-    Corners left;
-    for (std::size_t i = 0; i < polygon.count; ++i) {
-        const Exact& a = polygon.points[i];
-        const Exact& b = polygon.points[(i + 1) % polygon.count];
-        const double atA = value(a);
-        const double atB = value(b);
-        if (atA >= 0)
-            left.add(a);
-        if ((atA < 0) != (atB < 0)) {
-            const double share = atA / (atA - atB);
-            left.add({a.x + (b.x - a.x) * share, a.y + (b.y - a.y) * share, a.depth + (b.depth - a.depth) * share,
-                      a.w + (b.w - a.w) * share});
-        }
-    }
-    return left;
+    return gs::cutPolygon(polygon, value, between);
 }
 
 bool needsCut(const Exact& p, double right, double bottom) {
@@ -100,7 +85,7 @@ bool projectTriangle(const ViewTransform& view, const gs::SceneTriangle& triangl
         return false;
     const double right = view.width() + kGuard;
     const double bottom = view.height() + kGuard;
-    Corners corners{.points = {a, b, c}, .count = 3};
+    Corners corners{.corners = {a, b, c}, .count = 3};
     if (needsCut(a, right, bottom) || needsCut(b, right, bottom) || needsCut(c, right, bottom)) {
         corners = cutBy(corners, [](const Exact& p) { return p.w - ViewTransform::kNearest; });
         corners = cutBy(corners, [](const Exact& p) { return p.x + kGuard * p.w; });
@@ -115,7 +100,7 @@ bool projectTriangle(const ViewTransform& view, const gs::SceneTriangle& triangl
     polygon.plane.low = std::numeric_limits<float>::max();
     polygon.plane.high = std::numeric_limits<float>::lowest();
     for (std::size_t i = 0; i < corners.count; ++i) {
-        const Exact& p = corners.points[i];
+        const Exact& p = corners.corners[i];
         polygon.x[i] = static_cast<float>(p.x / p.w);
         polygon.y[i] = static_cast<float>(p.y / p.w);
         const auto depth = static_cast<float>(p.depth / p.w);

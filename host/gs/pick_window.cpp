@@ -1,5 +1,7 @@
 #include "host/gs/pick_window.h"
 
+#include "host/gs/polygon_cut.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -11,36 +13,8 @@ using Point = std::array<double, 3>;
 
 Point toDouble(const Coordinates& p) { return {p[0], p[1], p[2]}; }
 
-// A triangle with corners cut off.
-struct Polygon {
-    static constexpr std::size_t kMostCorners = 8;
-    std::array<Point, kMostCorners> corners{};
-    std::size_t count = 0;
-    void add(const Point& point) { corners[count++] = point; }
-};
-
 Point between(const Point& a, const Point& b, double share) {
     return {a[0] + (b[0] - a[0]) * share, a[1] + (b[1] - a[1]) * share, a[2] + (b[2] - a[2]) * share};
-}
-
-// What is left of a polygon on the inner side of a plane.
-template <class Plane>
-Polygon cut(const Polygon& polygon, const Plane& plane) {
-    const auto height = [&](const Point& p) {
-        return plane.x * p[0] + plane.y * p[1] + plane.z * p[2] + plane.constant;
-    };
-    Polygon rest;
-    for (std::size_t i = 0; i < polygon.count; ++i) {
-        const Point& from = polygon.corners[i];
-        const Point& to = polygon.corners[(i + 1) % polygon.count];
-        const double heightFrom = height(from);
-        const double heightTo = height(to);
-        if (heightFrom >= 0)
-            rest.add(from);
-        if ((heightFrom < 0) != (heightTo < 0))
-            rest.add(between(from, to, heightFrom / (heightFrom - heightTo)));
-    }
-    return rest;
 }
 
 } // namespace
@@ -110,12 +84,17 @@ bool PickWindow::touches(const SceneTriangle& triangle) const {
     for (const Plane& plane : planes_)
         if (plane.at(triangle.a) < 0 && plane.at(triangle.b) < 0 && plane.at(triangle.c) < 0)
             return false;
-    Polygon rest;
+    constexpr std::size_t kMostCorners = 3 + std::tuple_size_v<decltype(planes_)>;
+    CutPolygon<Point, kMostCorners> rest;
     rest.add(toDouble(triangle.a));
     rest.add(toDouble(triangle.b));
     rest.add(toDouble(triangle.c));
-    for (const Plane& plane : planes_)
-        rest = cut(rest, plane);
+    for (const Plane& plane : planes_) {
+        const auto height = [&](const Point& p) {
+            return plane.x * p[0] + plane.y * p[1] + plane.z * p[2] + plane.constant;
+        };
+        rest = cutPolygon(rest, height, between);
+    }
     return rest.count > 0;
 }
 
