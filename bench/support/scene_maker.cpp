@@ -19,34 +19,22 @@ constexpr std::uint32_t kColors[] = {0xFFFFFF, 0xFF0000, 0x00FF00, 0xFFFF00, 0x0
 
 } // namespace
 
-gs::SceneData MadeScene::data() const {
-    gs::SceneData data;
-    data.chunks = chunks_;
-    data.items = items_;
-    data.lines = lines_;
-    data.triangles = triangles_;
-    data.lights = lights_;
-    data.emphasis = emphasis_;
-    data.contents = 1; // a renderer shows one scene only
-    return data;
-}
-
 void MadeScene::startEntity(std::uint32_t rgb) {
-    items_.push_back({.entity = static_cast<std::uint32_t>(emphasis_.size()),
-                      .rgb = rgb,
-                      .firstLine = static_cast<std::uint32_t>(lines_.size()),
-                      .firstTriangle = static_cast<std::uint32_t>(triangles_.size())});
-    emphasis_.push_back(gs::Emphasis::None);
+    arrays_.items.push_back({.entity = static_cast<std::uint32_t>(arrays_.emphasis.size()),
+                             .rgb = rgb,
+                             .firstLine = static_cast<std::uint32_t>(arrays_.lines.size()),
+                             .firstTriangle = static_cast<std::uint32_t>(arrays_.triangles.size())});
+    arrays_.emphasis.push_back(gs::Emphasis::None);
 }
 
 void MadeScene::addLine(const gs::Coordinates& a, const gs::Coordinates& b) {
-    lines_.push_back({a, b});
-    ++items_.back().lineCount;
+    arrays_.lines.push_back({a, b});
+    ++arrays_.items.back().lineCount;
 }
 
 void MadeScene::addTriangle(const gs::Coordinates& a, const gs::Coordinates& b, const gs::Coordinates& c) {
-    triangles_.push_back({a, b, c});
-    ++items_.back().triangleCount;
+    arrays_.triangles.push_back({a, b, c});
+    ++arrays_.items.back().triangleCount;
 }
 
 void MadeScene::addFace(const gs::Coordinates& a, const gs::Coordinates& b, const gs::Coordinates& c,
@@ -72,9 +60,9 @@ void MadeScene::addBox(const gs::Coordinates& low, const gs::Coordinates& high) 
 }
 
 void MadeScene::addLight(gs::LightMark light) {
-    light.entity = static_cast<std::uint32_t>(emphasis_.size());
-    emphasis_.push_back(gs::Emphasis::None);
-    lights_.push_back(light);
+    light.entity = static_cast<std::uint32_t>(arrays_.emphasis.size());
+    arrays_.emphasis.push_back(gs::Emphasis::None);
+    arrays_.lights.push_back(light);
 }
 
 void MadeScene::finish() {
@@ -85,22 +73,23 @@ void MadeScene::finish() {
             chunk.high[i] = std::max(chunk.high[i], p[i]);
         }
     };
-    chunks_.clear();
-    for (std::size_t first = 0; first < items_.size(); first += itemsOfChunk) {
+    arrays_.chunks.clear();
+    for (std::size_t first = 0; first < arrays_.items.size(); first += itemsOfChunk) {
         gs::SceneChunk chunk{{1e30F, 1e30F, 1e30F}, {-1e30F, -1e30F, -1e30F}, static_cast<std::uint32_t>(first), 0};
-        chunk.itemCount = static_cast<std::uint32_t>(std::min(itemsOfChunk, items_.size() - first));
-        for (const gs::SceneItem& item : std::span(items_).subspan(first, chunk.itemCount)) {
-            for (const gs::SceneLine& line : std::span(lines_).subspan(item.firstLine, item.lineCount)) {
+        chunk.itemCount = static_cast<std::uint32_t>(std::min(itemsOfChunk, arrays_.items.size() - first));
+        for (const gs::SceneItem& item : std::span(arrays_.items).subspan(first, chunk.itemCount)) {
+            for (const gs::SceneLine& line : std::span(arrays_.lines).subspan(item.firstLine, item.lineCount)) {
                 include(chunk, line.a);
                 include(chunk, line.b);
             }
-            for (const gs::SceneTriangle& t : std::span(triangles_).subspan(item.firstTriangle, item.triangleCount)) {
+            for (const gs::SceneTriangle& t :
+                 std::span(arrays_.triangles).subspan(item.firstTriangle, item.triangleCount)) {
                 include(chunk, t.a);
                 include(chunk, t.b);
                 include(chunk, t.c);
             }
         }
-        chunks_.push_back(chunk);
+        arrays_.chunks.push_back(chunk);
     }
 }
 

@@ -1,7 +1,7 @@
 // Scenes of any size for pictures: lines, faces and lights, without a drawing. The same size gives the same scene.
 #pragma once
 
-#include "host/gs/scene.h"
+#include "host/gs/scene_arrays.h"
 
 #include <cstdint>
 #include <vector>
@@ -10,7 +10,7 @@ namespace quor::bench {
 
 class MadeScene {
 public:
-    [[nodiscard]] gs::SceneData data() const;
+    [[nodiscard]] gs::SceneData data() const { return arrays_.data(); }
     // What is added from now on belongs to a new entity of this colour.
     void startEntity(std::uint32_t rgb);
     void addLine(const gs::Coordinates& a, const gs::Coordinates& b);
@@ -22,15 +22,10 @@ public:
     void addLight(gs::LightMark light);
     // To be called at the end: puts neighbours in the order of the entities into chunks.
     void finish();
-    void emphasize(std::uint32_t entity, gs::Emphasis emphasis) { emphasis_[entity] = emphasis; }
+    void emphasize(std::uint32_t entity, gs::Emphasis emphasis) { arrays_.emphasis[entity] = emphasis; }
 
 private:
-    std::vector<gs::SceneChunk> chunks_;
-    std::vector<gs::SceneItem> items_;
-    std::vector<gs::SceneLine> lines_;
-    std::vector<gs::SceneTriangle> triangles_;
-    std::vector<gs::LightMark> lights_;
-    std::vector<gs::Emphasis> emphasis_;
+    gs::SceneArrays arrays_{.contents = 1}; // a renderer shows one scene only
 };
 
 // About so many lines: blocks of short ones and curves in a space of 100 x 100 x 30, at most 16 an entity.

@@ -193,15 +193,23 @@ protected:
     }
 };
 
-TEST_F(TheListView, DrawsOnlyTheRowsThatAreSeenHoweverManyThereAre) {
+// A list of one column and ten rows' height, in a window of its own.
+struct CountedWindow {
+    CountedWindow() {
+        parent.Create({.style = WS_VISIBLE, .rect = {0, 0, 300, 400}});
+        many.Create({.parent = &parent, .style = LVS_REPORT | WS_VISIBLE, .rect = {0, 0, 200, 24 + 170}});
+        many.InsertColumn(0, L"Name", HDF_LEFT, 100);
+        showChildren(parent, window);
+        window.show();
+    }
     CWnd parent;
-    parent.Create({.style = WS_VISIBLE, .rect = {0, 0, 300, 400}});
     CountingList many;
-    many.Create({.parent = &parent, .style = LVS_REPORT | WS_VISIBLE, .rect = {0, 0, 200, 24 + 170}});
-    many.InsertColumn(0, L"Name", HDF_LEFT, 100);
     QWidget window;
-    showChildren(parent, window);
-    window.show();
+};
+
+TEST_F(TheListView, DrawsOnlyTheRowsThatAreSeenHoweverManyThereAre) {
+    CountedWindow counted;
+    CountingList& many = counted.many;
     many.SetRows(std::vector<CListCtrl::Row>(100'000, {.texts = {L"x"}}));
     settle();
     auto* const shown = static_cast<ListView*>(widgetOf(many));
@@ -217,14 +225,8 @@ TEST_F(TheListView, DrawsOnlyTheRowsThatAreSeenHoweverManyThereAre) {
 }
 
 TEST_F(TheListView, IsPaintedOnceForManyChanges) {
-    CWnd parent;
-    parent.Create({.style = WS_VISIBLE, .rect = {0, 0, 300, 400}});
-    CountingList many;
-    many.Create({.parent = &parent, .style = LVS_REPORT | WS_VISIBLE, .rect = {0, 0, 200, 24 + 170}});
-    many.InsertColumn(0, L"Name", HDF_LEFT, 100);
-    QWidget window;
-    showChildren(parent, window);
-    window.show();
+    CountedWindow counted;
+    CountingList& many = counted.many;
     settle();
     many.drawn = 0;
 

@@ -11,17 +11,17 @@ constexpr int kPadding = 7;
 } // namespace
 
 std::uint32_t HandScene::addItem(const std::vector<gs::Coordinates>& points, gs::SceneItem item) {
-    gs::SceneChunk chunk{points.front(), points.front(), static_cast<std::uint32_t>(items_.size()), 1};
+    gs::SceneChunk chunk{points.front(), points.front(), static_cast<std::uint32_t>(arrays_.items.size()), 1};
     for (const gs::Coordinates& p : points) {
         for (std::size_t i = 0; i < p.size(); ++i) {
             chunk.low[i] = std::min(chunk.low[i], p[i]);
             chunk.high[i] = std::max(chunk.high[i], p[i]);
         }
     }
-    item.entity = static_cast<std::uint32_t>(emphasis_.size());
-    chunks_.push_back(chunk);
-    items_.push_back(item);
-    emphasis_.push_back(gs::Emphasis::None);
+    item.entity = static_cast<std::uint32_t>(arrays_.emphasis.size());
+    arrays_.chunks.push_back(chunk);
+    arrays_.items.push_back(item);
+    arrays_.emphasis.push_back(gs::Emphasis::None);
     return item.entity;
 }
 
@@ -30,10 +30,10 @@ std::uint32_t HandScene::addLine(const gs::Coordinates& a, const gs::Coordinates
 }
 
 std::uint32_t HandScene::addLines(const std::vector<gs::SceneLine>& lines, std::uint32_t rgb) {
-    const auto first = static_cast<std::uint32_t>(lines_.size());
+    const auto first = static_cast<std::uint32_t>(arrays_.lines.size());
     std::vector<gs::Coordinates> points;
     for (const gs::SceneLine& line : lines) {
-        lines_.push_back(line);
+        arrays_.lines.push_back(line);
         points.insert(points.end(), {line.a, line.b});
     }
     return addItem(points, {.rgb = rgb, .firstLine = first, .lineCount = static_cast<std::uint32_t>(lines.size())});
@@ -41,38 +41,25 @@ std::uint32_t HandScene::addLines(const std::vector<gs::SceneLine>& lines, std::
 
 std::uint32_t HandScene::addTriangle(const gs::Coordinates& a, const gs::Coordinates& b, const gs::Coordinates& c,
                                      std::uint32_t rgb) {
-    triangles_.push_back({a, b, c});
+    arrays_.triangles.push_back({a, b, c});
     return addItem(
         {a, b, c},
-        {.rgb = rgb, .firstTriangle = static_cast<std::uint32_t>(triangles_.size()) - 1, .triangleCount = 1});
+        {.rgb = rgb, .firstTriangle = static_cast<std::uint32_t>(arrays_.triangles.size()) - 1, .triangleCount = 1});
 }
 
 std::uint32_t HandScene::addSquare(float low, float high, float z, std::uint32_t rgb) {
-    triangles_.push_back({{low, low, z}, {high, low, z}, {high, high, z}});
-    triangles_.push_back({{low, low, z}, {high, high, z}, {low, high, z}});
+    arrays_.triangles.push_back({{low, low, z}, {high, low, z}, {high, high, z}});
+    arrays_.triangles.push_back({{low, low, z}, {high, high, z}, {low, high, z}});
     return addItem(
         {{low, low, z}, {high, high, z}},
-        {.rgb = rgb, .firstTriangle = static_cast<std::uint32_t>(triangles_.size()) - 2, .triangleCount = 2});
+        {.rgb = rgb, .firstTriangle = static_cast<std::uint32_t>(arrays_.triangles.size()) - 2, .triangleCount = 2});
 }
 
 std::uint32_t HandScene::addLight(gs::LightMark light) {
-    light.entity = static_cast<std::uint32_t>(emphasis_.size());
-    emphasis_.push_back(gs::Emphasis::None);
-    lights_.push_back(light);
+    light.entity = static_cast<std::uint32_t>(arrays_.emphasis.size());
+    arrays_.emphasis.push_back(gs::Emphasis::None);
+    arrays_.lights.push_back(light);
     return light.entity;
-}
-
-gs::SceneData HandScene::data() const {
-    gs::SceneData data;
-    data.origin = origin_;
-    data.chunks = chunks_;
-    data.items = items_;
-    data.lines = lines_;
-    data.triangles = triangles_;
-    data.lights = lights_;
-    data.emphasis = emphasis_;
-    data.contents = contents_;
-    return data;
 }
 
 Picture::Picture(int width, int height)

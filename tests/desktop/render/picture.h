@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/render/renderer.h"
+#include "host/gs/scene_arrays.h"
 
 #include <vector>
 
@@ -18,23 +19,16 @@ public:
     // At z, from (low, low) to (high, high).
     std::uint32_t addSquare(float low, float high, float z, std::uint32_t rgb = 0x00FF00);
     std::uint32_t addLight(gs::LightMark light);
-    void emphasize(std::uint32_t entity, gs::Emphasis emphasis) { emphasis_[entity] = emphasis; }
-    void hide(std::size_t item) { items_[item].visible = false; }
-    void setOrigin(const ZrGePoint3d& origin) { origin_ = origin; }
+    void emphasize(std::uint32_t entity, gs::Emphasis emphasis) { arrays_.emphasis[entity] = emphasis; }
+    void hide(std::size_t item) { arrays_.items[item].visible = false; }
+    void setOrigin(const ZrGePoint3d& origin) { arrays_.origin = origin; }
     // A number for the contents from now on, as scenes of drawings have one.
-    void setContents(std::uint64_t contents) { contents_ = contents; }
-    [[nodiscard]] gs::SceneData data() const;
+    void setContents(std::uint64_t contents) { arrays_.contents = contents; }
+    [[nodiscard]] gs::SceneData data() const { return arrays_.data(); }
 
 private:
     std::uint32_t addItem(const std::vector<gs::Coordinates>& points, gs::SceneItem item);
-    ZrGePoint3d origin_;
-    std::vector<gs::SceneChunk> chunks_;
-    std::vector<gs::SceneItem> items_;
-    std::vector<gs::SceneLine> lines_;
-    std::vector<gs::SceneTriangle> triangles_;
-    std::vector<gs::LightMark> lights_;
-    std::vector<gs::Emphasis> emphasis_;
-    std::uint64_t contents_ = 0;
+    gs::SceneArrays arrays_;
 };
 
 // 100 x 100 pixels unless said otherwise; what is around the pixels is watched.
