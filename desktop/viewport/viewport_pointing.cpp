@@ -152,8 +152,7 @@ void Viewport::questionOpened() {
         given_.clear();
         followSelection();
     }
-    if (!asksForObjects())
-        rectangle_.reset();
+    rectangle_.reset(); // whoever typed meanwhile has left it
     isHoverDue_ = true;
     aim_.reset();
     if (cursor_ && asksForPoint()) {

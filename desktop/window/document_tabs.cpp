@@ -66,7 +66,7 @@ void DocumentTabs::refresh() {
         const Document& document = *all[static_cast<std::size_t>(i)];
         const QString name = toQt(commands::shortName(document));
         setTabText(i, QString(name).replace('&', "&&") + (document.isModified() ? "*" : ""));
-        setTabToolTip(i, document.path().empty() ? name : toQt(fromUtf8(document.path().native())));
+        setTabToolTip(i, asTip(document.path().empty() ? name : toQt(fromUtf8(document.path().native()))));
         if (&document == documents_.current())
             setCurrentIndex(i);
     }

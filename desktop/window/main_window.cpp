@@ -154,10 +154,8 @@ void MainWindow::connectQuestions() {
     connect(&front_, &DesktopFrontEnd::questionOpened, this, &MainWindow::refreshSoon);
     connect(tabs_, &DocumentTabs::chosen, typing_, &Typing::choose);
     connect(tabs_, &DocumentTabs::closeWanted, typing_, &Typing::close);
-    connect(status_, &StatusBar::unitsChosen, this, [this](int units) {
-        constexpr const char* kNames[] = {"unitsgeneric", "unitsamerican", "unitssi"};
-        actions_->action(kNames[units]).trigger();
-    });
+    connect(status_, &StatusBar::unitsChosen, typing_,
+            [this](int units) { typing_->line(L"'LIGHTINGUNITS " + std::to_wstring(units)); });
 }
 
 void MainWindow::addRecentMenu() {
@@ -171,7 +169,7 @@ void MainWindow::addRecentMenu() {
 void MainWindow::bindActions() {
     actions_->bind("quit", [this] { close(); });
     actions_->bind("selectall", [this] { typing_->selectAll(); });
-    actions_->bind("deselect", [] { zredSetImpliedSelection({}); });
+    actions_->bind("deselect", [this] { viewport_->escape(); });
     actions_->bind("shortcuts", [this] { showShortcuts(*this); });
     actions_->bind("about", [this] { showAbout(*this); });
     actions_->bind("nextdrawing", [this] { tabs_->step(1); });

@@ -30,7 +30,8 @@ void RecentMenu::fill() {
         const QString shown = fontMetrics().elidedText(toQt(file), Qt::ElideMiddle, widest).replace('&', "&&");
         QAction* const action =
             addAction("&" + QString::number(++number) + "  " + shown, this, [this, file] { Q_EMIT chosen(file); });
-        action->setToolTip(toQt(file));
+        action->setToolTip(asTip(toQt(file)));
+        action->setData(toQt(file));
     }
     const bool isEmpty = number == 0;
     if (isEmpty)

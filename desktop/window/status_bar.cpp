@@ -9,8 +9,8 @@
 #include "sdk/db/database.h"
 #include "sdk/db/units.h"
 
-#include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QToolButton>
@@ -25,6 +25,23 @@ namespace words = texts::window;
 
 constexpr std::array kUnits{words::kUnitsGeneric, words::kUnitsAmerican, words::kUnitsInternational};
 
+// Chosen on purpose only: not by a wheel that passes over it, nor by a letter that is meant for the command line.
+class UnitsBox final : public QComboBox {
+public:
+    explicit UnitsBox(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
+
+protected:
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+    void keyPressEvent(QKeyEvent* event) override {
+        const bool isCharacter =
+            !event->text().isEmpty() && event->text().front().isPrint() && event->key() != Qt::Key_Space;
+        if (isCharacter)
+            event->ignore();
+        else
+            QComboBox::keyPressEvent(event);
+    }
+};
+
 QString numberText(double value) {
     ZrString text;
     zrdbRToS(value, -1, -1, text);
@@ -35,12 +52,13 @@ QString numberText(double value) {
 
 StatusBar::StatusBar(Session& session, const Actions& actions, QWidget* parent)
     : QStatusBar(parent), session_(session), coordinates_(new QLabel(this)), progressText_(new QLabel(this)),
-      progress_(new QProgressBar(this)), units_(new QComboBox(this)), ucs_(new QLabel(this)) {
+      progress_(new QProgressBar(this)), units_(new UnitsBox(this)), ucs_(new QLabel(this)) {
     setSizeGripEnabled(true);
     coordinates_->setObjectName("coordinates");
     coordinates_->setMinimumWidth(fontMetrics().horizontalAdvance("-000000.0000, -000000.0000, -000000.0000"));
     coordinates_->setToolTip(toQt(words::kCoordinates));
     addWidget(coordinates_);
+    progressText_->setTextFormat(Qt::PlainText);
     progressText_->hide();
     progress_->setRange(0, 1000);
     progress_->setMaximumWidth(180);
@@ -62,6 +80,7 @@ StatusBar::StatusBar(Session& session, const Actions& actions, QWidget* parent)
     connect(units_, &QComboBox::activated, this, &StatusBar::unitsChosen);
     addPermanentWidget(units_);
     ucs_->setObjectName("ucs");
+    ucs_->setTextFormat(Qt::PlainText);
     ucs_->setToolTip(toQt(words::kUcsTip));
     addPermanentWidget(ucs_);
 }
@@ -113,7 +132,6 @@ void StatusBar::showProgress(const QString& what, double fraction) {
     progress_->setVisible(goesOn);
     progress_->setValue(static_cast<int>(fraction * 1000));
     repaint();
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 } // namespace quor::desktop

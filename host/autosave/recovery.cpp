@@ -86,7 +86,9 @@ Result<Document*, db::FileProblem> Recovery::recover(Session& session, Autosave&
         return fail(drawing.error());
     DocumentManager& documents = session.documents();
     const fs::path path = toUtf8(copy.info.path);
-    const bool hasPlace = !path.empty() && commands::openDocument(session, path) == nullptr;
+    // A file that was written after the copy holds something else: SAVE must not replace it without a word.
+    const bool hasPlace =
+        !path.empty() && commands::openDocument(session, path) == nullptr && timeOf(path) <= copy.info.time;
     Document& document = hasPlace ? documents.adopt(std::move(drawing).value(), path)
                                   : documents.adoptNew(std::move(drawing).value(), copy.info.title);
     document.drawing().journal().markUnsaved();

@@ -107,8 +107,10 @@ constexpr HelpPage kPages[] = {
     {L"PROPERTIES", kObjects,
      {L"显示对象的特性，内容与 LIST 相同；对象保持选定。",
       L"Shows the properties of objects as LIST does; they stay selected."},
-     {L"选择对象，与 SELECT 相同；已经选好的对象直接显示。显示的对象此后保持选定，供下一个命令使用。",
-      L"Select objects as in SELECT; objects already selected are shown at once. Either way they are selected afterwards, for "
+     {L"有窗口的程序打开特性选项板，特性可以在其中更改。在终端中选择对象，与 SELECT 相同；已经选好的对象直接显示。"
+      L"显示的对象此后保持选定，供下一个命令使用。",
+      L"A program with windows opens the Properties palette, where they can be changed. On a terminal, select objects as in "
+      L"SELECT; objects already selected are shown at once. Either way they are selected afterwards, for "
       L"the next command."},
      L"PROPERTIES ALL "},
     {L"CHPROP", kObjects,

@@ -49,6 +49,22 @@ TEST(DialogsOfCommandsTest, TheFirstLinkTurnsDefaultLightingOffWhenTheLightIsKep
     });
 }
 
+TEST(DialogsOfCommandsTest, TheTickedBoxIsKeptAndTheQuestionIsNotAskedAgain) {
+    withProgram(usualOptions(), [](Person& person) {
+        person.types("POINTLIGHT");
+        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space, Qt::Key_2})
+            person.presses(key);
+        person.types("1,2,3");
+        person.types("");
+        EXPECT_EQ(defaultLighting(person), 1);
+        person.types("POINTLIGHT");
+        EXPECT_FALSE(isOpen<TaskDialog>(person));
+        person.types("4,5,6");
+        person.types("");
+        EXPECT_EQ(lights(person), 2U);
+    });
+}
+
 TEST(DialogsOfCommandsTest, EscAtTheDialogMakesNoLight) {
     withProgram(usualOptions(), [](Person& person) {
         person.types("POINTLIGHT");

@@ -43,7 +43,7 @@ TEST(ScriptsTest, EscStopsAScriptBetweenItsCommands) {
 TEST(ScriptsTest, WindowLivesWhileAScriptRuns) {
     withProgram(usualOptions(), [](Person& person) {
         bool questionWasOpen = true;
-        startScript(person, linesOfScript(20'000),
+        startScript(person, linesOfScript(60'000),
                     [&] { questionWasOpen = person.program().front().question() != nullptr; });
         EXPECT_FALSE(questionWasOpen);
     });
@@ -51,7 +51,7 @@ TEST(ScriptsTest, WindowLivesWhileAScriptRuns) {
 
 TEST(ScriptsTest, WhatIsTypedWhileAScriptRunsStandsInTheLineAfterwards) {
     withProgram(usualOptions(), [](Person& person) {
-        startScript(person, linesOfScript(20'000), [&] { QTest::keyClicks(&inputOf(person), "12"); });
+        startScript(person, linesOfScript(60'000), [&] { QTest::keyClicks(&inputOf(person), "12"); });
         EXPECT_EQ(person.sees([&] { return inputOf(person).text(); }), "12");
     });
 }

@@ -200,6 +200,29 @@ TEST_F(Layers, ColourIsChosenInADialog) {
     EXPECT_EQ(table().item(1, LayerTable::Color)->text(), "10,20,30");
 }
 
+TEST_F(Layers, ColourIsTypedAndAcceptedByKeyboardAlone) {
+    goTo("Walls", LayerTable::Color);
+    press(Qt::Key_Return);
+    auto& dialog = part<QColorDialog>("colors");
+    auto* const code = dialog.findChild<QLineEdit*>();
+    ASSERT_NE(code, nullptr);
+    code->setFocus();
+    code->selectAll();
+    type("#0A141E");
+    press(Qt::Key_Return);
+
+    EXPECT_EQ(read(walls)->color(), ZrCmColor::fromRGB(10, 20, 30));
+}
+
+TEST_F(Layers, ColourDialogIsLeftWithEsc) {
+    const ZrCmColor before = read(walls)->color();
+    goTo("Walls", LayerTable::Color);
+    press(Qt::Key_Return);
+    press(Qt::Key_Escape);
+
+    EXPECT_EQ(read(walls)->color(), before);
+}
+
 TEST_F(Layers, FilterLeavesThoseThatHoldItsText) {
     part<QLineEdit>("filter").setFocus();
     type("wi");

@@ -7,6 +7,8 @@
 #include "host/ed/command_processor.h"
 #include "host/texts/text.h"
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -114,7 +116,8 @@ void Person::takesPicture(const QString& name, QWidget* widget) {
         QDir folder(QString(QUOR_BUILD_DIR) + "/pictures");
         folder.mkpath(".");
         QWidget* const shown = widget != nullptr ? widget : &program_.window();
-        shown->grab().save(folder.filePath(name + ".png"));
+        if (!shown->grab().save(folder.filePath(name + ".png")))
+            ADD_FAILURE() << "the picture " << name.toStdString() << " could not be kept";
     });
 }
 

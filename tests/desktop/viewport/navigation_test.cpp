@@ -37,6 +37,14 @@ TEST(NavigationTest, ShiftAndTheMiddleButtonTurnTheDrawing) {
     });
 }
 
+TEST(NavigationTest, ControlAndTheMiddleButtonTurnTheDrawingWhenTheMouseMoves) {
+    withScreen([](Screen& screen) {
+        screen.drags({400, 400}, {450, 300}, Qt::MiddleButton, Qt::ControlModifier);
+        EXPECT_NE(screen.camera().backward, ZrGeVector3d::kZAxis);
+        EXPECT_EQ(screen.camera().height, 60);
+    });
+}
+
 TEST(NavigationTest, AltAndTheLeftButtonTurnTheDrawingToo) {
     withScreen([](Screen& screen) {
         screen.drags({400, 400}, {450, 300}, Qt::LeftButton, Qt::AltModifier);

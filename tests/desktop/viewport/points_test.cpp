@@ -1,11 +1,17 @@
 // Answering points with the mouse.
 #include "desktop/front/desktop_front_end.h"
+#include "host/document.h"
 #include "host/sys/system_variables.h"
 #include "sdk/db/light.h"
 #include "sdk/db/line.h"
 #include "tests/desktop/viewport/screen.h"
 
 #include <gtest/gtest.h>
+
+#include <QImage>
+#include <QPixmap>
+
+#include <cmath>
 
 namespace quor::desktop::test {
 namespace {
@@ -103,6 +109,54 @@ TEST(PointsTest, CoordinatesCanBeTypedInTheMiddleOfADrag) {
     });
 }
 
+// How many places between two of the picture look otherwise than before: a dashed line shows in some of them.
+int changedBetween(const QImage& before, const QImage& after, QPoint from, QPoint to) {
+    constexpr int kPlaces = 60;
+    int changed = 0;
+    for (int i = 10; i < kPlaces - 10; ++i) {
+        const QPoint place = from + (to - from) * i / kPlaces;
+        changed += before.pixel(place) != after.pixel(place) ? 1 : 0;
+    }
+    return changed;
+}
+
+TEST(DragTest, EnterPlacesTheLightAtTheOriginAndTheTargetHangsOnIt) {
+    withScreen([](Screen& screen) {
+        const auto seen = [&] { return screen.person().sees([&] { return screen.viewport().grab().toImage(); }); };
+        screen.types(L"SPOTLIGHT");
+        screen.moves({450, 250});
+        screen.types(L"");
+        const auto base = screen.person().sees([&] { return screen.person().program().front().question()->base; });
+        EXPECT_EQ(base, ZrGePoint3d(0, 0, 0));
+        screen.moves({150, 500});
+        const QImage elsewhere = seen();
+        screen.moves({700, 100});
+        EXPECT_GT(changedBetween(elsewhere, seen(), {400, 300}, {700, 100}), 5);
+    });
+}
+
+TEST(DragTest, ATargetOnItsSpotlightIsRefusedAndAskedForAgain) {
+    withScreen([](Screen& screen) {
+        screen.types(L"SPOTLIGHT");
+        screen.clicks({420, 280});
+        screen.clicks({420, 280});
+        EXPECT_TRUE(screen.person().screen().contains("**聚光灯的光源和目标不能相同。**"));
+        EXPECT_EQ(screen.question(), Question::Kind::Point);
+        screen.clicks({500, 280});
+        EXPECT_EQ(screen.question(), Question::Kind::Keyword);
+    });
+}
+
+TEST(DragTest, EscMakesNoLight) {
+    withScreen([](Screen& screen) {
+        screen.types(L"POINTLIGHT");
+        screen.moves({450, 250});
+        screen.presses(Qt::Key_Escape);
+        EXPECT_EQ(screen.question(), Question::Kind::Command);
+        EXPECT_TRUE(screen.objects().empty());
+    });
+}
+
 class SnapsTest : public testing::Test {
 protected:
     // A line from (0, 0) to (20, 10) stands there; where does another one begin that is clicked at a place?
@@ -128,6 +182,33 @@ TEST_F(SnapsTest, NearTheMiddleItIsTheMiddle) {
     withScreen([](Screen& screen) {
         draw(screen);
         EXPECT_EQ(clicked(screen, {10, 5, 0}), ZrGePoint3d(10, 5, 0));
+    });
+}
+
+TEST_F(SnapsTest, OnACircleItIsTheCenter) {
+    withScreen([](Screen& screen) {
+        const std::string circle =
+            "0\nSECTION\n2\nENTITIES\n0\nCIRCLE\n5\nA1\n8\n0\n10\n3\n20\n4\n30\n0\n40\n10\n0\nENDSEC\n0\nEOF\n";
+        const gs::Camera fromAbove = screen.camera();
+        screen.person().does([&] {
+            auto drawing = db::Database::fromBytes(circle);
+            screen.person().program().session().documents().adopt(std::move(drawing).value(), {});
+        });
+        screen.looksWith(fromAbove);
+        screen.types(L"LINE");
+        const QPoint place = screen.at({3 + 10 * std::sqrt(0.5), 4 + 10 * std::sqrt(0.5), 0});
+        screen.moves(place);
+        screen.clicks(place);
+        screen.types({L"-20,-20", L""});
+        EXPECT_EQ(lastLine(screen).start, ZrGePoint3d(3, 4, 0));
+    });
+}
+
+TEST_F(SnapsTest, OnAFilledFaceItIsWhereTheFaceIsSeen) {
+    withScreen([](Screen& screen) {
+        screen.types({L"3DFACE", L"-20,-20,5", L"20,-20,5", L"20,20,5", L"-20,20,5", L"", L"VISUALSTYLE", L"_Shaded"});
+        const ZrGePoint3d start = clicked(screen, {7, 3, 5});
+        EXPECT_NEAR(start.z, 5, 1e-3);
     });
 }
 

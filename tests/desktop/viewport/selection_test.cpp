@@ -212,5 +212,15 @@ TEST_F(SelectionTest, WhileABlockIsEditedInPlaceNothingElseIsSelected) {
     });
 }
 
+TEST(BegunRectangleTest, ACommandThatIsTypedLeavesIt) {
+    withScreen([](Screen& screen) {
+        screen.types({L"LINE", L"0,0", L"5,5", L""});
+        screen.clicks({100, 100});
+        screen.types(L"REGEN");
+        screen.clicks({700, 500});
+        EXPECT_TRUE(screen.selected().empty());
+    });
+}
+
 } // namespace
 } // namespace quor::desktop::test

@@ -55,7 +55,7 @@ TEST(DocumentTabsTest, StarGoesWhenTheDrawingIsSaved) {
         at.types("SAVE");
         EXPECT_EQ(at.tabTexts(), QStringList("plan && 户型.dxf"));
         EXPECT_EQ(at.title(), "plan & 户型.dxf - Quor");
-        EXPECT_EQ(at.person().sees([&] { return at.tabs().tabToolTip(0); }), file);
+        EXPECT_TRUE(at.person().sees([&] { return at.tabs().tabToolTip(0); }).contains(file.toHtmlEscaped()));
     });
 }
 

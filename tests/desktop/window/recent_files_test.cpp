@@ -47,8 +47,8 @@ protected:
         return at.person().sees([&] {
             QStringList texts;
             for (const QAction* const action : actions)
-                if (!action->toolTip().isEmpty() && action->text().startsWith('&'))
-                    texts.push_back(action->toolTip());
+                if (!action->data().isNull())
+                    texts.push_back(action->data().toString());
             return texts;
         });
     }

@@ -9,10 +9,12 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QProgressBar>
 #include <QTest>
+#include <QWheelEvent>
 
 namespace quor::desktop::test {
 namespace {
@@ -71,6 +73,33 @@ TEST(StatusBarTest, UnitsFollowTheVariable) {
         at.types({"LIGHTINGUNITS", "0"});
         EXPECT_EQ(at.person().sees([&] { return units.currentIndex(); }), 0);
     });
+}
+
+TEST(StatusBarTest, UnitsAreNotTurnedByAWheelThatPassesOverThem) {
+    atTheWindow([](AtTheWindow& at) {
+        auto& units = at.part<QComboBox>("units");
+        at.person().does([&] {
+            QWheelEvent turn(QPointF(4, 4), units.mapToGlobal(QPointF(4, 4)), {}, QPoint(0, 120), Qt::NoButton,
+                             Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&units, &turn);
+        });
+        EXPECT_EQ(at.variable(L"LIGHTINGUNITS"), "2");
+    });
+}
+
+TEST(StatusBarTest, WhatIsTypedOverTheUnitsGoesToTheCommandLine) {
+    atTheWindow([](AtTheWindow& at) {
+        auto& units = at.part<QComboBox>("units");
+        at.person().does([&] { units.setFocus(); });
+        at.person().types("LINE");
+        EXPECT_EQ(at.person().sees([&] { return at.person().program().front().question()->kind; }),
+                  Question::Kind::Point);
+        EXPECT_EQ(at.variable(L"LIGHTINGUNITS"), "2");
+    });
+}
+
+TEST(StatusBarTest, NamesFromADrawingAreShownAsTheyStand) {
+    atTheWindow([](AtTheWindow& at) { EXPECT_EQ(at.part<QLabel>("ucs").textFormat(), Qt::PlainText); });
 }
 
 TEST(StatusBarTest, UnitsOfAQuestionForATextStayAsTheyAre) {

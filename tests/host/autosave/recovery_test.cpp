@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <csignal>
 #include <fstream>
 #include <sys/wait.h>
@@ -180,6 +181,14 @@ TEST_F(RecoveredTest, UndoDoesNotMakeItUnmodified) {
 TEST_F(RecoveredTest, BesideTheDrawingThatIsOpenItHasNoPath) {
     leave(scratch_.path() / "plan.dxf");
     test_->run({L"OPEN", textOf(scratch_.path() / "plan.dxf")});
+    const Document& document = recovered();
+    EXPECT_TRUE(document.path().empty());
+    EXPECT_EQ(document.fileName(), L"plan.dxf");
+}
+
+TEST_F(RecoveredTest, OverAFileThatIsNewerItHasNoPath) {
+    leave(scratch_.path() / "plan.dxf");
+    fs::last_write_time(scratch_.path() / "plan.dxf", fs::file_time_type::clock::now() + std::chrono::minutes(1));
     const Document& document = recovered();
     EXPECT_TRUE(document.path().empty());
     EXPECT_EQ(document.fileName(), L"plan.dxf");
